@@ -1,0 +1,48 @@
+# What every target of this tree is compiled with, and the two ways to add one.
+
+add_library(rotavue_options INTERFACE)
+target_compile_features(rotavue_options INTERFACE cxx_std_20)
+target_include_directories(rotavue_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(
+    rotavue_options
+    INTERFACE
+        -Wall
+        -Wextra
+        -Wpedantic
+        -Wshadow
+        -Wconversion
+        -Wsign-conversion
+        -Wold-style-cast
+        -Wnon-virtual-dtor
+        -Woverloaded-virtual
+        -Wformat=2
+        -Werror
+        # A fused multiply-add rounds once where the graph's arithmetic rounds twice, and moves pixels.
+        -ffp-contract=off
+        # No build path in a binary.
+        -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.
+)
+if(ROTAVUE_SANITIZE)
+    target_compile_options(
+        rotavue_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                  -fno-omit-frame-pointer
+    )
+    target_link_options(rotavue_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# rotavue_library(NAME SOURCES a.cpp ... LIBRARIES x ...): a static library of one folder.
+function(rotavue_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC rotavue_options ${ARG_LIBRARIES})
+endfunction()
+
+# rotavue_test(NAME SOURCES a_test.cpp ... LIBRARIES x ...): one GoogleTest program; `./test` runs
+# every program that this makes.
+function(rotavue_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE rotavue_options ${ARG_LIBRARIES} GTest::gtest_main)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
+    add_test(NAME ${name} COMMAND ${name})
+endfunction()
