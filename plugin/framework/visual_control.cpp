@@ -1,0 +1,1 @@
+#include "plugin/framework/visual_control.h"
