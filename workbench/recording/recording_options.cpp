@@ -1,8 +1,46 @@
 #include "workbench/recording/recording_options.h"
 
+#include <utility>
+
+#include "workbench/recording/option_items.h"
 #include "workbench/recording/option_words.h"
+#include "workbench/recording/recording_error.h"
 
 namespace Rotavue::Workbench {
+namespace {
+
+void checkItem(const OptionItem& item, RecordingOptions& options) {
+    const auto check = [&](const auto& kind) {
+        if constexpr (requires { isAllowed(kind, 0); }) {
+            const auto& value = kind.field(options);
+            if (!value || isAllowed(kind, *value)) return;
+            throw RecordingError({}, numberText(*value) + " at " + std::string(item.pointer),
+                                 allowedText(kind));
+        }
+    };
+    std::visit(check, item.kind);
+}
+
+}  // namespace
+
+RecordingOptions overlaid(RecordingOptions below, const RecordingOptions& above) {
+    RecordingOptions source = above;
+    if (source.machineFile) below.machineFile = source.machineFile;
+    for (const OptionItem& item : optionItems()) {
+        const auto take = [&](const auto& kind) {
+            auto& value = kind.field(source);
+            if (value) kind.field(below) = std::move(value);
+        };
+        std::visit(take, item.kind);
+    }
+    return below;
+}
+
+void checkOptions(const RecordingOptions& options) {
+    RecordingOptions checked = options;
+    for (const OptionItem& item : optionItems())
+        checkItem(item, checked);
+}
 
 std::optional<Rotation> parseRotation(std::string_view text) {
     return valueOf<Rotation>(RotationWords, text);

@@ -1,0 +1,169 @@
+#include "workbench/recording/machine_file.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "workbench/recording/input_file.h"
+#include "workbench/recording/nearest_name.h"
+#include "workbench/recording/option_items.h"
+#include "workbench/recording/recording_error.h"
+
+namespace Rotavue::Workbench {
+namespace {
+
+using Json = nlohmann::json;
+using Pointer = Json::json_pointer;
+
+constexpr std::size_t LargestFile = 65'536;
+constexpr std::size_t LongestText = 200;
+
+// What a JSON value becomes in the field of an item; nothing if it is of a wrong kind or range.
+std::optional<double> valueFrom(const Json& json, const NumberItem& item) {
+    if (!json.is_number() || !isAllowed(item, json.get<double>())) return std::nullopt;
+    return json.get<double>();
+}
+
+std::optional<double> valueFrom(const Json& json, const AngleItem& item) {
+    if (json.is_string()) return parseProbeAngle(json.get_ref<const std::string&>());
+    if (!json.is_number() || !isAllowed(item, json.get<double>())) return std::nullopt;
+    return json.get<double>();
+}
+
+std::optional<int> valueFrom(const Json& json, const CountItem& item) {
+    if (!json.is_number_integer() || !isAllowed(item, json.get<long long>())) return std::nullopt;
+    return json.get<int>();
+}
+
+std::optional<std::string> valueFrom(const Json& json, const TextItem&) {
+    if (!json.is_string()) return std::nullopt;
+    const auto& text = json.get_ref<const std::string&>();
+    return !text.empty() && text.size() <= LongestText ? std::optional(text) : std::nullopt;
+}
+
+template <typename Value>
+std::optional<Value> valueFrom(const Json& json, const WordItem<Value>& item) {
+    if (!json.is_string()) return std::nullopt;
+    return valueOf(item.words, json.get_ref<const std::string&>());
+}
+
+// The names that may stand in the object at `parent`, which is "" or such as "/x".
+std::vector<std::string> memberNames(const std::string& parent) {
+    std::vector<std::string> names;
+    for (const OptionItem& item : optionItems()) {
+        if (!item.pointer.starts_with(parent + '/')) continue;
+        const std::string_view rest = item.pointer.substr(parent.size() + 1);
+        const std::string name(rest.substr(0, rest.find('/')));
+        if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+    }
+    return names;
+}
+
+const OptionItem* itemAt(const std::string& pointer) {
+    const auto items = optionItems();
+    const auto found = std::find_if(items.begin(), items.end(), [&](const OptionItem& item) {
+        return item.pointer == pointer;
+    });
+    return found != items.end() ? &*found : nullptr;
+}
+
+std::string shownValue(const Json& value) {
+    if (value.is_string()) return inQuotes(value.get_ref<const std::string&>());
+    if (value.is_array()) return "a list";
+    return value.is_object() ? "an object" : value.dump();
+}
+
+class MachineReader {
+public:
+    explicit MachineReader(const std::filesystem::path& file) : file_(file) {}
+
+    RecordingOptions read() {
+        takeObject(parse(), Pointer());
+        return std::move(options_);
+    }
+
+private:
+    Json parse() const;
+    void takeObject(const Json& object, const Pointer& pointer);
+    void takeMember(const Json& value, const Pointer& pointer);
+    void takeItem(const Json& value, const OptionItem& item);
+    [[noreturn]] void refuse(const Json& value, const std::string& pointer,
+                             const std::string& allowed) const;
+    [[noreturn]] void refuseUnknown(const Pointer& pointer) const;
+
+    std::filesystem::path file_;
+    RecordingOptions options_;
+};
+
+// Line and column of a byte, both from 1.
+FilePlace placeOf(const std::filesystem::path& file, std::string_view text, std::size_t byte) {
+    const std::string_view before = text.substr(0, byte);
+    const auto lines = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
+    const std::size_t lineStart = lines > 0 ? before.rfind('\n') + 1 : 0;
+    return {file, lines + 1, before.size() - lineStart + 1};
+}
+
+Json MachineReader::parse() const {
+    const std::string text = readSmallFile(file_, LargestFile);
+    try {
+        return Json::parse(text);
+    } catch (const Json::parse_error& error) {
+        const std::size_t byte = error.byte > 0 ? error.byte - 1 : 0;
+        const std::string found =
+            byte < text.size() ? inQuotes(text.substr(byte, 1)) : "the end of the file";
+        throw RecordingError(placeOf(file_, text, byte), found, "a JSON object");
+    } catch (const Json::exception&) {
+        throw RecordingError({file_}, "a number beyond all bounds", "a JSON object");
+    }
+}
+
+void MachineReader::takeObject(const Json& object, const Pointer& pointer) {
+    if (!object.is_object()) refuse(object, pointer.to_string(), "an object");
+    for (const auto& [name, value] : object.items())
+        takeMember(value, pointer / name);
+}
+
+void MachineReader::takeMember(const Json& value, const Pointer& pointer) {
+    const std::string text = pointer.to_string();
+    if (const OptionItem* item = itemAt(text)) return takeItem(value, *item);
+    if (memberNames(text).empty()) refuseUnknown(pointer);
+    takeObject(value, pointer);
+}
+
+void MachineReader::takeItem(const Json& value, const OptionItem& item) {
+    const auto take = [&](const auto& kind) {
+        auto taken = valueFrom(value, kind);
+        if (!taken) refuse(value, std::string(item.pointer), allowedText(kind));
+        kind.field(options_) = std::move(taken);
+    };
+    std::visit(take, item.kind);
+}
+
+void MachineReader::refuse(const Json& value, const std::string& pointer,
+                           const std::string& allowed) const {
+    const std::string place = pointer.empty() ? "the top level" : pointer;
+    throw RecordingError({file_}, shownValue(value) + " at " + place, allowed);
+}
+
+void MachineReader::refuseUnknown(const Pointer& pointer) const {
+    const std::vector<std::string> names = memberNames(pointer.parent_pointer().to_string());
+    throw RecordingError({file_},
+                         "the unknown member " + inQuotes(pointer.to_string()) +
+                             " (the nearest name is " +
+                             inQuotes(nearestName(pointer.back(), names)) + ")",
+                         listText(names));
+}
+
+}  // namespace
+
+std::filesystem::path machineFileOf(const std::filesystem::path& recording) {
+    std::filesystem::path file = recording;
+    return file.replace_extension(".machine.json");
+}
+
+RecordingOptions readMachineFile(const std::filesystem::path& file) {
+    return MachineReader(file).read();
+}
+
+}  // namespace Rotavue::Workbench
