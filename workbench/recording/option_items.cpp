@@ -16,6 +16,7 @@ using Keyphasor = KeyphasorOptions;
 constexpr double LeastRate = 1e-3;
 constexpr double LargestRate = 1e9;
 constexpr double LargestValue = 1e12;
+constexpr double LeastSensitivity = 1e-12;
 constexpr int LargestPulseCount = 3600;
 
 // The field that a path of members leads to.
@@ -29,7 +30,7 @@ constexpr NumberItem valueItem(FieldOf<double> field) {
 }
 
 constexpr NumberItem sensitivityItem(FieldOf<double> field) {
-    return {field, -LargestValue, LargestValue, false};
+    return {field, -LargestValue, LargestValue, LeastSensitivity};
 }
 
 const OptionItem Items[] = {
@@ -69,7 +70,7 @@ std::string rangeText(std::string_view what, const std::string& least, const std
 
 std::string describe(const NumberItem& item) {
     return rangeText("a number", numberText(item.least), numberText(item.most)) +
-           (item.zeroAllowed ? "" : ", not 0");
+           (item.leastMagnitude > 0.0 ? ", not 0" : "");
 }
 
 std::string describe(const CountItem& item) {
@@ -102,7 +103,7 @@ std::span<const OptionItem> optionItems() {
 }
 
 bool isAllowed(const NumberItem& item, double value) {
-    return value >= item.least && value <= item.most && (item.zeroAllowed || value != 0.0);
+    return value >= item.least && value <= item.most && std::abs(value) >= item.leastMagnitude;
 }
 
 bool isAllowed(const CountItem& item, long long value) {

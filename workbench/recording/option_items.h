@@ -21,7 +21,7 @@ struct NumberItem {
     FieldOf<double> field;
     double least;
     double most;
-    bool zeroAllowed = true;
+    double leastMagnitude = 0.0;  // nearer to 0 than this it may not be
 };
 
 struct CountItem {

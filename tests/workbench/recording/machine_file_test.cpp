@@ -103,10 +103,11 @@ TEST_F(MachineFile, NamesTheNearestOfAnUnknownMember) {
     EXPECT_EQ(faultOf(R"({"x": {"angel": 45}})"),
               "r.machine.json: found the unknown member \"/x/angel\" (the nearest name is "
               "\"angle\"), allowed: column, angle, sensitivity and rest");
-    EXPECT_EQ(faultOf(R"({"clearence": {}})"),
-              "r.machine.json: found the unknown member \"/clearence\" (the nearest name is "
-              "\"clearance\"), allowed: machine, point, unit, rate, time, rotation, coupling, x, y, "
-              "keyphasor and others");
+    EXPECT_EQ(
+        faultOf(R"({"clearence": {}})"),
+        "r.machine.json: found the unknown member \"/clearence\" (the nearest name is "
+        "\"clearance\"), allowed: machine, point, unit, rate, time, rotation, coupling, x, y, "
+        "keyphasor and others");
     // A name with a slash is escaped, so that it is not taken for two.
     EXPECT_NE(faultOf(R"({"x/angle": 45})").find("\"/x~1angle\""), std::string::npos);
 }

@@ -1,0 +1,37 @@
+#include "workbench/recording/recording.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "workbench/recording/csv_file.h"
+#include "workbench/recording/input_file.h"
+#include "workbench/recording/machine_file.h"
+#include "workbench/recording/recording_builder.h"
+#include "workbench/recording/wav_file.h"
+
+namespace Rotavue::Workbench {
+namespace {
+
+std::unique_ptr<SampleSource> openSource(const std::filesystem::path& file) {
+    if (isWavFile(file) || file.extension() == ".wav") return std::make_unique<WavFile>(file);
+    return std::make_unique<CsvFile>(file);
+}
+
+// What is set outside goes before the machine file; a machine file that is named must be there.
+RecordingOptions withMachineFile(const std::filesystem::path& file,
+                                 const RecordingOptions& options) {
+    const std::filesystem::path beside = machineFileOf(file);
+    const bool found = options.machineFile || std::filesystem::exists(beside);
+    if (!found) return options;
+    return overlaid(readMachineFile(options.machineFile.value_or(beside)), options);
+}
+
+}  // namespace
+
+Recording readRecording(const std::filesystem::path& file, const RecordingOptions& options) {
+    checkOptions(options);
+    const std::unique_ptr<SampleSource> source = openSource(file);
+    return RecordingBuilder(file, *source, withMachineFile(file, options)).build();
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,267 @@
+#include "workbench/recording/recording_builder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+#include "workbench/recording/column_roles.h"
+#include "workbench/recording/degrees.h"
+#include "workbench/recording/keyphasor.h"
+#include "workbench/recording/number_field.h"
+#include "workbench/recording/option_items.h"
+#include "workbench/recording/time_column.h"
+
+namespace Rotavue::Workbench {
+namespace {
+
+constexpr double LeastRate = 1e-3;
+constexpr double LargestRate = 1e9;
+constexpr double LargestSpeed = 1e9;      // rpm
+constexpr double LargestTimeStray = 3.0;  // steps, before it is worth a note
+constexpr double SecondsPerMinute = 60.0;
+
+// The mean over what is no gap.
+double meanOf(const std::vector<double>& values) {
+    double sum = 0.0;
+    std::size_t count = 0;
+    for (const double value : values) {
+        if (std::isnan(value)) continue;
+        sum += value;
+        ++count;
+    }
+    return count > 0 ? sum / static_cast<double>(count) : 0.0;
+}
+
+bool isGap(double x, double y) {
+    return std::isnan(x) || std::isnan(y);
+}
+
+}  // namespace
+
+RecordingBuilder::RecordingBuilder(const std::filesystem::path& file, SampleSource& source,
+                                   RecordingOptions options)
+    : source_(source), options_(std::move(options)) {
+    recording_.file = file;
+}
+
+Recording RecordingBuilder::build() {
+    recording_.columns = assignRoles(recording_.file, source_.head(), options_);
+    readColumns();
+    takeRate();
+    takeDisplacements();
+    takeKeyphasor();
+    takeFacts();
+    return std::move(recording_);
+}
+
+// A time column that a given rate replaces isn't read: it may be what is wrong with the file.
+void RecordingBuilder::readColumns() {
+    for (std::size_t i = 0; i < recording_.columns.size(); ++i) {
+        const ColumnRole role = recording_.columns[i].role;
+        const bool replaced = role == ColumnRole::Time && options_.rate;
+        if (role != ColumnRole::Unused && !replaced) wanted_.push_back({i, role});
+    }
+    values_ = source_.read(wanted_);
+}
+
+// The values of the column with this role, handed over; empty if there is none.
+std::vector<double> RecordingBuilder::taken(ColumnRole role) {
+    for (std::size_t i = 0; i < wanted_.size(); ++i) {
+        if (wanted_[i].role == role) return std::move(values_[i]);
+    }
+    return {};
+}
+
+const RecordingColumn* RecordingBuilder::columnOf(ColumnRole role) const {
+    const auto found =
+        std::find_if(recording_.columns.begin(), recording_.columns.end(),
+                     [&](const RecordingColumn& column) { return column.role == role; });
+    return found != recording_.columns.end() ? &*found : nullptr;
+}
+
+void RecordingBuilder::takeRate() {
+    const std::vector<double> time = taken(ColumnRole::Time);
+    if (options_.rate) {
+        recording_.sampleRate = *options_.rate;
+        recording_.rateSource = RateSource::Option;
+    } else if (!time.empty()) {
+        takeTime(time);
+    } else if (source_.head().rate) {
+        recording_.sampleRate = *source_.head().rate;
+        recording_.rateSource = RateSource::FileHeader;
+    } else {
+        throw RecordingError({recording_.file}, "neither a time column nor a sample rate",
+                             "a column named t or time, or the rate as an option");
+    }
+}
+
+void RecordingBuilder::takeTime(const std::vector<double>& time) {
+    const auto steps = readTimeSteps(time, secondsPerUnit(columnOf(ColumnRole::Time)->unit));
+    if (!steps) {
+        throw RecordingError({recording_.file}, "a time that stands still",
+                             "two or more rows of rising time, or the rate as an option");
+    }
+    if (!(steps->rate >= LeastRate && steps->rate <= LargestRate)) {
+        throw RecordingError({recording_.file},
+                             "a time column of " + numberText(steps->rate) + " samples per second",
+                             "a rate from 0.001 to 1e+09");
+    }
+    recording_.sampleRate = steps->rate;
+    recording_.rateSource = RateSource::TimeColumn;
+    recording_.startTime = steps->start;
+    if (steps->largestStray * steps->rate > LargestTimeStray) {
+        recording_.notes.push_back("the time strays from equal steps by up to " +
+                                   numberText(steps->largestStray) +
+                                   " s; the samples are taken as equally spaced");
+    }
+}
+
+void RecordingBuilder::takeDisplacements() {
+    recording_.coupling = options_.coupling.value_or(Coupling::Dc);
+    recording_.x = displacement(ColumnRole::X, options_.x);
+    recording_.y = displacement(ColumnRole::Y, options_.y);
+    checkPairs();
+    noteGaps();
+}
+
+std::vector<double> RecordingBuilder::displacement(ColumnRole role, const ProbeOptions& probe) {
+    std::vector<double> values = taken(role);
+    const double rest = probe.rest.value_or(0.0);
+    const double sensitivity = probe.sensitivity.value_or(1.0);
+    for (double& value : values)
+        value = (value - rest) / sensitivity;
+    if (recording_.coupling == Coupling::Ac) {
+        const double mean = meanOf(values);
+        for (double& value : values)
+            value -= mean;
+    }
+    return values;
+}
+
+void RecordingBuilder::checkPairs() const {
+    for (std::size_t i = 0; i < recording_.x.size(); ++i) {
+        if (!isGap(recording_.x[i], recording_.y[i])) return;
+    }
+    throw RecordingError({recording_.file}, "gaps alone in x or y",
+                         "at least one sample in which both have a value");
+}
+
+void RecordingBuilder::noteGaps() {
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < recording_.x.size(); ++i) {
+        if (isGap(recording_.x[i], recording_.y[i])) ++count;
+    }
+    if (count == 0) return;
+    recording_.notes.push_back(std::to_string(count) + " of " +
+                               std::to_string(recording_.x.size()) + " samples are gaps");
+}
+
+void RecordingBuilder::takeKeyphasor() {
+    const RecordingColumn* column = columnOf(ColumnRole::Keyphasor);
+    if (!column) return;
+    std::vector<double> values = taken(ColumnRole::Keyphasor);
+    const auto fromName = options_.keyphasor.kind ? options_.keyphasor.kind : kindFromName(*column);
+    recording_.keyphasorKind = fromName.value_or(kindFromValues(values));
+    switch (recording_.keyphasorKind) {
+        case KeyphasorKind::Ramp:
+            takeRamp(std::move(values));
+            break;
+        case KeyphasorKind::Speed:
+            takeSpeed(std::move(values));
+            break;
+        case KeyphasorKind::Volts:
+        case KeyphasorKind::None:
+            takePulses(values);
+            break;
+    }
+    noteFastTurns();
+}
+
+void RecordingBuilder::takePulses(const std::vector<double>& volts) {
+    const PulseRule rule = pulseRuleFor(volts, options_.keyphasor);
+    const std::vector<double> pulses = findPulses(volts, rule);
+    if (pulses.size() < 2) {
+        recording_.keyphasorKind = KeyphasorKind::None;
+        recording_.notes.push_back("the keyphasor has " + std::to_string(pulses.size()) +
+                                   " pulses at level " + numberText(rule.level) +
+                                   ", two are needed: there is no shaft angle");
+        return;
+    }
+    const int pulsesPerTurn = options_.keyphasor.pulsesPerTurn.value_or(1);
+    recording_.angle = angleFromPulses(pulses, volts.size(), pulsesPerTurn);
+    recording_.meanSpeed = speedFromPulses(pulses, recording_.sampleRate, pulsesPerTurn);
+    for (const double pulse : pulses) {
+        recording_.pulseTimes.push_back(pulse / recording_.sampleRate);
+    }
+}
+
+void RecordingBuilder::takeRamp(std::vector<double> degrees) {
+    const bool radians = columnOf(ColumnRole::Keyphasor)->unit == "rad";
+    const double unit = radians ? 180.0 / std::numbers::pi : 1.0;
+    for (double& angle : degrees)
+        angle = wrappedDegrees(angle * unit);
+    double turns = turnsOf(degrees);
+    if (turns < 0.0) {
+        for (double& angle : degrees)
+            angle = wrappedDegrees(-angle);
+        turns = -turns;
+        recording_.notes.push_back("the shaft angle falls in the file; it was turned over");
+    }
+    const double steps = static_cast<double>(degrees.size()) - 1.0;
+    if (steps > 0.0) {
+        recording_.meanSpeed = turns / steps * recording_.sampleRate * SecondsPerMinute;
+    }
+    recording_.angle = std::move(degrees);
+}
+
+void RecordingBuilder::takeSpeed(std::vector<double> rpm) {
+    const bool hertz = columnOf(ColumnRole::Keyphasor)->unit == "Hz";
+    for (double& speed : rpm) {
+        speed *= hertz ? SecondsPerMinute : 1.0;
+        if (speed >= 0.0 && speed <= LargestSpeed) continue;
+        throw RecordingError({recording_.file}, "a speed of " + numberText(speed) + " rpm",
+                             "0 to 1e+09 rpm");
+    }
+    recording_.meanSpeed = meanOf(rpm);
+    recording_.angle = angleFromSpeed(rpm, recording_.sampleRate);
+}
+
+// From half a turn per sample on, a step forward and a fall-back look alike.
+void RecordingBuilder::noteFastTurns() {
+    const double turnsPerSample = recording_.meanSpeed / SecondsPerMinute / recording_.sampleRate;
+    if (turnsPerSample < 0.5) return;
+    recording_.notes.push_back(
+        "the shaft makes half a turn or more from sample to sample: "
+        "turns cannot be told apart");
+}
+
+void RecordingBuilder::takeFacts() {
+    const SourceHead& head = source_.head();
+    MachineFacts& facts = recording_.machine;
+    facts.machine = options_.machine.value_or(head.machine);
+    facts.point = options_.point.value_or(head.point);
+    facts.unit = unit();
+    facts.xAngle = wrappedDegrees(options_.x.angle.value_or(facts.xAngle));
+    facts.yAngle = wrappedDegrees(options_.y.angle.value_or(facts.yAngle));
+    facts.tachoAngle = wrappedDegrees(options_.keyphasor.angle.value_or(facts.tachoAngle));
+    facts.rotation = options_.rotation;
+    facts.clearanceWidth = options_.clearanceWidth.value_or(0.0);
+    facts.clearanceHeight = options_.clearanceHeight.value_or(0.0);
+}
+
+// The header's unit is that of the file's values: with a sensitivity it says nothing.
+std::string RecordingBuilder::unit() const {
+    if (options_.unit) return *options_.unit;
+    const bool scaled = options_.x.sensitivity || options_.y.sensitivity;
+    if (scaled) return "";
+    const std::string& x = columnOf(ColumnRole::X)->unit;
+    const std::string& y = columnOf(ColumnRole::Y)->unit;
+    if (x != y) {
+        throw RecordingError({recording_.file}, "x in " + inQuotes(x) + " and y in " + inQuotes(y),
+                             "one unit for both, or sensitivities and the unit as options");
+    }
+    return x.empty() ? source_.head().unit : x;
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "workbench/recording/recording.h"
+#include "workbench/recording/sample_source.h"
+
+namespace Rotavue::Workbench {
+
+// Makes a recording from a file's columns: gives each its role, reads those that are wanted, and
+// turns them into sample rate, displacements and shaft angle, with the facts about the machine.
+class RecordingBuilder {
+public:
+    // The source is used by `build` and must outlive it; the options are those of the machine file
+    // and of the caller in one.
+    RecordingBuilder(const std::filesystem::path& file, SampleSource& source,
+                     RecordingOptions options);
+
+    // Called once. Throws RecordingError.
+    Recording build();
+
+private:
+    void readColumns();
+    std::vector<double> taken(ColumnRole role);
+    const RecordingColumn* columnOf(ColumnRole role) const;
+
+    void takeRate();
+    void takeTime(const std::vector<double>& time);
+
+    void takeDisplacements();
+    std::vector<double> displacement(ColumnRole role, const ProbeOptions& probe);
+    void checkPairs() const;
+    void noteGaps();
+
+    void takeKeyphasor();
+    void takePulses(const std::vector<double>& volts);
+    void takeRamp(std::vector<double> degrees);
+    void takeSpeed(std::vector<double> rpm);
+    void noteFastTurns();
+
+    void takeFacts();
+    std::string unit() const;
+
+    SampleSource& source_;
+    RecordingOptions options_;
+    std::vector<WantedColumn> wanted_;
+    std::vector<std::vector<double>> values_;  // as `wanted_`
+    Recording recording_;
+};
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace Rotavue::Workbench {
+
+// What a time column says about the sampling.
+struct TimeSteps {
+    double start = 0.0;         // s, the first value
+    double rate = 0.0;          // samples per second, from the mean step over the whole column
+    double largestStray = 0.0;  // s, between a value and its place at equal steps
+};
+
+// Reads the steps of a column that does not run backward; `secondsPerUnit` is what 1 stands for.
+// One step alone says little where the decimals of the time were cut, so all of them count. A rate
+// within 1e-9 of a whole number is that number. Nothing if there are fewer than two values or the
+// time stands still.
+std::optional<TimeSteps> readTimeSteps(std::span<const double> time, double secondsPerUnit);
+
+// What 1 in a column of this unit stands for, in seconds: "s" or none, "ms", "us", "ns".
+double secondsPerUnit(std::string_view unit);
+
+}  // namespace Rotavue::Workbench
