@@ -3,6 +3,7 @@
 #include "plugin/framework/host/host_object.h"
 #include "plugin/framework/host/ref.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
