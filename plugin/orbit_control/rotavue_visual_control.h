@@ -6,6 +6,7 @@
 #include "plugin/framework/host/panel/host_property_panel.h"
 #include "plugin/framework/visual_control.h"
 #include "plugin/orbit_control/bearing_config.h"
+#include "plugin/orbit_control/data_window.h"
 #include "plugin/orbit_control/extents.h"
 #include "plugin/orbit_control/read_allowance.h"
 #include "plugin/orbit_control/sensor_frame.h"
@@ -35,7 +36,21 @@ class RotavueVisualControl final : public Api::VisualControl {
 public:
     RotavueVisualControl() = default;
 
+    /// Asks the host to load what each curve needs round the analysis cursor. Both results are
+    /// always zero. [message 6 | after attach]
+    void requestData(Host::DataPosition& first, Host::DataPosition& second) override;
+
     void draw(const Api::DrawContext& context) override;
+
+    void onMouseUp(std::uint8_t button, Api::ShiftState shift, std::int32_t x,
+                   std::int32_t y) override;
+    void onMouseDown(std::uint8_t button, Api::ShiftState shift, std::int32_t x,
+                     std::int32_t y) override;
+    void onMouseEnter() override;
+    void onMouseLeave() override;
+    void onMouseMove(Api::ShiftState shift, std::int32_t x, std::int32_t y) override;
+    void onMouseWheel(Api::ShiftState shift, std::int32_t x, std::int32_t y,
+                      bool direction) override;
 
     /// True for a channel whose "OrbitAnalysisChannelType" is "ShaftCenter" or "Orbit".
     bool acceptsChannel(Host::Ref<Host::IHostChannel> channel) override;
@@ -123,6 +138,21 @@ private:
 
     /// Widens a curve's extents by the clearance and folds them into those of the frame.
     void foldExtents(Extents extents);
+
+    // ---- Pointer ---------------------------------------------------------------------------
+
+    void editLimit(AxisLimitLabel label, std::int32_t x, std::int32_t y);
+    void dragView(const Point& pointer);
+    void turnView(bool direction);
+    void zoomView(bool direction);
+
+    // ---- Data requests ---------------------------------------------------------------------
+
+    void requestWholeRange(Host::IHostChannel& channel);
+    void requestChannel(Host::IHostChannel& channel, DataWindow window);
+    void requestGroup(Host::IHostChannelList& group, DataWindow window);
+    std::optional<double> requestedSpan(Host::IHostChannelList& group);
+    void sendRequest(Host::DataPosition from, Host::DataPosition to);
 
     // ---- State, in the order in which it is made; the end runs backward --------------------
 
