@@ -2,24 +2,13 @@
 
 #include "plugin/orbit_graph/geometry.h"
 #include "plugin/orbit_graph/orbit_curve.h"
+#include "plugin/orbit_graph/range.h"
 
 #include <array>
 #include <cstdint>
-#include <limits>
 #include <vector>
 
 namespace Meridax::VisualControls::Rotavue {
-
-/// The extents of data, or the limits of the axes, in data units. A new one is empty: every value
-/// that is folded in becomes its minimum and its maximum.
-struct Range {
-    double xMin = std::numeric_limits<double>::max();
-    double xMax = std::numeric_limits<double>::lowest();
-    double yMin = std::numeric_limits<double>::max();
-    double yMax = std::numeric_limits<double>::lowest();
-
-    bool operator==(const Range&) const = default;
-};
 
 /// Values of `graphType`. Any other number is kept as it came; it has the circle's background,
 /// ticks and symmetric scale, but its limits are edited as a grid's.

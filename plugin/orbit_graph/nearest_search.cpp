@@ -1,0 +1,41 @@
+#include "plugin/orbit_graph/nearest_search.h"
+
+#include <cmath>
+
+namespace Meridax::VisualControls::Rotavue {
+
+NearestSearch::NearestSearch(NearestSample& nearest, const Point& pointer)
+    : nearest_(nearest), pointer_(pointer) {
+    nearest_.distance = std::numeric_limits<double>::max();
+    nearest_.found = false;
+    nearest_.position = pointer;
+}
+
+void NearestSearch::beginCurve(const OrbitCurve& curve) {
+    curve_ = &curve;
+    hasInfo_ = false;
+}
+
+/// Squares that differ can have the same root; the earlier sample then stays.
+bool NearestSearch::takeIfNearer(const Point& value, const Point& position, double squared) {
+    const double distance = std::sqrt(squared);
+    if (!(distance < nearest_.distance)) return false;
+    squaredDistance_ = squared;
+    nearest_.position = position;
+    nearest_.x = value.x;
+    nearest_.y = value.y;
+    nearest_.distance = distance;
+    nearest_.found = true;
+    takeInfo();
+    return true;
+}
+
+/// Once per curve: its texts are the same for all of its samples.
+void NearestSearch::takeInfo() {
+    if (hasInfo_) return;
+    nearest_.info = curve_->info;
+    nearest_.kind = curve_->kind;
+    hasInfo_ = true;
+}
+
+}  // namespace Meridax::VisualControls::Rotavue
