@@ -105,7 +105,8 @@ void RowReader::checkSampleCount(std::size_t rows) const {
 
 void RowReader::refuseCount() const {
     const std::size_t found = fieldsOf(reader_.line(), layout_.delimiter).size();
-    throw RecordingError({file_, reader_.number()}, std::to_string(found) + " fields",
+    throw RecordingError({file_, reader_.number()},
+                         std::to_string(found) + (found == 1 ? " field" : " fields"),
                          std::to_string(layout_.columnCount) + " as in line " +
                              std::to_string(layout_.firstDataLine));
 }
