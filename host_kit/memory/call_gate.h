@@ -34,12 +34,18 @@ public:
     template <class Answer, class... Arguments>
     auto call(Operation operation, const MemoryObject& on, Answer answer,
               const Arguments&... arguments) {
-        if (!attended_[indexOf(operation)]) [[likely]]
-            return answer();
-        return watched(Call{operation, logNameOf(on), {toCallValue(arguments)...}, {}, {}}, answer);
+        if (!attended_[indexOf(operation)]) [[likely]] return answer();
+        return attendedCall(operation, on, answer, arguments...);
     }
 
 private:
+    /// Stays out of line, so that the short way through an operation saves no registers for it.
+    template <class Answer, class... Arguments>
+    [[gnu::noinline]] auto attendedCall(Operation operation, const MemoryObject& on, Answer answer,
+                                        const Arguments&... arguments) {
+        return watched(Call{operation, logNameOf(on), {toCallValue(arguments)...}, {}, {}}, answer);
+    }
+
     template <class Answer>
     std::invoke_result_t<Answer> watched(Call call, Answer& answer);
 
