@@ -34,7 +34,8 @@ public:
     template <class Answer, class... Arguments>
     auto call(Operation operation, const MemoryObject& on, Answer answer,
               const Arguments&... arguments) {
-        if (!attended_[indexOf(operation)]) [[likely]] return answer();
+        if (!attended_[indexOf(operation)]) [[likely]]
+            return answer();
         return attendedCall(operation, on, answer, arguments...);
     }
 

@@ -3,24 +3,18 @@
 namespace Rotavue::HostKit {
 
 ChannelDescription& ChannelTable::operator[](const std::string& id) {
-    Entry& entry = entries_[id];
-    entry.described = true;
-    return entry.record;
-}
-
-bool ChannelTable::contains(const std::string& id) const {
-    const auto found = entries_.find(id);
-    return found != entries_.end() && found->second.described;
+    described_.insert(id);
+    return records_[id];
 }
 
 void ChannelTable::erase(const std::string& id) {
-    const auto found = entries_.find(id);
-    if (found != entries_.end()) found->second = Entry{};
+    if (described_.erase(id) > 0) records_[id] = {};
 }
 
 void ChannelTable::clear() {
-    for (auto& [id, entry] : entries_)
-        entry = Entry{};
+    for (const std::string& id : described_)
+        records_[id] = {};
+    described_.clear();
 }
 
 }  // namespace Rotavue::HostKit

@@ -3,6 +3,7 @@
 #include "host_kit/memory/channel_description.h"
 
 #include <map>
+#include <set>
 #include <string>
 
 namespace Rotavue::HostKit {
@@ -19,19 +20,16 @@ public:
     ChannelDescription& operator[](const std::string& id);
 
     /// The record of that channel, described or not.
-    ChannelDescription& record(const std::string& id) { return entries_[id].record; }
+    ChannelDescription& record(const std::string& id) { return records_[id]; }
 
-    bool contains(const std::string& id) const;
+    bool contains(const std::string& id) const { return described_.contains(id); }
+    const std::set<std::string>& ids() const { return described_; }
     void erase(const std::string& id);
     void clear();
 
 private:
-    struct Entry {
-        ChannelDescription record;
-        bool described = false;
-    };
-
-    std::map<std::string, Entry> entries_;
+    std::map<std::string, ChannelDescription> records_;
+    std::set<std::string> described_;
 };
 
 }  // namespace Rotavue::HostKit

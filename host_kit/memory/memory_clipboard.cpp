@@ -1,0 +1,13 @@
+#include "host_kit/memory/memory_clipboard.h"
+
+#include "host_kit/memory/memory_object.h"
+
+namespace Rotavue::HostKit {
+
+void* MemoryClipboard::offer(const Meridax::Host::Guid& interfaceId) {
+    void* found = interfaceAmong<IHostClipboard>(this, interfaceId);
+    if (found != nullptr) retain();
+    return found;
+}
+
+}  // namespace Rotavue::HostKit
