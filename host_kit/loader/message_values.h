@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host_kit/namespaces.h"
 #include "plugin/framework/host/host_object.h"
 #include "plugin/framework/host/ref.h"
 #include "plugin/framework/message_arguments.h"
@@ -14,9 +15,6 @@
 #include <vector>
 
 namespace Rotavue::HostKit {
-
-namespace Host = Meridax::Host;
-namespace Api = Meridax::VisualControls::Api;
 
 /// One element of an argument list: an object, a text or a number. Like the elements of the
 /// platform's lists it says nothing of its kind to the plug-in, which reads the one that it expects

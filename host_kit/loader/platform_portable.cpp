@@ -1,5 +1,6 @@
 #include "host_kit/loader/platform.h"
 #include "host_kit/memory/utf8.h"
+#include "host_kit/namespaces.h"
 #include "plugin/framework/guid_text.h"
 #include "plugin/module/portable/registry_file.h"
 
@@ -11,7 +12,6 @@ namespace Rotavue::HostKit {
 
 namespace {
 
-namespace Api = Meridax::VisualControls::Api;
 namespace Registry = Meridax::VisualControls::Rotavue;
 
 constexpr const wchar_t* ControlKey = L"SOFTWARE\\Meridax\\VCs\\Rotavue";

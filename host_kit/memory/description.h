@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host_kit/memory/channel_table.h"
+#include "host_kit/namespaces.h"
 #include "plugin/framework/host/data/data_position.h"
 #include "plugin/framework/host/data/host_app.h"
 

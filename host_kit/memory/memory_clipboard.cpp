@@ -4,8 +4,8 @@
 
 namespace Rotavue::HostKit {
 
-void* MemoryClipboard::offer(const Meridax::Host::Guid& interfaceId) {
-    void* found = interfaceAmong<IHostClipboard>(this, interfaceId);
+void* MemoryClipboard::offer(const Host::Guid& interfaceId) {
+    void* found = interfaceAmong<Api::IHostClipboard>(this, interfaceId);
     if (found != nullptr) retain();
     return found;
 }

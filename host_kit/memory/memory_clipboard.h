@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host_kit/namespaces.h"
 #include "plugin/framework/plugin_interfaces.h"
 
 #include <cstdint>
@@ -10,10 +11,8 @@
 namespace Rotavue::HostKit {
 
 /// A clipboard that keeps the text in memory.
-class MemoryClipboard final : public Meridax::VisualControls::Api::IHostClipboard {
+class MemoryClipboard final : public Api::IHostClipboard {
 public:
-    using IHostClipboard = Meridax::VisualControls::Api::IHostClipboard;
-
     /// The text that was put last; nothing where none was.
     const std::optional<std::wstring>& text() const { return text_; }
 
@@ -25,7 +24,7 @@ public:
 
     void retain() noexcept override { ++references_; }
     void release() noexcept override { --references_; }
-    void* offer(const Meridax::Host::Guid& interfaceId) override;
+    void* offer(const Host::Guid& interfaceId) override;
     void putText(const std::wstring& text) override { text_ = text; }
 
 private:

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "host_kit/memory/operation_table.h"
+#include "host_kit/namespaces.h"
 #include "plugin/framework/host/guid.h"
 
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string_view>
 
 namespace Rotavue::HostKit {
-
-namespace Host = Meridax::Host;
 
 inline constexpr std::size_t OperationCount = OperationTable.size();
 inline constexpr std::size_t CallGroupCount = CallGroupNames.size();

@@ -1,13 +1,12 @@
 #include "host_kit/memory/utf8.h"
 
+#include "host_kit/namespaces.h"
 #include "plugin/framework/unicode.h"
 
 #include <algorithm>
 #include <stdexcept>
 
 namespace Rotavue::HostKit {
-
-namespace Api = Meridax::VisualControls::Api;
 
 std::string toUtf8(std::wstring_view text) {
     return Api::utf8FromWide(Api::wideFromUtf16(Api::utf16FromWide(text)));
