@@ -21,4 +21,9 @@ constexpr bool isFailure(std::uint32_t status) {
     return (status & 0x80000000U) != 0;
 }
 
+/// The status as the operations and entry points of the plug-in return it.
+constexpr std::int32_t asResult(std::uint32_t status) {
+    return static_cast<std::int32_t>(status);
+}
+
 }  // namespace Meridax::Host::Status

@@ -1,0 +1,23 @@
+#include "plugin/framework/clipboard_copy.h"
+
+#include "plugin/framework/unicode.h"
+
+#include <cstring>
+
+namespace Meridax::VisualControls::Api {
+
+void copyToClipboard(SystemClipboard& clipboard, std::wstring_view text) {
+    const std::u16string units = utf16FromWide(text.substr(0, text.find(L'\0')));
+    const std::size_t bytes = (units.size() + 1) * sizeof(char16_t);
+
+    clipboard.open();
+    clipboard.empty();
+    const SystemClipboard::Block block = clipboard.allocate(bytes);
+    if (void* const memory = clipboard.lock(block)) std::memcpy(memory, units.c_str(), bytes);
+    clipboard.unlock(block);
+    clipboard.setUnicodeText(block);
+    clipboard.close();
+    clipboard.free(block);  // After the clipboard has taken it; hosts see this order.
+}
+
+}  // namespace Meridax::VisualControls::Api

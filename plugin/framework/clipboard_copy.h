@@ -1,0 +1,14 @@
+#pragma once
+
+#include "plugin/framework/platform.h"
+
+#include <string_view>
+
+namespace Meridax::VisualControls::Api {
+
+/// Puts the text on the clipboard as UTF-16 with a terminator, up to its first zero character. The
+/// steps come in one fixed order, from `open` to `free`, and no result is looked at: where there is
+/// no memory the steps are made all the same, without the text.
+void copyToClipboard(SystemClipboard& clipboard, std::wstring_view text);
+
+}  // namespace Meridax::VisualControls::Api
