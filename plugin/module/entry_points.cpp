@@ -1,0 +1,43 @@
+#include "plugin/module/portable/portable_module.h"
+#include "plugin/orbit_control/rotavue_visual_control.h"
+
+#include <memory>
+
+/// The five entry points of the module; plugin/framework/plugin_interfaces.h tells what they do.
+/// Nothing else is exported (exports.map).
+namespace {
+
+using namespace Meridax;
+using namespace Meridax::VisualControls;
+
+/// The one line that ties the framework to the control that it carries.
+std::unique_ptr<Api::VisualControl> makeControl() {
+    return std::make_unique<Rotavue::RotavueVisualControl>();
+}
+
+Rotavue::PortableModule module{makeControl};
+
+}  // namespace
+
+#define ROTAVUE_ENTRY_POINT extern "C" __attribute__((visibility("default"))) std::int32_t
+
+ROTAVUE_ENTRY_POINT DllGetClassObject(const Host::Guid& classId, const Host::Guid& interfaceId,
+                                      void** object) {
+    return module.getClassObject(classId, interfaceId, object);
+}
+
+ROTAVUE_ENTRY_POINT DllCanUnloadNow() {
+    return module.canUnloadNow();
+}
+
+ROTAVUE_ENTRY_POINT DllRegisterServer() {
+    return module.registerServer();
+}
+
+ROTAVUE_ENTRY_POINT DllUnregisterServer() {
+    return module.unregisterServer();
+}
+
+ROTAVUE_ENTRY_POINT DllInstall(bool install, const wchar_t* commandLine) {
+    return module.install(install, commandLine);
+}
