@@ -8,11 +8,7 @@ namespace Rotavue::Workbench {
 namespace {
 
 constexpr double RoundingDust = 1e-9;
-
-double withoutDust(double rate) {
-    const double whole = std::round(rate);
-    return std::abs(rate - whole) <= RoundingDust * rate ? whole : rate;
-}
+constexpr double LargestUncertainty = 0.01;  // relative; beyond it the steps are not equal at all
 
 double largestStray(std::span<const double> time, double step) {
     double largest = 0.0;
@@ -23,15 +19,25 @@ double largestStray(std::span<const double> time, double step) {
     return largest;
 }
 
+// A whole rate is likelier than one that differs from it by less than the column can tell.
+double wholeIfLikely(double rate, double relativeError) {
+    const double whole = std::round(rate);
+    const double uncertainty = rate * relativeError;
+    const bool tells = relativeError < LargestUncertainty && uncertainty < 0.5;
+    return tells && std::abs(rate - whole) <= uncertainty ? whole : rate;
+}
+
 }  // namespace
 
 std::optional<TimeSteps> readTimeSteps(std::span<const double> time, double secondsPerUnit) {
     if (time.size() < 2 || !(time.back() > time.front())) return std::nullopt;
     const auto stepCount = static_cast<double>(time.size() - 1);
     const double span = time.back() - time.front();
-    return TimeSteps{time.front() * secondsPerUnit,
-                     withoutDust(stepCount / (span * secondsPerUnit)),
-                     largestStray(time, span / stepCount) * secondsPerUnit};
+    const double stray = largestStray(time, span / stepCount);
+    const double rate = stepCount / (span * secondsPerUnit);
+    const double relativeError = std::max(RoundingDust, 2.0 * stray / span);
+    return TimeSteps{time.front() * secondsPerUnit, wholeIfLikely(rate, relativeError),
+                     stray * secondsPerUnit};
 }
 
 double secondsPerUnit(std::string_view unit) {

@@ -14,9 +14,10 @@ struct TimeSteps {
 };
 
 // Reads the steps of a column that does not run backward; `secondsPerUnit` is what 1 stands for.
-// One step alone says little where the decimals of the time were cut, so all of them count. A rate
-// within 1e-9 of a whole number is that number. Nothing if there are fewer than two values or the
-// time stands still.
+// One step alone says little where the decimals of the time were cut, so all of them count; the
+// mean step is then known to twice the largest stray over the whole span, and at best to 1e-9. A
+// whole number of samples per second within that is taken for the rate, unless several are or the
+// steps are not even to 1 %. Nothing if there are fewer than two values or the time stands still.
 std::optional<TimeSteps> readTimeSteps(std::span<const double> time, double secondsPerUnit);
 
 // What 1 in a column of this unit stands for, in seconds: "s" or none, "ms", "us", "ns".

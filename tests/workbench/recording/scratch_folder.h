@@ -30,7 +30,9 @@ protected:
 
     std::filesystem::path at(std::string_view name) const { return folder_ / name; }
 
+    // Writes a new file: overwriting one makes some file systems wait for the disk.
     std::filesystem::path write(std::string_view name, std::string_view text) const {
+        std::filesystem::remove(at(name));
         std::ofstream(at(name), std::ios::binary) << text;
         return at(name);
     }

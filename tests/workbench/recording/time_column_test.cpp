@@ -29,6 +29,18 @@ TEST(TimeColumn, OutlivesDecimalsThatWereCutOff) {
     EXPECT_LT(steps->largestStray, 1e-6);
 }
 
+TEST(TimeColumn, TakesAWholeRateThatTheCutDecimalsAllow) {
+    // 6000 samples a second, 2 s: the last time is 1.999833 instead of 1.9998333.., which alone
+    // would make 6000.001.
+    std::vector<double> time;
+    for (int i = 0; i < 12'000; ++i)
+        time.push_back(std::floor(i * 1e6 / 6000.0) * 1e-6);
+    EXPECT_EQ(readTimeSteps(time, 1.0)->rate, 6000.0);
+    // Even steps leave nothing to be rounded, and a jump leaves too much.
+    EXPECT_NEAR(readTimeSteps(std::vector<double>{0.0, 0.3, 0.6, 0.9}, 1.0)->rate, 10.0 / 3, 1e-12);
+    EXPECT_EQ(readTimeSteps(std::vector<double>{0.0, 0.1, 1.6}, 1.0)->rate, 1.25);
+}
+
 TEST(TimeColumn, CountsInItsUnit) {
     const auto steps = readTimeSteps(std::vector<double>{5.0, 5.5}, secondsPerUnit("ms"));
     ASSERT_TRUE(steps);
