@@ -2,6 +2,8 @@
 
 #include "plugin/orbit_graph/geometry.h"
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -24,6 +26,17 @@ constexpr bool holds(const Range& range, const Point& value) {
 
 constexpr Point limitedTo(const Point& value, const Range& range) {
     return {limitedTo(value.x, range.xMin, range.xMax), limitedTo(value.y, range.yMin, range.yMax)};
+}
+
+/// The largest magnitude in a range.
+inline double reachOf(const Range& range) {
+    return std::max({std::fabs(range.xMin), std::fabs(range.xMax), std::fabs(range.yMin),
+                     std::fabs(range.yMax)});
+}
+
+/// From -reach to reach on both axes.
+constexpr Range symmetricRange(double reach) {
+    return {-reach, reach, -reach, reach};
 }
 
 }  // namespace Meridax::VisualControls::Rotavue

@@ -3,7 +3,6 @@
 #include "plugin/orbit_graph/graph_state.h"
 #include "plugin/orbit_graph/number_format.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -87,15 +86,6 @@ Range fittedLimits(const Range& extents, std::int32_t graphType, std::int32_t au
         return withOwnMargins(data);
     }
     return symmetricRange(reachOf(data) * 1.1);
-}
-
-double reachOf(const Range& range) {
-    return std::max({std::fabs(range.xMin), std::fabs(range.xMax), std::fabs(range.yMin),
-                     std::fabs(range.yMax)});
-}
-
-Range symmetricRange(double reach) {
-    return {-reach, reach, -reach, reach};
 }
 
 }  // namespace Meridax::VisualControls::Rotavue

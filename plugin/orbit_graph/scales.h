@@ -53,10 +53,4 @@ std::vector<Tick> axisTicks(double lower, double upper, std::int64_t positions,
 /// The limits that show all of the extents; extents that are empty in any place count as zeros.
 Range fittedLimits(const Range& extents, std::int32_t graphType, std::int32_t autoScaleType);
 
-/// The largest magnitude in a range.
-double reachOf(const Range& range);
-
-/// The range from -reach to reach on both axes.
-Range symmetricRange(double reach);
-
 }  // namespace Meridax::VisualControls::Rotavue

@@ -1,115 +1,48 @@
 #pragma once
 
-#include "plugin/framework/host/drawing/host_brush.h"
-#include "plugin/framework/host/drawing/host_canvas.h"
-#include "plugin/framework/host/drawing/host_font.h"
-#include "plugin/framework/host/drawing/host_pen.h"
+#include "host_kit/memory/memory_host.h"
 #include "plugin/orbit_graph/clipped_canvas.h"
 
-#include <cstdint>
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Meridax::VisualControls::Rotavue {
 
+namespace HostKit = ::Rotavue::HostKit;
+
 using Lines = std::vector<std::string>;
 
-/// What a canvas, its pen, its brush and its font have in common: one log, one count of references
-/// and one call that fails.
-struct CanvasJournal {
-    Lines lines;
-    int references = 0;
-    std::string failing;  ///< the line that fails, as its beginning; empty: none
-    std::string missing;  ///< "Pen", "Brush" or "Font": what the canvas answers null for
+/// The lines that are calls of this operation, such as "IHostCanvas.LineTo".
+inline Lines callsOf(std::string_view operation, const Lines& lines) {
+    Lines result;
+    std::ranges::copy_if(lines, std::back_inserter(result),
+                         [&](const std::string& line) { return line.starts_with(operation); });
+    return result;
+}
 
-    /// Writes one line, or fails in its place.
-    void write(const std::string& line);
-};
-
-/// A host object of a test: it counts references and is owned by the test.
-template <class Interface>
-class JournalObject : public Interface {
+/// The canvas of a host in memory: it turns what is drawn into lines such as
+/// "IHostCanvas.LineTo(240, 150)". A character is 8 pixels wide, a line and the font 16 high.
+class RecordingCanvas {
 public:
-    explicit JournalObject(CanvasJournal& journal) : journal_(journal) {}
+    RecordingCanvas() { host.record(HostKit::groups({HostKit::CallGroup::Draw})); }
 
-    void retain() noexcept override { ++journal_.references; }
-    void release() noexcept override { --journal_.references; }
-    void* offer(const Host::Guid&) override { return nullptr; }
-
-protected:
-    ~JournalObject() = default;
-
-    CanvasJournal& journal_;
-};
-
-class RecordingPen final : public JournalObject<Host::IHostPen> {
-public:
-    using JournalObject::JournalObject;
-    void SetColor(std::uint32_t color) override;
-    void SetWidth(std::int32_t width) override;
-    void SetStyle(std::int32_t style) override;
-};
-
-class RecordingBrush final : public JournalObject<Host::IHostBrush> {
-public:
-    using JournalObject::JournalObject;
-    void SetColor(std::uint32_t color) override;
-    void SetStyle(std::int32_t style) override;
-};
-
-class RecordingFont final : public JournalObject<Host::IHostFont> {
-public:
-    using JournalObject::JournalObject;
-    void SetColor(std::uint32_t color) override;
-    std::int32_t GetHeight() override { return height; }
-    void SetHeight(std::int32_t newHeight) override;
-    void SetStyle(std::int32_t style) override;
-    void SetOrientation(std::int32_t tenths) override;
-
-    std::int32_t height = 16;
-};
-
-/// A canvas that turns a frame into lines of text, such as "LineTo 240 150" and
-/// "Brush.SetStyle 1". A character is 8 pixels wide and a line 16 high; with `metricsFollowFont` it
-/// is half a font height wide and a line one font height high.
-class RecordingCanvas final : public JournalObject<Host::IHostCanvas> {
-public:
-    RecordingCanvas();
-
-    void LineTo(std::int32_t x, std::int32_t y) override;
-    void MoveTo(std::int32_t x, std::int32_t y) override;
-    void Ellipse(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) override;
-    void Rectangle(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) override;
-    void TextOut(std::int32_t x, std::int32_t y, const std::wstring& text) override;
-    Host::Ref<Host::IHostBrush> GetBrush() override;
-    Host::Ref<Host::IHostPen> GetPen() override;
-    Host::Ref<Host::IHostFont> GetFont() override;
-    void Arc(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2, std::int32_t x3,
-             std::int32_t y3, std::int32_t x4, std::int32_t y4) override;
-    std::int32_t TextWidth(const std::wstring& text) override;
-    std::int32_t TextHeight(const std::wstring& text) override;
-    void TextRect(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
-                  const std::wstring& text, std::uint32_t format) override;
-    void Polygon(const std::vector<std::int32_t>& coordinates, std::int32_t count) override;
+    /// Also writes what is fetched and measured.
+    void recordMeasures() {
+        host.record(HostKit::groups({HostKit::CallGroup::Draw, HostKit::CallGroup::Measure}));
+    }
 
     /// A reference to hand to a drawing operation.
-    CanvasRef ref() { return CanvasRef::share(this); }
+    CanvasRef ref() { return host.canvas(); }
 
     /// The lines so far; the log starts anew.
-    Lines taken();
+    Lines taken() { return host.takeCalls(); }
 
-    /// The lines so far that begin so; the log starts anew.
-    Lines taken(std::string_view beginning);
+    /// The same, but only the calls of this operation.
+    Lines taken(std::string_view operation) { return callsOf(operation, taken()); }
 
-    bool metricsFollowFont = false;
-    CanvasJournal journal;
-    RecordingPen pen;
-    RecordingBrush brush;
-    RecordingFont font;
+    HostKit::MemoryHost host;
 };
-
-/// The lines that begin so.
-Lines beginningWith(const Lines& lines, std::string_view beginning);
 
 }  // namespace Meridax::VisualControls::Rotavue

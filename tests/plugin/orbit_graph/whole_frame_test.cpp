@@ -42,95 +42,95 @@ protected:
 TEST_F(WholeFrame, BeginsWithBackgroundGridEdgesAndArrow) {
     graph_.drawFrame(canvas_.ref());
     expectLines({
-        "Pen.SetStyle 0",
-        "Pen.SetColor 1907997",
-        "Brush.SetColor 0",
-        "Brush.SetStyle 0",
-        "Font.SetColor 12632256",
+        "IHostPen.SetStyle(0)",
+        "IHostPen.SetColor(1907997)",
+        "IHostBrush.SetColor(0)",
+        "IHostBrush.SetStyle(0)",
+        "IHostFont.SetColor(12632256)",
         // The square.
-        "Pen.SetStyle 0",
-        "Pen.SetColor 1907997",
-        "Brush.SetStyle 0",
-        "Brush.SetColor 0",
-        "Rectangle 60 60 240 240",
+        "IHostPen.SetStyle(0)",
+        "IHostPen.SetColor(1907997)",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(0)",
+        "IHostCanvas.Rectangle(60, 60, 240, 240)",
         // Two lines each way: t = 1 and t = 0.
-        "Pen.SetStyle 0",
-        "Pen.SetColor 3815994",
-        "MoveTo 240 60",
-        "LineTo 240 240",
-        "MoveTo 60 240",
-        "LineTo 240 240",
-        "MoveTo 150 60",
-        "LineTo 150 240",
-        "MoveTo 60 150",
-        "LineTo 240 150",
+        "IHostPen.SetStyle(0)",
+        "IHostPen.SetColor(3815994)",
+        "IHostCanvas.MoveTo(240, 60)",
+        "IHostCanvas.LineTo(240, 240)",
+        "IHostCanvas.MoveTo(60, 240)",
+        "IHostCanvas.LineTo(240, 240)",
+        "IHostCanvas.MoveTo(150, 60)",
+        "IHostCanvas.LineTo(150, 240)",
+        "IHostCanvas.MoveTo(60, 150)",
+        "IHostCanvas.LineTo(240, 150)",
         // The edges.
-        "Pen.SetColor 10132122",
-        "MoveTo 60 60",
-        "LineTo 60 240",
-        "MoveTo 60 240",
-        "LineTo 240 240",
-        "Pen.SetStyle 0",
-        "Pen.SetColor 12632256",
-        "Brush.SetStyle 1",
+        "IHostPen.SetColor(10132122)",
+        "IHostCanvas.MoveTo(60, 60)",
+        "IHostCanvas.LineTo(60, 240)",
+        "IHostCanvas.MoveTo(60, 240)",
+        "IHostCanvas.LineTo(240, 240)",
+        "IHostPen.SetStyle(0)",
+        "IHostPen.SetColor(12632256)",
+        "IHostBrush.SetStyle(1)",
         // The arrow's box is a third of the plot in its upper right corner, 180 60 240 120, about
         // 210 90. Its ends: 210 + 30 cos 20 = 238.2, 90 - 30 sin 20 = 79.7; and
         // 210 + 30 sin 20 = 220.3, 90 - 30 cos 20 = 61.8.
-        "Pen.SetColor 10132122",
-        "Pen.SetWidth 2",
-        "Arc 180 120 240 60 238 79 220 61",
-        "Pen.SetWidth 1",
-        "Brush.SetStyle 0",
-        "Brush.SetColor 10132122",
+        "IHostPen.SetColor(10132122)",
+        "IHostPen.SetWidth(2)",
+        "IHostCanvas.Arc(180, 120, 240, 60, 238, 79, 220, 61)",
+        "IHostPen.SetWidth(1)",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(10132122)",
         // Clockwise: at the first end, turned by 295 degrees (cos 0.4226, sin -0.9063). From
         // 238.191 79.739: (0, 5) moves it by -4.53 2.11, (10, 0) by 4.23 9.06.
-        "Polygon 238 79 233 81 242 88 242 77 x 4",
-        "Font.SetColor 12632256",
+        "IHostCanvas.Polygon([238, 79, 233, 81, 242, 88, 242, 77], 4)",
+        "IHostFont.SetColor(12632256)",
     });
 }
 
 TEST_F(WholeFrame, LabelsTicksAndLimits) {
     graph_.drawScaleLabels(canvas_.ref());
     expectLines({
-        "Brush.SetStyle 1",
+        "IHostBrush.SetStyle(1)",
         // The middle tick: 8 pixels wide, centred on 150, below the plot; 16 * 0.8 = 12.8.
-        "Font.SetHeight 13",
-        "Brush.SetStyle 1",
-        "Font.SetColor 12632256",
-        "TextRect 146 240 154 256 \"0\" 256",
-        "Font.SetHeight 16",
-        "Font.SetHeight 13",
-        "Brush.SetStyle 1",
-        "Font.SetColor 12632256",
-        "Font.SetOrientation 900",
-        "TextOut 44 154 \"0\"",
-        "Font.SetOrientation 0",
-        "Font.SetHeight 16",
+        "IHostFont.SetHeight(13)",
+        "IHostBrush.SetStyle(1)",
+        "IHostFont.SetColor(12632256)",
+        "IHostCanvas.TextRect(146, 240, 154, 256, \"0\", 256)",
+        "IHostFont.SetHeight(16)",
+        "IHostFont.SetHeight(13)",
+        "IHostBrush.SetStyle(1)",
+        "IHostFont.SetColor(12632256)",
+        "IHostFont.SetOrientation(900)",
+        "IHostCanvas.TextOut(44, 154, \"0\")",
+        "IHostFont.SetOrientation(0)",
+        "IHostFont.SetHeight(16)",
         // The limits at the corners.
-        "Brush.SetStyle 0",
-        "Brush.SetColor 3815994",
-        "Font.SetColor 12632256",
-        "TextRect 60 240 84 256 \"-11\" 256",
-        "Font.SetColor 12632256",
-        "Brush.SetStyle 0",
-        "Brush.SetColor 3815994",
-        "Font.SetColor 12632256",
-        "TextRect 224 240 240 256 \"11\" 256",
-        "Font.SetColor 12632256",
-        "Brush.SetStyle 0",
-        "Brush.SetColor 3815994",
-        "Font.SetColor 12632256",
-        "Font.SetOrientation 900",
-        "TextOut 44 240 \"-11\"",
-        "Font.SetOrientation 0",
-        "Font.SetColor 12632256",
-        "Brush.SetStyle 0",
-        "Brush.SetColor 3815994",
-        "Font.SetColor 12632256",
-        "Font.SetOrientation 900",
-        "TextOut 44 76 \"11\"",
-        "Font.SetOrientation 0",
-        "Font.SetColor 12632256",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(3815994)",
+        "IHostFont.SetColor(12632256)",
+        "IHostCanvas.TextRect(60, 240, 84, 256, \"-11\", 256)",
+        "IHostFont.SetColor(12632256)",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(3815994)",
+        "IHostFont.SetColor(12632256)",
+        "IHostCanvas.TextRect(224, 240, 240, 256, \"11\", 256)",
+        "IHostFont.SetColor(12632256)",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(3815994)",
+        "IHostFont.SetColor(12632256)",
+        "IHostFont.SetOrientation(900)",
+        "IHostCanvas.TextOut(44, 240, \"-11\")",
+        "IHostFont.SetOrientation(0)",
+        "IHostFont.SetColor(12632256)",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(3815994)",
+        "IHostFont.SetColor(12632256)",
+        "IHostFont.SetOrientation(900)",
+        "IHostCanvas.TextOut(44, 76, \"11\")",
+        "IHostFont.SetOrientation(0)",
+        "IHostFont.SetColor(12632256)",
     });
 }
 
@@ -138,19 +138,20 @@ TEST_F(WholeFrame, NamesTheAxes) {
     graph_.drawAxisTitles(canvas_.ref(), L"um");
     // 11 characters are 88 pixels: 150 - 44 = 106 and 150 + 44 = 194; 240 + 16 and 60 - 32.
     expectLines({
-        "Brush.SetStyle 1",
-        "TextRect 106 256 194 272 \"X axis (um)\" 256",
-        "Font.SetOrientation 900",
-        "TextOut 28 194 \"Y axis (um)\"",
-        "Font.SetOrientation 0",
+        "IHostBrush.SetStyle(1)",
+        "IHostCanvas.TextRect(106, 256, 194, 272, \"X axis (um)\", 256)",
+        "IHostFont.SetOrientation(900)",
+        "IHostCanvas.TextOut(28, 194, \"Y axis (um)\")",
+        "IHostFont.SetOrientation(0)",
     });
 }
 
 TEST_F(WholeFrame, DrawsTheOrbit) {
     graph_.drawTraces(canvas_.ref(), curves_);
     // 7 / 11 * 90 = 57.3 and 10 / 11 * 90 = 81.8 from the centre.
-    expectLines({"Pen.SetColor 255", "MoveTo 207 92", "LineTo 150 231", "LineTo 68 150",
-                 "LineTo 150 68", "LineTo 231 150"});
+    expectLines({"IHostPen.SetColor(255)", "IHostCanvas.MoveTo(207, 92)",
+                 "IHostCanvas.LineTo(150, 231)", "IHostCanvas.LineTo(68, 150)",
+                 "IHostCanvas.LineTo(150, 68)", "IHostCanvas.LineTo(231, 150)"});
 }
 
 TEST_F(WholeFrame, EndsWithBadgesAndLegend) {
@@ -159,32 +160,32 @@ TEST_F(WholeFrame, EndsWithBadgesAndLegend) {
     // 11.2 pixels round 240 150 and, twice, round 150 60. "Shaft (um)" is 80 pixels: 150 + 40;
     // 60 - 3 * 16 = 12.
     expectLines({
-        "Pen.SetStyle 0",
-        "Pen.SetColor 0",
-        "Brush.SetStyle 0",
-        "Brush.SetColor 12632256",
-        "Rectangle 228 138 251 161",
-        "Font.SetColor 0",
-        "TextRect 228 138 251 161 \"X\" 81924",
-        "Pen.SetStyle 0",
-        "Pen.SetColor 0",
-        "Brush.SetStyle 0",
-        "Brush.SetColor 12632256",
-        "Rectangle 138 48 161 71",
-        "Font.SetColor 0",
-        "TextRect 138 48 161 71 \"Y\" 81924",
-        "Pen.SetStyle 0",
-        "Pen.SetColor 0",
-        "Brush.SetStyle 0",
-        "Brush.SetColor 12632256",
-        "Rectangle 138 48 161 71",
-        "Font.SetColor 0",
-        "TextRect 138 48 161 71 \"T\" 81924",
-        "Brush.SetColor 0",
-        "Font.SetColor 255",
-        "Font.SetOrientation 900",
-        "TextOut 12 190 \"Shaft (um)\"",
-        "Font.SetOrientation 0",
+        "IHostPen.SetStyle(0)",
+        "IHostPen.SetColor(0)",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(12632256)",
+        "IHostCanvas.Rectangle(228, 138, 251, 161)",
+        "IHostFont.SetColor(0)",
+        "IHostCanvas.TextRect(228, 138, 251, 161, \"X\", 81924)",
+        "IHostPen.SetStyle(0)",
+        "IHostPen.SetColor(0)",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(12632256)",
+        "IHostCanvas.Rectangle(138, 48, 161, 71)",
+        "IHostFont.SetColor(0)",
+        "IHostCanvas.TextRect(138, 48, 161, 71, \"Y\", 81924)",
+        "IHostPen.SetStyle(0)",
+        "IHostPen.SetColor(0)",
+        "IHostBrush.SetStyle(0)",
+        "IHostBrush.SetColor(12632256)",
+        "IHostCanvas.Rectangle(138, 48, 161, 71)",
+        "IHostFont.SetColor(0)",
+        "IHostCanvas.TextRect(138, 48, 161, 71, \"T\", 81924)",
+        "IHostBrush.SetColor(0)",
+        "IHostFont.SetColor(255)",
+        "IHostFont.SetOrientation(900)",
+        "IHostCanvas.TextOut(12, 190, \"Shaft (um)\")",
+        "IHostFont.SetOrientation(0)",
     });
 }
 
@@ -194,7 +195,7 @@ TEST_F(WholeFrame, GivesEveryReferenceBack) {
     graph_.drawTraces(canvas_.ref(), curves_);
     graph_.drawSensorBadges(canvas_.ref());
     graph_.drawLegendRow(canvas_.ref(), curves_);
-    EXPECT_EQ(canvas_.journal.references, 0);
+    EXPECT_EQ(canvas_.host.references(), 0);
 }
 
 }  // namespace
