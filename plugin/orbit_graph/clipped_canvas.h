@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -21,7 +22,7 @@ public:
     static constexpr double LowerBound = -32767.0;
     static constexpr double UpperBound = 32767.0;
 
-    explicit ClippedCanvas(const CanvasRef& canvas) : canvas_(canvas), target_(*canvas_) {}
+    explicit ClippedCanvas(CanvasRef canvas) : canvas_(std::move(canvas)), target_(*canvas_) {}
 
     /// A dropped move leaves the pen where it was: the next line starts from there.
     void moveTo(const Point& point) const {
