@@ -1,5 +1,6 @@
 #include "examples/example_csv.h"
 
+#include <array>
 #include <charconv>
 
 namespace Rotavue::Examples {
@@ -10,10 +11,10 @@ constexpr int ValueDecimals = 3;
 
 // Always a decimal point, whatever the locale.
 void append(std::string& text, double value, int decimals) {
-    char buffer[64];
+    std::array<char, 64> buffer;
     const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
-    text.append(buffer, end.ptr);
+        std::to_chars(buffer.begin(), buffer.end(), value, std::chars_format::fixed, decimals);
+    text.append(buffer.begin(), end.ptr);
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ std::filesystem::path writeExample(const Example& example, std::uint64_t seed,
                                    const std::filesystem::path& folder) {
     const Samples samples = makeSamples(example, seed);
     const bool wav = example.form == FileForm::Wav;
-    const std::filesystem::path file = folder / (example.name + (wav ? ".wav" : ".csv"));
+    std::filesystem::path file = folder / (example.name + (wav ? ".wav" : ".csv"));
     if (wav) {
         writeWav(example, samples, file);
     } else {

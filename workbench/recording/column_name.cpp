@@ -1,15 +1,16 @@
 #include "workbench/recording/column_name.h"
 
 #include <algorithm>
+#include <array>
 
 #include "workbench/recording/fields.h"
 
 namespace Rotavue::Workbench {
 namespace {
 
-constexpr std::string_view KnownUnits[] = {
-    "s",    "ms", "us", "\u00B5s", "ns",     "um",  "\u00B5m", "\u03BCm", "mm",  "mil",
-    "mils", "V",  "mV", "deg",     "\u00B0", "rad", "rpm",     "1/min",   "RPM", "Hz"};
+constexpr auto KnownUnits = std::to_array<std::string_view>(
+    {"s",    "ms", "us", "\u00B5s", "ns",     "um",  "\u00B5m", "\u03BCm", "mm",  "mil",
+     "mils", "V",  "mV", "deg",     "\u00B0", "rad", "rpm",     "1/min",   "RPM", "Hz"});
 
 bool isSmall(char c) {
     return c >= 'a' && c <= 'z';

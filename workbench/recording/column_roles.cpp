@@ -1,6 +1,7 @@
 #include "workbench/recording/column_roles.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <string>
@@ -13,15 +14,17 @@ namespace {
 
 using Words = std::span<const std::string_view>;
 
-constexpr std::string_view TimeWords[] = {"t", "time", "zeit", "timestamp", "seconds", "sec"};
-constexpr std::string_view XWords[] = {"x", "horizontal", "horiz"};
-constexpr std::string_view YWords[] = {"y", "vertical", "vert"};
-constexpr std::string_view RampWords[] = {"phi", "angle", "winkel", "phase", "theta"};
-constexpr std::string_view PulseWords[] = {"keyphasor", "keyphase", "kph",   "kp",     "tacho",
-                                           "tach",      "sync",     "pulse", "pulses", "trigger"};
-constexpr std::string_view SpeedWords[] = {"rpm", "speed", "drehzahl"};
-constexpr std::string_view AxisStems[] = {"probe",  "disp",    "displacement",
-                                          "sensor", "channel", "ch"};
+constexpr auto TimeWords =
+    std::to_array<std::string_view>({"t", "time", "zeit", "timestamp", "seconds", "sec"});
+constexpr auto XWords = std::to_array<std::string_view>({"x", "horizontal", "horiz"});
+constexpr auto YWords = std::to_array<std::string_view>({"y", "vertical", "vert"});
+constexpr auto RampWords =
+    std::to_array<std::string_view>({"phi", "angle", "winkel", "phase", "theta"});
+constexpr auto PulseWords = std::to_array<std::string_view>(
+    {"keyphasor", "keyphase", "kph", "kp", "tacho", "tach", "sync", "pulse", "pulses", "trigger"});
+constexpr auto SpeedWords = std::to_array<std::string_view>({"rpm", "speed", "drehzahl"});
+constexpr auto AxisStems =
+    std::to_array<std::string_view>({"probe", "disp", "displacement", "sensor", "channel", "ch"});
 
 constexpr std::size_t LeastTimeRows = 3;
 constexpr double LargestTimeError = 1.5;          // in steps

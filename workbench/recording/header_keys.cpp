@@ -1,5 +1,7 @@
 #include "workbench/recording/header_keys.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 
 #include "workbench/recording/column_name.h"
@@ -17,14 +19,17 @@ struct TextKey {
     std::string SourceHead::*field;
 };
 
-constexpr TextKey TextKeys[] = {
-    {"machine", &SourceHead::machine}, {"machinename", &SourceHead::machine},
-    {"point", &SourceHead::point},     {"pointname", &SourceHead::point},
-    {"unit", &SourceHead::unit},       {"yaxisunit", &SourceHead::unit},
-};
+constexpr auto TextKeys = std::to_array<TextKey>({
+    {"machine", &SourceHead::machine},
+    {"machinename", &SourceHead::machine},
+    {"point", &SourceHead::point},
+    {"pointname", &SourceHead::point},
+    {"unit", &SourceHead::unit},
+    {"yaxisunit", &SourceHead::unit},
+});
 
-constexpr std::string_view RateKeys[] = {"samplerate", "samplingrate", "samplefrequency",
-                                         "samplingfrequency", "fs"};
+constexpr auto RateKeys = std::to_array<std::string_view>(
+    {"samplerate", "samplingrate", "samplefrequency", "samplingfrequency", "fs"});
 
 std::string joinedWords(std::string_view key) {
     std::string joined;

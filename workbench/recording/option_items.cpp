@@ -1,5 +1,6 @@
 #include "workbench/recording/option_items.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -33,7 +34,7 @@ constexpr NumberItem sensitivityItem(FieldOf<double> field) {
     return {field, -LargestValue, LargestValue, LeastSensitivity};
 }
 
-const OptionItem Items[] = {
+const auto Items = std::to_array<OptionItem>({
     {"/machine", TextItem{at<&Options::machine>}},
     {"/point", TextItem{at<&Options::point>}},
     {"/unit", TextItem{at<&Options::unit>}},
@@ -62,7 +63,7 @@ const OptionItem Items[] = {
     {"/keyphasor/angle", AngleItem{at<&Options::keyphasor, &Keyphasor::angle>}},
     {"/clearance/width", NumberItem{at<&Options::clearanceWidth>, 0, LargestValue}},
     {"/clearance/height", NumberItem{at<&Options::clearanceHeight>, 0, LargestValue}},
-};
+});
 
 std::string rangeText(std::string_view what, const std::string& least, const std::string& most) {
     return std::string(what) + " from " + least + " to " + most;
@@ -119,9 +120,9 @@ std::string allowedText(const ItemKind& kind) {
 }
 
 std::string numberText(double value) {
-    char buffer[32];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-    return {buffer, end};
+    std::array<char, 32> buffer;
+    const auto end = std::to_chars(buffer.begin(), buffer.end(), value).ptr;
+    return {buffer.begin(), end};
 }
 
 }  // namespace Rotavue::Workbench

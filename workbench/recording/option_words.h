@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -15,24 +16,24 @@ struct Word {
     Value value;
 };
 
-inline constexpr Word<Rotation> RotationWords[] = {
+inline constexpr auto RotationWords = std::to_array<Word<Rotation>>({
     {"CW", Rotation::Clockwise},
     {"CCW", Rotation::CounterClockwise},
-};
-inline constexpr Word<KeyphasorKind> KeyphasorKindWords[] = {
+});
+inline constexpr auto KeyphasorKindWords = std::to_array<Word<KeyphasorKind>>({
     {"none", KeyphasorKind::None},
     {"volts", KeyphasorKind::Volts},
     {"ramp", KeyphasorKind::Ramp},
     {"speed", KeyphasorKind::Speed},
-};
-inline constexpr Word<PulseEdge> PulseEdgeWords[] = {
+});
+inline constexpr auto PulseEdgeWords = std::to_array<Word<PulseEdge>>({
     {"rising", PulseEdge::Rising},
     {"falling", PulseEdge::Falling},
-};
-inline constexpr Word<Coupling> CouplingWords[] = {
+});
+inline constexpr auto CouplingWords = std::to_array<Word<Coupling>>({
     {"DC", Coupling::Dc},
     {"AC", Coupling::Ac},
-};
+});
 
 // The value that a word stands for, compared exactly.
 template <typename Value>

@@ -206,7 +206,7 @@ void RecordingBuilder::takeRamp(std::vector<double> degrees) {
         for (double& angle : degrees)
             angle = wrappedDegrees(-angle);
         turns = -turns;
-        recording_.notes.push_back("the shaft angle falls in the file; it was turned over");
+        recording_.notes.emplace_back("the shaft angle falls in the file; it was turned over");
     }
     const double steps = static_cast<double>(degrees.size()) - 1.0;
     if (steps > 0.0) {

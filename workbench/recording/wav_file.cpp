@@ -20,12 +20,14 @@ constexpr std::string_view Allowed = "a WAV file of whole numbers or floating-po
 
 constexpr std::array<std::string_view, 4> Beginnings = {"RIFF", "RIFX", "RF64", "riff"};
 
-constexpr int ContainerFormats[] = {SF_FORMAT_WAV, SF_FORMAT_WAVEX, SF_FORMAT_RF64, SF_FORMAT_W64};
+constexpr auto ContainerFormats =
+    std::to_array<int>({SF_FORMAT_WAV, SF_FORMAT_WAVEX, SF_FORMAT_RF64, SF_FORMAT_W64});
 
 // Formats of a fixed size per sample: from a compressed one, a small file could become a large
 // recording.
-constexpr int SampleFormats[] = {SF_FORMAT_PCM_U8, SF_FORMAT_PCM_16, SF_FORMAT_PCM_24,
-                                 SF_FORMAT_PCM_32, SF_FORMAT_FLOAT,  SF_FORMAT_DOUBLE};
+constexpr auto SampleFormats =
+    std::to_array<int>({SF_FORMAT_PCM_U8, SF_FORMAT_PCM_16, SF_FORMAT_PCM_24, SF_FORMAT_PCM_32,
+                        SF_FORMAT_FLOAT, SF_FORMAT_DOUBLE});
 
 template <typename List>
 bool holds(const List& list, int value) {
