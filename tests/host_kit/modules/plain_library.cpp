@@ -1,0 +1,5 @@
+// A library that is no module of a control.
+
+extern "C" [[gnu::visibility("default")]] int plainNumber() {
+    return 5;
+}
