@@ -5,6 +5,7 @@
 #include "plugin/framework/color_scheme.h"
 #include "plugin/framework/host/status.h"
 #include "plugin/framework/version_gate.h"
+#include "plugin/setup_document/meridax_dcom_node.h"
 
 #include <array>
 
@@ -167,6 +168,19 @@ std::int32_t askCanCopy(const MessageCall& call) {
 
 std::int32_t copyText(const MessageCall& call) {
     copyToClipboard(call.bridge.clipboard, call.bridge.control->clipboardText());
+    return Done;
+}
+
+std::int32_t transferSetup(const MessageCall& call) {
+    constexpr std::uint16_t Save = 0xFFFF;  // no other word does, 1 included
+    const ArgumentReader arguments(call.arguments);
+    const Ref<Host::IHostXmlDocument> document = arguments.object<Host::IHostXmlDocument>(0);
+    const Ref<Host::IHostXmlNode> node = arguments.object<Host::IHostXmlNode>(1);
+    const bool writing = arguments.word(2) == Save;
+    if (!document || !node) return Done;
+    Utils::Dcom::Utils::MeridaxDCOMNode setup(document, node);
+    setup.setWriting(writing);
+    call.bridge.control->persistSetup(setup);
     return Done;
 }
 

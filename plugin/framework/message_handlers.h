@@ -25,6 +25,7 @@ std::int32_t leavePointer(const MessageCall& call);          ///< 26
 std::int32_t notifyGroupChange(const MessageCall& call);     ///< 29
 std::int32_t askCanCopy(const MessageCall& call);            ///< 30
 std::int32_t copyText(const MessageCall& call);              ///< 31
+std::int32_t transferSetup(const MessageCall& call);         ///< 33
 std::int32_t buildProperties(const MessageCall& call);       ///< 34
 std::int32_t fillProperties(const MessageCall& call);        ///< 35
 std::int32_t readProperty(const MessageCall& call);          ///< 36

@@ -50,7 +50,7 @@ constexpr std::array<MessageRow, LastMessageCode + 1> MessageTable{{
     {CanCopy, askCanCopy},
     {Copy, copyText},
     {MessageCode{32}, ignore},
-    {Setup, ignore},
+    {Setup, transferSetup},
     {BuildProperties, buildProperties},
     {FillProperties, fillProperties},
     {ReadProperty, readProperty},

@@ -1,6 +1,7 @@
 #include "tests/plugin/framework/doubles/recording_control.h"
 
 #include "plugin/framework/unicode.h"
+#include "plugin/setup_document/node.h"
 
 #include <sstream>
 
@@ -95,6 +96,10 @@ bool RecordingControl::acceptsGroup(Host::Ref<Host::IHostObject> group) {
 
 void RecordingControl::onGroupChanged(Host::Ref<Host::IHostObject> group) {
     note("onGroupChanged", group.get());
+}
+
+void RecordingControl::persistSetup(Utils::Serialization::Node& node) {
+    note(node.isWriting() ? "persistSetup writing" : "persistSetup reading");
 }
 
 bool RecordingControl::canCopyToClipboard() {

@@ -42,6 +42,7 @@ public:
     bool acceptsChannel(Host::Ref<Host::IHostChannel> channel) override;
     bool acceptsGroup(Host::Ref<Host::IHostObject> group) override;
     void onGroupChanged(Host::Ref<Host::IHostObject> group) override;
+    void persistSetup(Utils::Serialization::Node& node) override;
     bool canCopyToClipboard() override;
     std::wstring clipboardText() override;
     void buildProperties(Host::Ref<Host::IHostPropertyPanel> panel) override;
