@@ -1,0 +1,122 @@
+#include "workbench/analysis/raw_channels.h"
+
+#include <algorithm>
+
+#include "host_kit/memory/utf8.h"
+#include "plugin/framework/unicode.h"
+#include "workbench/analysis/bearing_properties.h"
+#include "workbench/recording/gaps.h"
+
+namespace Rotavue::Workbench {
+namespace {
+
+using HostKit::ChannelDescription;
+using HostKit::HostDescription;
+
+constexpr std::int32_t PlainComponent = 0;
+constexpr std::int32_t XComponent = 4;
+constexpr std::int32_t YComponent = 5;
+constexpr std::int32_t GroupSlot = 1;
+constexpr const wchar_t* KindProperty = L"OrbitType";
+constexpr const wchar_t* RawKind = L"Raw";
+
+std::wstring wide(const std::string& text) {
+    return Meridax::VisualControls::Api::wideFromUtf8(HostKit::wellFormed(text));
+}
+
+ChannelDescription channelOf(const Recording& recording) {
+    ChannelDescription channel;
+    channel.sampleRate = recording.sampleRate;
+    channel.sampleCount = static_cast<std::int32_t>(recording.sampleCount());
+    channel.bufferSize = channel.sampleCount;
+    return channel;
+}
+
+ChannelDescription tachoChannel(Recording& recording) {
+    ChannelDescription channel = channelOf(recording);
+    channel.name = L"Tacho";
+    channel.unit = L"deg";
+    channel.values[PlainComponent] = std::move(recording.angle);
+    return channel;
+}
+
+ChannelDescription orbitChannel(Recording& recording, const RawOrbitStyle& style) {
+    ChannelDescription channel = channelOf(recording);
+    channel.name = wide(style.name);
+    channel.unit = wide(recording.machine.unit);
+    channel.color = style.color;
+    channel.properties = bearingProperties(recording.machine);
+    channel.properties[KindProperty] = RawKind;
+    holdGaps(recording.x, recording.y);
+    channel.values[XComponent] = std::move(recording.x);
+    channel.values[YComponent] = std::move(recording.y);
+    return channel;
+}
+
+std::string assign(HostDescription& host, const char* kind, ChannelDescription channel) {
+    std::string id = kind + std::to_string(host.assigned.groups.size() + 1);
+    host.channels[id] = std::move(channel);
+    return id;
+}
+
+void setClock(HostDescription& host, double sampleRate, std::size_t position) {
+    const auto linear = static_cast<std::int32_t>(position);
+    const std::int32_t blockSize = host.host.blockSize;
+    host.host.sampleRate = sampleRate;
+    host.host.currentPosition = {linear / blockSize, linear % blockSize};
+    host.host.lastPosition = host.host.currentPosition;
+    host.host.acquiredSampleCount = linear + 1;
+}
+
+// As many samples as there are up to the position, in a buffer for all of them.
+void fillUpTo(ChannelDescription& channel, std::size_t position) {
+    const std::int32_t size = channel.bufferSize.value_or(0);
+    if (size == 0) return;
+    channel.sampleCount =
+        static_cast<std::int32_t>(std::min(position + 1, static_cast<std::size_t>(size)));
+    channel.sampleCounter = channel.sampleCount;
+    channel.writePosition = channel.sampleCount % size;
+}
+
+}  // namespace
+
+RawOrbit rawOrbit(Recording recording, const RawOrbitStyle& style) {
+    RawOrbit result;
+    if (recording.hasTacho()) result.tacho = tachoChannel(recording);
+    result.orbit = orbitChannel(recording, style);
+    return result;
+}
+
+void assignRawOrbit(HostDescription& host, RawOrbit orbit) {
+    HostKit::GroupDescription group;
+    group.properties[KindProperty] = RawKind;
+    group.channels.emplace_back(assign(host, "orbit", std::move(orbit.orbit)));
+    if (orbit.tacho) group.channels.emplace_back(assign(host, "tacho", std::move(*orbit.tacho)));
+    host.assigned.groups.push_back(std::move(group));
+    host.assigned.slots = {{GroupSlot}};
+}
+
+void setAxisDecimals(HostDescription& host, std::int32_t decimals) {
+    ChannelDescription& digits = host.channels["digits"];
+    digits.decimals = decimals;
+    digits.properties = host.channels[*host.assigned.groups.at(0).channels.at(0)].properties;
+    host.assigned.channels = {"digits"};
+}
+
+void showStored(HostDescription& host, double sampleRate, std::size_t position) {
+    host.host.acquiring = false;
+    setClock(host, sampleRate, position);
+    for (const std::string& id : host.channels.ids()) {
+        ChannelDescription& channel = host.channels[id];
+        channel.sampleCount = channel.bufferSize.value_or(0);
+    }
+}
+
+void showAcquired(HostDescription& host, double sampleRate, std::size_t position) {
+    host.host.acquiring = true;
+    setClock(host, sampleRate, position);
+    for (const std::string& id : host.channels.ids())
+        fillUpTo(host.channels[id], position);
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,50 @@
+#include "workbench/analysis/turn_window.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "workbench/recording/keyphasor.h"
+
+namespace Rotavue::Workbench {
+namespace {
+
+constexpr double HalfTurn = 180.0;
+
+// Searches back from `from` for the sample behind which the angle falls back; the oldest sample
+// where there is none.
+struct Mark {
+    std::size_t sample = 0;
+    bool found = false;
+};
+
+Mark markBefore(std::span<const double> angle, std::size_t from) {
+    for (std::size_t i = from; i > 0; --i) {
+        if (std::abs(angle[i] - angle[i - 1]) > HalfTurn) return {i - 1, true};
+    }
+    return {};
+}
+
+}  // namespace
+
+TurnWindow turnWindow(std::span<const double> angle, double sampleRate, std::size_t position,
+                      int revolutions) {
+    const std::size_t newest = std::min(position, angle.size() - 1);
+    const Mark begin = markBefore(angle, newest);
+    TurnWindow window{.first = begin.sample, .last = begin.found ? begin.sample : newest};
+    for (Mark mark = begin; mark.found && window.turns < revolutions;) {
+        mark = markBefore(angle, mark.sample);
+        window.first = mark.sample;
+        if (mark.found) ++window.turns;
+    }
+    window.speed = meanSpeed(angle, sampleRate, window.first, window.last);
+    return window;
+}
+
+double meanSpeed(std::span<const double> angle, double sampleRate, std::size_t first,
+                 std::size_t last) {
+    if (last <= first) return 0.0;
+    const double minutes = static_cast<double>(last - first) / sampleRate / 60.0;
+    return std::abs(turnsOf(angle.subspan(first, last - first + 1))) / minutes;
+}
+
+}  // namespace Rotavue::Workbench
