@@ -27,6 +27,11 @@ public:
     int width(const QString& text) const { return metrics_.horizontalAdvance(text); }
     int lineHeight() const { return metrics_.height(); }
 
+    /// The text, or as much of it as fits into the width with an ellipsis behind it.
+    QString shortened(const QString& text, int width) const {
+        return metrics_.elidedText(text, Qt::ElideRight, width);
+    }
+
     /// From the top of the box to the line that the letters stand on.
     int ascent() const { return metrics_.ascent(); }
 

@@ -1,4 +1,4 @@
-#include "workbench/paint/picture.h"
+#include "workbench/paint/picture_file.h"
 
 #include "workbench/paint/offscreen_gui.h"
 #include "workbench/paint/painter_canvas.h"
@@ -28,7 +28,9 @@ void paintSomething(QPainter& painter, PictureFormat format) {
 QByteArray pictureOf(PictureFormat format, int scale = 1) {
     const PictureShape shape{
         .width = 100, .height = 80, .scale = scale, .title = "Kit <1> & \"2\""};
-    return paintPicture(format, shape, [&](QPainter& p) { paintSomething(p, format); });
+    const auto file = PictureFile::begin(format, shape);
+    paintSomething(file->painter(), format);
+    return file->finish();
 }
 
 /// How often each element occurs; empty where the document is not well-formed.
@@ -92,13 +94,20 @@ TEST(Picture, NoFileHoldsTheDate) {
 }
 
 TEST(Picture, ASizeBeyondTheLargestIsRefused) {
-    const auto nothing = [](QPainter&) {};
     for (const PictureShape& shape :
          {PictureShape{.width = 0}, PictureShape{.height = -5}, PictureShape{.width = 8193},
           PictureShape{.width = 4097, .scale = 2}, PictureShape{.scale = 0}}) {
-        EXPECT_THROW(paintPicture(PictureFormat::Png, shape, nothing), PaintError);
+        EXPECT_THROW(PictureFile::begin(PictureFormat::Png, shape), PaintError);
     }
-    EXPECT_FALSE(paintPicture(PictureFormat::Png, {.width = 8192, .height = 1}, nothing).isEmpty());
+    EXPECT_NO_THROW(PictureFile::begin(PictureFormat::Png, {.width = 8192, .height = 1}));
+}
+
+TEST(Picture, MayBeGivenUp) {
+    for (const PictureFormat format :
+         {PictureFormat::Png, PictureFormat::Svg, PictureFormat::Pdf}) {
+        const auto file = PictureFile::begin(format, {.width = 10, .height = 10});
+        file->painter().drawLine(0, 0, 9, 9);
+    }
 }
 
 }  // namespace

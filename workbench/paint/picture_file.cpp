@@ -1,0 +1,145 @@
+#include "workbench/paint/picture_file.h"
+
+#include "workbench/paint/offscreen_gui.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageWriter>
+#include <QMarginsF>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <cmath>
+#include <optional>
+#include <string_view>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+constexpr int DotsPerInch = 96;
+
+class PngFile final : public PictureFile {
+public:
+    explicit PngFile(const PictureShape& shape)
+        : image_(shape.width * shape.scale, shape.height * shape.scale, QImage::Format_RGB32) {
+        if (image_.isNull()) throw PaintError("there is not enough memory for the picture");
+        const int dotsPerMetre = static_cast<int>(std::lround(DotsPerInch * shape.scale / 0.0254));
+        image_.setDevicePixelRatio(shape.scale);
+        image_.setDotsPerMeterX(dotsPerMetre);
+        image_.setDotsPerMeterY(dotsPerMetre);
+        image_.fill(Qt::white);
+        paintOn(image_);
+    }
+
+    ~PngFile() override { painter_.end(); }
+
+    QByteArray finish() override {
+        painter_.end();
+        QBuffer file;
+        file.open(QIODevice::WriteOnly);
+        if (!QImageWriter(&file, "png").write(image_)) throw PaintError("no PNG file can be made");
+        return file.data();
+    }
+
+private:
+    QImage image_;
+};
+
+class SvgFile final : public PictureFile {
+public:
+    explicit SvgFile(const PictureShape& shape) {
+        generator_.setOutputDevice(&file_);
+        generator_.setResolution(DotsPerInch);
+        generator_.setSize({shape.width, shape.height});
+        generator_.setViewBox(QRect(0, 0, shape.width, shape.height));
+        generator_.setTitle(shape.title.toHtmlEscaped());  // the generator writes it as it stands
+        generator_.setDescription(QStringLiteral("Orbit plot"));
+        paintOn(generator_);
+    }
+
+    ~SvgFile() override { painter_.end(); }
+
+    QByteArray finish() override {
+        painter_.end();
+        return file_.data();
+    }
+
+private:
+    QBuffer file_;
+    QSvgGenerator generator_;
+};
+
+class PdfFile final : public PictureFile {
+public:
+    explicit PdfFile(const PictureShape& shape) {
+        file_.open(QIODevice::WriteOnly);
+        writer_.emplace(&file_);
+        constexpr double PointsPerPixel = 72.0 / DotsPerInch;
+        const QSizeF page(shape.width * PointsPerPixel, shape.height * PointsPerPixel);
+        writer_->setPageSize(QPageSize(page, QPageSize::Point, QString(), QPageSize::ExactMatch));
+        writer_->setPageMargins(QMarginsF());
+        writer_->setResolution(DotsPerInch);
+        writer_->setTitle(shape.title);
+        writer_->setCreator(QStringLiteral("Rotavue"));
+        paintOn(*writer_);
+    }
+
+    ~PdfFile() override { painter_.end(); }
+
+    QByteArray finish() override {
+        painter_.end();
+        writer_.reset();
+        QByteArray bytes = file_.data();
+        fixDate(bytes);
+        return bytes;
+    }
+
+private:
+    /// The writer puts the time of day into the file. Digits of the same number keep every offset.
+    static void fixDate(QByteArray& bytes) {
+        const QByteArray mark("/CreationDate (D:");
+        const qsizetype found = bytes.indexOf(mark);
+        if (found < 0) return;
+        constexpr std::string_view Date = "20000101000000";
+        const auto length = static_cast<qsizetype>(Date.size());
+        bytes.replace(found + mark.size(), length, Date.data(), length);
+    }
+
+    QBuffer file_;
+    std::optional<QPdfWriter> writer_;
+};
+
+void checkShape(const PictureShape& shape) {
+    const auto fits = [&](int side) { return side >= 1 && side <= LargestSide / shape.scale; };
+    if (shape.scale < 1 || !fits(shape.width) || !fits(shape.height)) {
+        throw PaintError("a picture is 1 to " + std::to_string(LargestSide) +
+                         " pixels wide and high");
+    }
+}
+
+}  // namespace
+
+TextForm textFormOf(PictureFormat format) {
+    return format == PictureFormat::Svg ? TextForm::Outlines : TextForm::Letters;
+}
+
+std::unique_ptr<PictureFile> PictureFile::begin(PictureFormat format, const PictureShape& shape) {
+    checkShape(shape);
+    switch (format) {
+        case PictureFormat::Png:
+            return std::make_unique<PngFile>(shape);
+        case PictureFormat::Svg:
+            return std::make_unique<SvgFile>(shape);
+        case PictureFormat::Pdf:
+            return std::make_unique<PdfFile>(shape);
+    }
+    throw PaintError("there is no such picture format");
+}
+
+void PictureFile::paintOn(QPaintDevice& device) {
+    if (!painter_.begin(&device)) throw PaintError("the picture cannot be painted");
+}
+
+}  // namespace Rotavue::Workbench
