@@ -53,8 +53,8 @@ public:
     }
 
     /// Tests left and right. Top counts only where left lies on a bound, and bottom only where
-    /// right does; with bounds alike on both axes this lets pass every box that lies within the
-    /// range from left to right, however high it is. Layouts rely on tall boxes being sent.
+    /// right does. That is on purpose: a box within the range from left to right is sent, however
+    /// high it is.
     static bool admits(const Rectangle& box);
 
 private:

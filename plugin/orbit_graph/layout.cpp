@@ -24,7 +24,7 @@ double plotSide(const CanvasRef& canvas, const GraphState& state, std::int32_t c
     return side - legendShortage(canvas, width, side, channelCount);
 }
 
-/// One margin more is lost here than round the plot, so that scales and titles have room.
+/// The square takes a margin off once more: the plot is meant to be that much smaller.
 Rectangle plotSquare(const GraphState& state, double side) {
     const Rectangle square{state.margin, state.margin, side, side};
     return centredOn(square, centreOf(state.canvasRect));

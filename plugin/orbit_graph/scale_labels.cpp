@@ -12,8 +12,8 @@
 namespace Meridax::VisualControls::Rotavue {
 namespace {
 
-/// Draws at 0.8 of the font's height. Callers measure at the full height, so that a tick's text
-/// stands a little beside the centre of its tick; the layout of the scales counts on it.
+/// Draws at 0.8 of the font's height. Callers measure at the full height, so a tick's text stands a
+/// little beside the centre of its tick; that is kept.
 void drawTickText(const CanvasRef& canvas, const Point& point, const std::wstring& text,
                   Color color, bool vertical) {
     const auto font = canvas->GetFont();
@@ -43,7 +43,7 @@ void drawYTick(const CanvasRef& canvas, const GraphState& state, const Tick& tic
     if (!tick.atLimit) drawTickText(canvas, start, tick.text, color, true);
 }
 
-/// The limits stand on a filled ground, which tells that they can be edited.
+/// Unlike the ticks, the limits stand on a filled ground and have the full height.
 void drawLimitLabel(const CanvasRef& canvas, const GraphState& state, const AxisLimitLabel& label,
                     const std::wstring& format) {
     setSolidBrush(canvas, state.gridColor);

@@ -73,7 +73,8 @@ TEST_F(Frame, CircleOfFiveTicksHasASixthRingOfNoSize) {
     graph.setGraphType(GraphType::Circle);
     const Lines ellipses = frame("IHostCanvas.Ellipse");
     ASSERT_EQ(ellipses.size(), 1U + 6U);
-    // 1.7e-16 of 180 pixels wide: its left edge is the last number below 150, which truncates to 149.
+    // 1.7e-16 of 180 pixels wide: its left edge is the last number below 150, which truncates to
+    // 149.
     EXPECT_EQ(ellipses[6], "IHostCanvas.Ellipse(149, 149, 150, 150)");
 }
 

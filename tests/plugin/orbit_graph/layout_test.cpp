@@ -13,12 +13,12 @@ Rectangle graphRectOf(double width, double height) {
     return Layout(width, height).graph.state().graphRect;
 }
 
-/// The width of the plot on 300 by 300 pixels with legend lines for so many channels.
-double widthWithLegend(std::int32_t channelCount) {
+/// The width of the plot, 300 pixels high, with legend lines for so many channels.
+double widthWithLegend(std::int32_t channelCount, double width = 300) {
     Layout plot;
     plot.graph.setSingleAxis(false);
     plot.graph.invalidateLayout();
-    plot.graph.layout(plot.canvas.ref(), {0, 0, 300, 300}, channelCount);
+    plot.graph.layout(plot.canvas.ref(), {0, 0, width, 300}, channelCount);
     return widthOf(plot.graph.state().graphRect);
 }
 
@@ -38,6 +38,11 @@ TEST(Layout, LegendLinesTakeTheirRoomFromThePlot) {
     EXPECT_EQ(widthWithLegend(5), 68);
     // One channel needs 2 * 16 = 32: nothing is taken off.
     EXPECT_EQ(widthWithLegend(1), 180);
+}
+
+TEST(Layout, GapBesideThePlotIsRounded) {
+    // (301 - 220) / 2 = 40.5, so 41. Two channels need 48: 220 - 7 * 2 = 206, less 40.
+    EXPECT_EQ(widthWithLegend(2, 301), 166);
 }
 
 TEST(Layout, LegendRowTakesNoRoom) {

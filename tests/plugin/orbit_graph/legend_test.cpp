@@ -57,9 +57,10 @@ TEST_F(Legend, RowMeasuresItsTextAsAWhole) {
 
 TEST_F(Legend, RowHalvesAnOddWidthWithTruncation) {
     canvas.host.description.canvas.charWidth = 1;
-    // 7 / 2 = 3
+    // 150 + 7 / 2 = 153, and then 7 up.
     EXPECT_EQ(callsOf("IHostCanvas.TextOut", row({b})),
               (Lines{"IHostCanvas.TextOut(12, 153, \"Bb (um)\")"}));
+    EXPECT_EQ(graph.state().legendY, 146);
     // A line takes the exact half: 150 + 3.5.
     EXPECT_EQ(callsOf("IHostCanvas.TextOut", lines({b})),
               (Lines{"IHostCanvas.TextOut(12, 153, \"Bb (um)\")"}));

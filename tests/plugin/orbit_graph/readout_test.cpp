@@ -37,7 +37,7 @@ TEST_F(Readout, IsACrosshairAndATextInTheCorner) {
 TEST_F(Readout, StandsAtThePointerWhenNoSampleIsInside) {
     graph.setPointer({20, 150});
     traces({rawCurve({{9, 9}}), rawCurve({})});
-    EXPECT_EQ(readout()[1], "IHostCanvas.MoveTo(20, 134)");
+    EXPECT_EQ(readout().at(1), "IHostCanvas.MoveTo(20, 134)");
     // Zeros and an empty unit before the first match, in the default colour.
     EXPECT_EQ(text(), "X= 0 ; Y= 0 ; ");
     EXPECT_EQ(callsOf("IHostFont.SetColor", readout()), (Lines{"IHostFont.SetColor(16777215)"}));
@@ -49,13 +49,13 @@ TEST_F(Readout, ShowsAnEarlierMatchWhenNoSampleIsInside) {
     graph.setPointer({20, 150});
     traces({rawCurve({{9, 9}})});
     EXPECT_EQ(text(), "X= 1 um; Y= 1 um; ");
-    EXPECT_EQ(readout()[1], "IHostCanvas.MoveTo(20, 134)");
+    EXPECT_EQ(readout().at(1), "IHostCanvas.MoveTo(20, 134)");
 }
 
 TEST_F(Readout, LooksAtThePlaceOfTheSampleNotAtThePointer) {
     graph.setPointer({500, 150});
     traces({rawCurve({{1, 0}})});
-    EXPECT_EQ(readout()[1], "IHostCanvas.MoveTo(240, 134)");
+    EXPECT_EQ(readout().at(1), "IHostCanvas.MoveTo(240, 134)");
 }
 
 TEST_F(Readout, IsNothingOutsideTheCanvas) {

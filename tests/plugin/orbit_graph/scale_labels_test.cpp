@@ -103,8 +103,9 @@ TEST_F(ScaleLabels, LeaveTheHoverColourToAHoveredLimit) {
     graph.setTickCount(1);
     labels();
     graph.layoutAxisStrips(canvas.ref());
-    graph.hitTestAxisStrips({65, 245});
-    graph.hitTestLimitLabels({65, 245});
+    // The corner where both strips and the first label meet.
+    graph.hitTestAxisStrips({60, 240});
+    graph.hitTestLimitLabels({60, 240});
     const Lines colours = callsOf("IHostFont.SetColor", labels());
     EXPECT_EQ(Lines(colours.begin(), colours.begin() + 4),
               (Lines{"IHostFont.SetColor(3)", "IHostFont.SetColor(3)",
