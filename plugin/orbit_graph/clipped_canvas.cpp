@@ -39,6 +39,7 @@ void ClippedCanvas::arc(const Rectangle& box, const Point& start, const Point& e
                 canvasInteger(end.x), canvasInteger(end.y));
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the copy comes before the test on purpose
 void ClippedCanvas::textRect(const Rectangle& box, std::wstring text, std::uint32_t format) const {
     if (!admits(box)) return;
     target_.TextRect(canvasInteger(box.left), canvasInteger(box.top), canvasInteger(box.right),

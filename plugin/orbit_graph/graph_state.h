@@ -47,7 +47,7 @@ struct NearestSample {
 
 /// Everything that a frame needs besides the canvas and the curves. Lengths are canvas pixels,
 /// angles of probes degrees, values data units.
-struct GraphState {
+struct GraphState {  // NOLINT(clang-analyzer-optin.performance.Padding): the order is documented
     // View
     double scaleX = 1.0;       ///< zoom about the centre of the canvas
     double scaleY = 1.0;       ///< zoom in y

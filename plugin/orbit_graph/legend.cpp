@@ -13,6 +13,7 @@ std::wstring labelOf(const OrbitCurve& curve) {
 
 std::vector<std::wstring> rowLabels(const std::vector<OrbitCurve>& curves) {
     std::vector<std::wstring> labels;
+    labels.reserve(curves.size());
     for (const OrbitCurve& curve : curves)
         labels.push_back(labelOf(curve) + (&curve == &curves.back() ? L"" : L", "));
     return labels;
@@ -52,9 +53,9 @@ void OrbitGraph::drawLegendLines(const CanvasRef& canvas, const std::vector<Orbi
 
 void OrbitGraph::drawLegendRow(const CanvasRef& canvas, const std::vector<OrbitCurve>& curves) {
     const std::vector<std::wstring> labels = rowLabels(curves);
-    const std::int32_t rowWidth = canvas->TextWidth(joined(labels));
+    const std::int32_t halfWidth = canvas->TextWidth(joined(labels)) / 2;
     state_.legendX = legendStart(canvas, state_);
-    state_.legendY = rowWidth / 2 + centreOf(state_.graphRect).y;
+    state_.legendY = halfWidth + centreOf(state_.graphRect).y;
     for (std::size_t i = 0; i < curves.size(); ++i) {
         drawLabel(canvas, state_, labels[i], curves[i].info.color);
         state_.legendY -= canvas->TextWidth(labels[i]);

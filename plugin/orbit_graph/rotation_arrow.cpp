@@ -25,6 +25,7 @@ Rectangle plotOnCanvas(const GraphState& state) {
 
 std::vector<Point> moved(const std::vector<Point>& shape, double angle, const Point& place) {
     std::vector<Point> result;
+    result.reserve(shape.size());
     for (const Point& point : shape) {
         const Point turned = turn(point, angle, {0, 0});
         result.push_back({turned.x + place.x, turned.y + place.y});
@@ -46,7 +47,7 @@ RotationArc rotationArc(const GraphState& state) {
 }
 
 std::vector<Point> arrowHead(const RotationArc& arc, std::int32_t direction) {
-    const std::vector<Point> shape{{0, 0}, {0, 5}, {10, 0}, {0, -5}};
+    std::vector<Point> shape{{0, 0}, {0, 5}, {10, 0}, {0, -5}};
     if (direction == 0) return moved(shape, Degrees155, arc.end);
     if (direction == 1) return moved(shape, Degrees295, arc.start);
     return shape;

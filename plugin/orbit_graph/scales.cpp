@@ -40,11 +40,12 @@ std::int64_t tickPositions(std::int32_t graphType, std::int32_t tickCount) {
 std::vector<Segment> gridUnits(std::int32_t tickCount) {
     const double step = 2.0 / intervals(tickCount);
     std::vector<Segment> units;
-    for (double t = 1.0; t > -1.0; t -= step) {
+    double t = 1.0;
+    do {
         units.push_back({{t, -1}, {t, 1}});
         units.push_back({{-1, t}, {1, t}});
-        if (step < 0) break;
-    }
+        t -= step;
+    } while (t > -1.0 && step > 0);
     return units;
 }
 
@@ -55,9 +56,11 @@ std::vector<Segment> edgeUnits() {
 std::vector<Rectangle> ringUnits(std::int32_t tickCount) {
     const double step = 1.0 / intervals(tickCount);
     std::vector<Rectangle> units;
-    if (step < 0) return units;
-    for (double t = 1 - step; t > 0; t -= step)
+    double t = 1 - step;
+    while (t > 0 && step > 0) {
         units.push_back({0, 0, t, t});
+        t -= step;
+    }
     return units;
 }
 
@@ -67,15 +70,17 @@ std::vector<Segment> crossUnits() {
 
 std::vector<Tick> axisTicks(double lower, double upper, std::int64_t positions,
                             const std::wstring& format) {
-    const double gaps = static_cast<double>(positions - 1);
+    const auto gaps = static_cast<double>(positions - 1);
     const double valueStep = (upper - lower) / gaps;
     const double unitStep = 2.0 / gaps;
     std::vector<Tick> ticks;
     double value = upper;
     double unit = 1.0;
-    for (std::int64_t i = 0; i < positions; ++i, value -= valueStep, unit -= unitStep) {
+    for (std::int64_t i = 0; i < positions; ++i) {
         const bool atLimit = isNear(value, lower) || isNear(value, upper);
         ticks.push_back({value, unit, atLimit, formatValue(format, value)});
+        value -= valueStep;
+        unit -= unitStep;
     }
     return ticks;
 }

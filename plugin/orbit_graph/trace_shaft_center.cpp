@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -86,12 +85,13 @@ bool hasRoom(const std::vector<Rectangle>& placed, const Rectangle& box) {
 
 void drawValues(TraceFrame& frame, const std::vector<CurveSample>& samples,
                 const LabelMetrics& metrics) {
-    for (const CurveSample& sample : samples | std::views::reverse) {
-        const MappedSample mapped = frame.mapping.map(valueOf(sample));
-        if (!mapped.inside) continue;
-        const Rectangle box = labelBox(metrics, mapped.box, sample.z);
+    for (std::size_t i = samples.size(); i-- > 0;) {
+        const MappedSample sample = frame.mapping.map(valueOf(samples[i]));
+        if (!sample.inside) continue;
+        const Rectangle box = labelBox(metrics, sample.box, samples[i].z);
         if (!hasRoom(frame.state.placedLabels, box)) continue;
-        drawTextBox(frame.canvas, box, formatValue(L"%.0f", sample.z), TextFormat::CentredAcross);
+        const std::wstring text = formatValue(L"%.0f", samples[i].z);
+        drawTextBox(frame.canvas, box, text, TextFormat::CentredAcross);
         frame.state.placedLabels.push_back(box);
     }
 }
