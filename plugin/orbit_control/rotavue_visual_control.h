@@ -21,6 +21,8 @@
 
 namespace Meridax::VisualControls::Rotavue {
 
+struct SettingsAccess;
+
 /// A stretch of a channel in distances from its newest sample; `end` is exclusive.
 struct HistoryWindow {
     std::int32_t first = 0;
@@ -61,9 +63,15 @@ public:
     /// Moves the history to time when a raw group has lost its tacho channel.
     void onChannelsChanged(std::int32_t slotIndex) override;
 
+    /// Saves or loads the sixteen settings. A load that fails in the limits leaves the settings
+    /// before them loaded; one that fails earlier leaves all as they were.
+    void persistSetup(Utils::Serialization::Node& node) override;
+
+    /// Always true.
     bool canCopyToClipboard() override;
 
 private:
+    friend struct SettingsAccess;
     friend struct RotavueVisualControlAccess;  // a test's key to the state and the steps
 
     // ---- The draw cycle --------------------------------------------------------------------
