@@ -4,6 +4,7 @@
 #include "plugin/framework/host/data/host_channel.h"
 #include "plugin/framework/host/data/host_collections.h"
 #include "plugin/framework/host/panel/host_property_panel.h"
+#include "plugin/framework/host/panel/host_widgets.h"
 #include "plugin/framework/visual_control.h"
 #include "plugin/orbit_control/bearing_config.h"
 #include "plugin/orbit_control/data_window.h"
@@ -21,6 +22,7 @@
 
 namespace Meridax::VisualControls::Rotavue {
 
+struct PanelWidget;
 struct SettingsAccess;
 
 /// A stretch of a channel in distances from its newest sample; `end` is exclusive.
@@ -69,6 +71,13 @@ public:
 
     /// Always true.
     bool canCopyToClipboard() override;
+
+    void buildProperties(Host::Ref<Host::IHostPropertyPanel> panel) override;
+
+    /// Also makes the scale of a circle absolute.
+    void fillProperties(Host::Ref<Host::IHostPropertyPanel> panel) override;
+
+    void readProperty(std::wstring text, Host::Ref<Host::IHostPropertyControl> widget) override;
 
 private:
     friend struct SettingsAccess;
@@ -161,6 +170,18 @@ private:
     void requestGroup(Host::IHostChannelList& group, DataWindow window);
     std::optional<double> requestedSpan(Host::IHostChannelList& group);
     void sendRequest(Host::DataPosition from, Host::DataPosition to);
+
+    // ---- Property panel --------------------------------------------------------------------
+
+    /// Finds the widget on `propertyRoot_`, lets it show its setting and gives it; empty where the
+    /// page lacks it.
+    Host::Ref<Host::IHostPropertyControl> fill(const PanelWidget& widget);
+
+    /// The same for a widget whose row comes and goes.
+    void fillWhereShown(const PanelWidget& widget, bool shown);
+    void fillAutoScaleType();
+    void fillClearance();
+    void setControlEnabled(const std::wstring& name, bool enabled);
 
     // ---- State, in the order in which it is made; the end runs backward --------------------
 
