@@ -22,6 +22,7 @@
 
 namespace Meridax::VisualControls::Rotavue {
 
+class ClipboardWriter;
 struct PanelWidget;
 struct SettingsAccess;
 
@@ -72,6 +73,10 @@ public:
     /// Always true.
     bool canCopyToClipboard() override;
 
+    /// The orbits as tab-separated numbers, read anew from the channels; empty when the bearings
+    /// differ.
+    std::wstring clipboardText() override;
+
     void buildProperties(Host::Ref<Host::IHostPropertyPanel> panel) override;
 
     /// Also makes the scale of a circle absolute.
@@ -80,6 +85,7 @@ public:
     void readProperty(std::wstring text, Host::Ref<Host::IHostPropertyControl> widget) override;
 
 private:
+    friend class ClipboardWriter;
     friend struct SettingsAccess;
     friend struct RotavueVisualControlAccess;  // a test's key to the state and the steps
 

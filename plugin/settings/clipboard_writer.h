@@ -1,0 +1,45 @@
+#pragma once
+
+#include "plugin/framework/host/data/host_channel.h"
+#include "plugin/framework/host/data/host_collections.h"
+#include "plugin/orbit_control/rotavue_visual_control.h"
+#include "plugin/orbit_graph/orbit_curve.h"
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace Meridax::VisualControls::Rotavue {
+
+/// Writes one clipboard text, a section for each orbit: a title, a line of column names, the rows
+/// and an empty line. The channels are read anew, so the text holds the data as it stands now.
+class ClipboardWriter {
+public:
+    /// After the control's check of the bearings, whose allowance of places the rows use up.
+    explicit ClipboardWriter(RotavueVisualControl& control) : control_(control) {}
+
+    void addGroup(Host::IHostChannelList& group);
+    void addChannel(Host::IHostChannel& channel);
+
+    std::wstring takeText() { return std::move(text_); }
+
+private:
+    void addTitle(Host::IHostChannel& channel);
+    void addSection(Host::IHostChannel& channel, OrbitKind kind);
+    void addWindow(Host::IHostChannel& channel, Host::IHostChannel* tacho);
+    void addArray(Host::IHostChannel& channel, OrbitKind kind);
+    void addHarmonic(Host::IHostChannel& channel);
+    void addEllipse(const Point& atY, const Point& atX);
+    void addShaftCenter(Host::IHostChannel& channel);
+    void addRow(std::initializer_list<double> numbers);
+
+    Point phasor(Host::IHostChannel& channel, std::int32_t element);
+    std::int32_t rowsFor(std::int64_t wanted);
+
+    RotavueVisualControl& control_;
+    std::vector<std::wstring> columns_{L"%.3f", L"%.3f"};  ///< the format of each column of a row
+    std::wstring text_;
+};
+
+}  // namespace Meridax::VisualControls::Rotavue
