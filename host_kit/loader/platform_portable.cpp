@@ -62,7 +62,7 @@ std::optional<std::filesystem::path> moduleIn(const RegistryView& registry) {
     if (!file || file->empty()) {
         throw LoadError("the registry key " + toUtf8(moduleKey(*classId)) + " names no module");
     }
-    return std::filesystem::path(*file);
+    return std::filesystem::path(toUtf8(*file));  // A wide one would go through the locale.
 }
 
 }  // namespace

@@ -59,6 +59,11 @@ TEST_F(RegisteredModule, IsTheOneThatTheAnnouncementLeadsTo) {
     EXPECT_EQ(chooseModule(std::nullopt), "/opt/machine.vc");
 }
 
+TEST_F(RegisteredModule, MayLieInAFolderOfAnyName) {
+    write("machine", announcement() + classKey("/opt/M\u00E4dchen \u4E2D/machine.vc"));
+    EXPECT_EQ(chooseModule(std::nullopt), "/opt/M\u00E4dchen \u4E2D/machine.vc");
+}
+
 TEST_F(RegisteredModule, OfTheUserComesBeforeThatOfTheMachine) {
     write("machine", announcement() + classKey("/opt/machine.vc"));
     write("user", announcement() + classKey("/home/user.vc"));
