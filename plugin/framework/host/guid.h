@@ -22,7 +22,7 @@ namespace Detail {
 
 consteval std::uint64_t hexDigit(char c) {
     if (c >= '0' && c <= '9') return static_cast<std::uint64_t>(c - '0');
-    if (c >= 'A' && c <= 'F') return static_cast<std::uint64_t>(c - 'A' + 10);
+    if (c >= 'A' && c <= 'F') return static_cast<std::uint64_t>(c - 'A') + 10;
     throw "an identifier is written in upper-case hexadecimal digits";
 }
 

@@ -33,6 +33,7 @@ public:
         if (object_ != nullptr) object_->release();
     }
 
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment,cert-oop54-cpp): it compares the objects.
     Ref& operator=(const Ref& other) noexcept {
         if (object_ != other.object_) Ref(other).swap(*this);
         return *this;

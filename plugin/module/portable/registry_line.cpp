@@ -104,17 +104,17 @@ std::uint32_t LineReader::number(int base, const char* fault) {
     return value;
 }
 
-std::wstring hexadecimal(wchar_t character) {
-    std::array<char, 8> digits{};
-    const auto code = static_cast<std::uint32_t>(character);
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), code, 16).ptr;
-    return {digits.data(), end};
+/// A control character, whose number has two hexadecimal digits, as an escape.
+std::wstring numberedForm(wchar_t character) {
+    constexpr std::wstring_view Digits = L"0123456789abcdef";
+    const auto code = static_cast<std::uint8_t>(character);
+    return {L'\\', L'u', L'{', Digits[code >> 4U], Digits[code & 15U], L'}'};
 }
 
 std::wstring escapedForm(wchar_t character) {
     for (const Escape& escape : Escapes)
         if (escape.character == character) return {L'\\', escape.letter};
-    if (isControlCharacter(character)) return L"\\u{" + hexadecimal(character) + L"}";
+    if (isControlCharacter(character)) return numberedForm(character);
     return {character};
 }
 

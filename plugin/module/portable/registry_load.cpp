@@ -48,9 +48,9 @@ std::filesystem::path pathFrom(const char* variable) {
 }
 
 std::filesystem::path userConfiguration() {
-    const std::filesystem::path configuration = pathFrom("XDG_CONFIG_HOME");
+    std::filesystem::path configuration = pathFrom("XDG_CONFIG_HOME");
     if (configuration.is_absolute()) return configuration;
-    const std::filesystem::path home = pathFrom("HOME");
+    std::filesystem::path home = pathFrom("HOME");
     return home.empty() ? home : home / ".config";
 }
 
