@@ -16,7 +16,8 @@ namespace Host = Meridax::Host;
 /// The built module, loaded for one test as a host loads it.
 class LoadedModule {
 public:
-    LoadedModule() : handle_(::dlopen(ROTAVUE_MODULE_FILE, RTLD_NOW | RTLD_LOCAL)) {
+    explicit LoadedModule(const char* file = ROTAVUE_MODULE_FILE)
+        : handle_(::dlopen(file, RTLD_NOW | RTLD_LOCAL)) {
         if (handle_ == nullptr) throw std::runtime_error(::dlerror());
     }
     LoadedModule(const LoadedModule&) = delete;

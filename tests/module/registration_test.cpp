@@ -1,3 +1,4 @@
+#include "plugin/framework/unicode.h"
 #include "plugin/module/portable/registry_file.h"
 #include "tests/module/loaded_module.h"
 #include "tests/plugin/module/portable/environment_variable.h"
@@ -152,6 +153,34 @@ TEST_F(ModuleRegistration, DamagedFileIsNotOverwrittenAndNotReported) {
     writeFile(machineFile, "Meridax registry, format 1\nWidth: 400\n");
     EXPECT_EQ(LoadedModule().registerServer(), 0);
     EXPECT_EQ(readFile(machineFile), "Meridax registry, format 1\nWidth: 400\n");
+}
+
+TEST_F(ModuleRegistration, FileThatIsMovedRegistersItsNewPlace) {
+    const std::filesystem::path moved = folder / "m\u00F6ved.vc";
+    std::filesystem::copy_file(ROTAVUE_MODULE_FILE, moved);
+    EXPECT_EQ(LoadedModule(moved.c_str()).registerServer(), 0);
+    ASSERT_NE(machine().text(ServerKey, L""), nullptr);
+    EXPECT_EQ(Api::utf8FromWide(*machine().text(ServerKey, L"")), moved.native());
+}
+
+TEST_F(ModuleRegistration, PathIsTheOneAtLoadWhereverTheProcessWentSince) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::copy_file(ROTAVUE_MODULE_FILE, folder / "copy.vc");
+    std::filesystem::current_path(folder / "");
+    {
+        const LoadedModule module("./copy.vc");
+        std::filesystem::current_path(before);
+        module.registerServer();
+    }
+    ASSERT_NE(machine().text(ServerKey, L""), nullptr);
+    EXPECT_EQ(Api::utf8FromWide(*machine().text(ServerKey, L"")), (folder / "copy.vc").native());
+}
+
+TEST_F(ModuleRegistration, FileNameThatIsNoTextIsAFailure) {
+    const std::filesystem::path odd = folder / "\xFF.vc";
+    std::filesystem::copy_file(ROTAVUE_MODULE_FILE, odd);
+    EXPECT_EQ(static_cast<std::uint32_t>(LoadedModule(odd.c_str()).registerServer()), 0x80004005U);
+    EXPECT_EQ(machine().text(ServerKey, L""), nullptr);
 }
 
 TEST_F(ModuleRegistration, PlaceThatCannotBeWrittenIsNotReported) {

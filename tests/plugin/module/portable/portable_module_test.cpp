@@ -1,5 +1,6 @@
 #include "plugin/module/portable/portable_module.h"
 
+#include "plugin/framework/unicode.h"
 #include "plugin/framework/visual_control.h"
 #include "plugin/module/portable/module_path.h"
 #include "tests/plugin/module/doubles/host_clipboard.h"
@@ -109,7 +110,7 @@ TEST_F(PortableModuleTest, RegistersTheFileThatHoldsIt) {
     const std::wstring* const path = file.text(
         LR"(SOFTWARE\Classes\CLSID\{264200AB-CDA2-4257-932E-FD19E014BD0C}\InprocServer32)", L"");
     ASSERT_NE(path, nullptr);
-    EXPECT_TRUE(std::filesystem::equivalent(*path, "/proc/self/exe"));
+    EXPECT_TRUE(std::filesystem::equivalent(Api::utf8FromWide(*path), "/proc/self/exe"));
     EXPECT_TRUE(modulePath().is_absolute());
 }
 
