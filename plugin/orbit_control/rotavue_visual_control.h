@@ -10,6 +10,7 @@
 #include "plugin/orbit_control/data_window.h"
 #include "plugin/orbit_control/extents.h"
 #include "plugin/orbit_control/read_allowance.h"
+#include "plugin/orbit_control/repeated_quotient.h"
 #include "plugin/orbit_control/sensor_frame.h"
 #include "plugin/orbit_graph/geometry.h"
 #include "plugin/orbit_graph/orbit_curve.h"
@@ -124,6 +125,12 @@ private:
     /// empty channel, -1 when there is none.
     std::int32_t findLatestSampleBefore(Host::IHostChannel& channel);
 
+    /// The time of the analysis cursor in seconds.
+    double cursorTime();
+
+    /// The time of a sample of the channel's own rate, never below 0.
+    double timeBeforeCursor(Host::IHostChannel& channel, std::int32_t back);
+
     // ---- The stretch of a raw orbit --------------------------------------------------------
 
     /// Samples of the master clock in the display time, or in 0.1 s.
@@ -209,6 +216,8 @@ private:
     std::vector<BearingConfig> bearingConfigs_;          ///< of the last check
     ReadAllowance pointAllowance_;                       ///< for points and turns of a frame
     ReadAllowance stampAllowance_;                       ///< for time stamps of a frame
+    RepeatedQuotient cursorQuotient_;                    ///< the cursor's sample by the master rate
+    RepeatedQuotient spacingQuotient_;                   ///< 1 by a channel's rate
 };
 
 }  // namespace Meridax::VisualControls::Rotavue

@@ -10,13 +10,6 @@ namespace {
 
 using AppRef = Host::Ref<Host::IHostApp>;
 
-double cursorTime(const AppRef& app) {
-    const Host::DataPosition cursor = app->getData()->getCurrentPosition();
-    const std::int32_t blockSize = app->getData()->getBlockSize();
-    const double rate = app->getData()->getSampleRate();
-    return static_cast<double>(cursor.linear(blockSize)) / rate;
-}
-
 // Where the ring buffer's next sample stood `back` samples ago.
 std::int32_t ringPosition(const AppRef& app, Host::IHostChannel& channel, std::int32_t back) {
     if (channel.isAsynchronous()) {
@@ -49,13 +42,6 @@ double valueAtTime(Host::IHostChannel& channel, double seconds, std::int32_t& cu
     return channel.scaleValue(channel.getValueAtTime(seconds, cursor, 0, element, component));
 }
 
-double timeBeforeCursor(const AppRef& app, Host::IHostChannel& channel, std::int32_t back) {
-    const double cursor = cursorTime(app);
-    const double rate = channel.getSampleRate();
-    const double seconds = cursor - back * (rate == 0.0 ? 0.0 : 1.0 / rate);
-    return seconds > 0.0 ? seconds : 0.0;
-}
-
 }  // namespace
 
 double RotavueVisualControl::getSample(Host::IHostChannel& channel, std::int32_t back,
@@ -64,8 +50,8 @@ double RotavueVisualControl::getSample(Host::IHostChannel& channel, std::int32_t
         return valueBefore(channel, ringPosition(hostApp, channel, back), element, component);
     }
     if (!channel.isAsynchronous()) {
-        const double seconds = timeBeforeCursor(hostApp, channel, back);
-        return valueAtTime(channel, seconds, sampleCursor, element, component);
+        return valueAtTime(channel, timeBeforeCursor(channel, back), sampleCursor, element,
+                           component);
     }
     if (sampleCursor == -1) sampleCursor = findLatestSampleBefore(channel);
     const std::int64_t sample = std::int64_t{sampleCursor} - back;
@@ -77,13 +63,28 @@ double RotavueVisualControl::getLatestArrayValue(Host::IHostChannel& channel, st
     if (hostApp->isAcquiring()) {
         return valueBefore(channel, channel.getWritePosition(), element, component);
     }
-    return valueAtTime(channel, cursorTime(hostApp), sampleCursor, element, component);
+    return valueAtTime(channel, cursorTime(), sampleCursor, element, component);
+}
+
+double RotavueVisualControl::cursorTime() {
+    const Host::DataPosition cursor = hostApp->getData()->getCurrentPosition();
+    const std::int32_t blockSize = hostApp->getData()->getBlockSize();
+    const double rate = hostApp->getData()->getSampleRate();
+    return cursorQuotient_.of(static_cast<double>(cursor.linear(blockSize)), rate);
+}
+
+double RotavueVisualControl::timeBeforeCursor(Host::IHostChannel& channel, std::int32_t back) {
+    const double cursor = cursorTime();
+    const double rate = channel.getSampleRate();
+    const double spacing = rate == 0.0 ? 0.0 : spacingQuotient_.of(1.0, rate);
+    const double seconds = cursor - back * spacing;
+    return seconds > 0.0 ? seconds : 0.0;
 }
 
 std::int32_t RotavueVisualControl::findLatestSampleBefore(Host::IHostChannel& channel) {
     const std::int32_t count = channel.getSampleCount();
     if (count == 0) return 0;
-    const double now = cursorTime(hostApp);
+    const double now = cursorTime();
     for (std::int32_t i = std::max(count, 0) - 1; i >= 0 && stampAllowance_.take(); --i) {
         if (!(channel.getTimestamp(i) >= now)) return i;
     }
