@@ -25,12 +25,6 @@ Ref<Host::IHostChannel> channelAt(MemoryHost& host, const std::vector<ChannelIte
     return item != nullptr && *item ? host.channel(**item) : nullptr;
 }
 
-const std::string& idOf(const Host::IHostChannel& channel) {
-    const auto* known = dynamic_cast<const MemoryChannel*>(&channel);
-    if (known == nullptr) throw Host::HostError(Host::Status::InvalidArgument);
-    return known->id();
-}
-
 }  // namespace
 
 std::int32_t MemoryChannels::getCount() {
@@ -60,8 +54,8 @@ Ref<Host::IHostObject> MemoryGroups::getItem(std::int32_t index) {
 }
 
 void MemoryChannelList::add(Host::IHostChannel& channel) {
-    call(
-        operation("IHostChannelList.add"), [&] { items_.emplace_back(idOf(channel)); }, channel);
+    const auto part = [&] { items_.emplace_back(own<MemoryChannel>(channel).id()); };
+    call(operation("IHostChannelList.add"), part, channel);
 }
 
 void MemoryChannelList::clear() {
@@ -106,7 +100,7 @@ void MemoryGroup::add(Host::IHostChannel& channel) {
     call(
         operation("IHostChannelList.add"),
         [&] {
-            if (channels() != nullptr) channels()->emplace_back(idOf(channel));
+            if (channels() != nullptr) channels()->emplace_back(own<MemoryChannel>(channel).id());
         },
         channel);
 }

@@ -16,7 +16,7 @@ Ref<IHostXmlNode> MemoryDocument::GetRootNode() {
 }
 
 void MemoryDocument::SetRootNode(IHostXmlNode& node) {
-    const auto part = [&] { root_ = memoryNode(node).self(); };
+    const auto part = [&] { root_ = own<MemoryNode>(node).self(); };
     call(operation("IHostXmlDocument.SetRootNode"), part, node);
 }
 
@@ -34,7 +34,7 @@ Ref<IHostXmlNode> MemoryDocument::CreateNode(const std::wstring& nodeName,
 void MemoryDocument::WriteValue(IHostXmlNode& node, const std::wstring& key,
                                 const std::wstring& value, const std::wstring& defaultValue) {
     const auto part = [&] {
-        MemoryNode::Texts& texts = memoryNode(node).texts();
+        MemoryNode::Texts& texts = own<MemoryNode>(node).texts();
         value == defaultValue ? void(texts.erase(key)) : void(texts[key] = value);
     };
     call(operation("IHostXmlDocument.WriteValue"), part, node, key, value, defaultValue);
@@ -43,7 +43,7 @@ void MemoryDocument::WriteValue(IHostXmlNode& node, const std::wstring& key,
 void MemoryDocument::ReadValue(IHostXmlNode& node, const std::wstring& key, std::wstring& value,
                                const std::wstring& defaultValue) {
     const auto stored = [&] {
-        const MemoryNode::Texts& texts = memoryNode(node).texts();
+        const MemoryNode::Texts& texts = own<MemoryNode>(node).texts();
         const auto found = texts.find(key);
         return found != texts.end() ? found->second : defaultValue;
     };

@@ -64,9 +64,6 @@ private:
     MemoryNode* parent_ = nullptr;
 };
 
-/// The node behind the interface; raises 0x80070057 for one that is no memory host's.
-MemoryNode& memoryNode(Host::IHostXmlNode& node);
-
 /// A setup document. `WriteValue` stores a text under a key of the node, or removes the key when
 /// the text equals the default.
 class MemoryDocument final : public PassingObject<Host::IHostXmlDocument> {

@@ -8,12 +8,6 @@ namespace Rotavue::HostKit {
 using Host::IHostXmlNode;
 using Host::Ref;
 
-MemoryNode& memoryNode(IHostXmlNode& node) {
-    auto* known = dynamic_cast<MemoryNode*>(&node);
-    if (known == nullptr) throw Host::HostError(Host::Status::InvalidArgument);
-    return *known;
-}
-
 MemoryNode::MemoryNode(MemoryHost& host, std::wstring name, std::wstring value)
     : PassingObject(host), name_(std::move(name)), value_(std::move(value)) {}
 
@@ -34,7 +28,7 @@ bool MemoryNode::isBelow(const MemoryNode& other) const {
 }
 
 void MemoryNode::append(Nodes& nodes, IHostXmlNode& node) {
-    const auto added = memoryNode(node).self();
+    const auto added = own<MemoryNode>(node).self();
     if (isBelow(*added)) throw Host::HostError(Host::Status::InvalidArgument);
     if (MemoryNode* before = added->parent_) {
         before->remove(before->children_, node);
@@ -45,7 +39,7 @@ void MemoryNode::append(Nodes& nodes, IHostXmlNode& node) {
 }
 
 void MemoryNode::remove(Nodes& nodes, IHostXmlNode& node) {
-    const auto removed = memoryNode(node).self();
+    const auto removed = own<MemoryNode>(node).self();
     if (std::erase(nodes, removed) > 0) removed->parent_ = nullptr;
 }
 

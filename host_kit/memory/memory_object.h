@@ -36,6 +36,17 @@ protected:
         return host_.gate.call(operation, *this, std::move(answer), arguments...);
     }
 
+    /// The object behind an interface that the plug-in handed in. Raises 0x80070057 for one that is
+    /// not of this host and this class.
+    template <class Object, class Interface>
+    Object& own(Interface& object) const {
+        auto* known = dynamic_cast<Object*>(&object);
+        if (known == nullptr || &known->host_ != &host_) {
+            throw Host::HostError(Host::Status::InvalidArgument);
+        }
+        return *known;
+    }
+
     MemoryHost& host_;
     std::int32_t references_ = 0;
 };

@@ -43,6 +43,9 @@ public:
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
 
+    /// The host of this session, for those who let its calls fail or watch what it holds.
+    MemoryHost& host() { return host_; }
+
     /// Sends all steps and writes the log. An error that a message throws is a line of it. Raises
     /// `LoadError` where the module makes no control.
     void play();

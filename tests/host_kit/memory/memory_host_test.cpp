@@ -1,8 +1,5 @@
 #include "host_kit/memory/memory_host.h"
 
-#include "plugin/framework/host/data/host_properties.h"
-#include "plugin/framework/host/drawing/host_pen.h"
-
 #include <gtest/gtest.h>
 
 namespace Rotavue::HostKit {

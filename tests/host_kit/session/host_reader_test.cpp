@@ -1,7 +1,6 @@
 #include "host_kit/session/host_reader.h"
 
 #include "host_kit/memory/memory_host.h"
-#include "plugin/framework/host/drawing/host_font.h"
 
 #include <gtest/gtest.h>
 
