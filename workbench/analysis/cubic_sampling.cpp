@@ -1,0 +1,34 @@
+#include "workbench/analysis/cubic_sampling.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace Rotavue::Workbench {
+namespace {
+
+double linearAt(std::span<const double> samples, double place) {
+    const auto last = static_cast<std::ptrdiff_t>(samples.size()) - 2;
+    if (last < 0) return samples.front();
+    const auto first = std::clamp(static_cast<std::ptrdiff_t>(place), std::ptrdiff_t{0}, last);
+    const double part = place - static_cast<double>(first);
+    const double before = samples[static_cast<std::size_t>(first)];
+    return before + part * (samples[static_cast<std::size_t>(first) + 1] - before);
+}
+
+}  // namespace
+
+double cubicAt(std::span<const double> samples, double place) {
+    if (samples.size() < 4) return linearAt(samples, place);
+    const auto last = static_cast<std::ptrdiff_t>(samples.size()) - 4;
+    const auto first = std::clamp(static_cast<std::ptrdiff_t>(place) - 1, std::ptrdiff_t{0}, last);
+    const double* p = samples.data() + first;
+    const double t = place - static_cast<double>(first);  // 1 to 2, but next to an end
+    const double t1 = t - 1.0;
+    const double t2 = t - 2.0;
+    const double t3 = t - 3.0;
+    const double outer = (p[3] * t - p[0] * t3) * t1 * t2 / 6.0;
+    const double inner = (p[1] * t2 - p[2] * t1) * t * t3 / 2.0;
+    return outer + inner;
+}
+
+}  // namespace Rotavue::Workbench
