@@ -1,0 +1,99 @@
+#include "workbench/analysis/shaft_center.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "workbench/analysis/analysis_error.h"
+#include "workbench/analysis/machine_frame.h"
+#include "workbench/analysis/mean_position.h"
+#include "workbench/analysis/short_text.h"
+
+namespace Rotavue::Workbench {
+namespace {
+
+constexpr double LongestInterval = 1e9;    // s
+constexpr double LeastLastInterval = 0.5;  // of an interval
+constexpr double LeastTurningPart = 0.5;   // of an interval
+
+[[noreturn]] void refuse(const std::string& reason) {
+    throw AnalysisError("the shaft centre " + reason);
+}
+
+void check(const Recording& recording, const ShaftCenterOptions& options) {
+    if (recording.coupling == Coupling::Ac)
+        refuse("needs the mean of the gaps, which AC coupling takes away");
+    const double least = 1.0 / recording.sampleRate;
+    if (options.interval >= least && options.interval <= LongestInterval) return;
+    refuse("takes intervals from one sample, " + shortText(least) + " s, to 1e9 s, not " +
+           shortText(options.interval) + " s");
+}
+
+// Probe values of the place where the shaft rests.
+ProbeValues restPlace(const MachineFacts& machine, RestPosition rest) {
+    if (rest == RestPosition::Centre) return {};
+    if (!(machine.clearanceHeight > 0.0))
+        refuse("at the bottom of the clearance needs the clearance's height");
+    const MachineFrame frame(machine);
+    if (!frame.isPlane())
+        refuse("at the bottom of the clearance needs probes that look along two directions");
+    return frame.probesAt({0.0, -0.5 * machine.clearanceHeight});
+}
+
+// What is added to the probe values of the recording.
+ProbeValues shiftFor(const Recording& recording, const ShaftCenterOptions& options) {
+    ProbeValues shift = restPlace(recording.machine, options.rest);
+    if (!options.restSpan) return shift;
+    const std::optional<ProbeValues> rest = meanPosition(recording, *options.restSpan);
+    if (!rest)
+        refuse("finds no samples at rest between " + shortText(options.restSpan->from) + " and " +
+               shortText(options.restSpan->to) + " s");
+    return {shift.x - rest->x, shift.y - rest->y};
+}
+
+// The whole turns in an interval if they make up most of it; else the interval.
+TimeSpan wholeTurnsIn(const ShaftTrack& track, const TimeSpan& interval) {
+    const WholeTurns turns = track.mostTurns(interval);
+    if (turns.count() == 0) return interval;
+    const TimeSpan span = turns.span();
+    return span.length() >= LeastTurningPart * interval.length() ? span : interval;
+}
+
+std::vector<TimeSpan> intervalsOf(const Recording& recording, const ShaftCenterOptions& options) {
+    const double from = std::max(0.0, options.span.from);
+    const double to = std::min(recording.duration(), options.span.to);
+    std::vector<TimeSpan> intervals{{from, std::min(from + options.interval, to)}};
+    for (double k = 1.0;; k += 1.0) {
+        const double begin = from + k * options.interval;
+        const TimeSpan interval{begin, std::min(begin + options.interval, to)};
+        if (!(interval.length() >= LeastLastInterval * options.interval)) return intervals;
+        intervals.push_back(interval);
+    }
+}
+
+std::string leftOutNote(std::size_t count) {
+    return "shaft centre: " + std::to_string(count) + (count == 1 ? " interval" : " intervals") +
+           " left out because of gaps";
+}
+
+}  // namespace
+
+ShaftCenterHistory shaftCenterHistory(const Recording& recording, const ShaftTrack& track,
+                                      const ShaftCenterOptions& options) {
+    check(recording, options);
+    const ProbeValues shift = shiftFor(recording, options);
+    const std::vector<TimeSpan> intervals = intervalsOf(recording, options);
+    ShaftCenterHistory history{{}, recording.machine.unit, recording.startTime, {}};
+    for (const TimeSpan& interval : intervals) {
+        const auto mean = meanPosition(recording, wholeTurnsIn(track, interval));
+        if (!mean) continue;
+        const double middle = 0.5 * (interval.from + interval.to);
+        history.positions.push_back(
+            {mean->x + shift.x, mean->y + shift.y, track.speedAt(middle), middle});
+    }
+    if (history.positions.empty()) refuse("finds no interval with samples free of gaps");
+    const std::size_t left = intervals.size() - history.positions.size();
+    if (left > 0) history.notes.push_back(leftOutNote(left));
+    return history;
+}
+
+}  // namespace Rotavue::Workbench
