@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "host_kit/memory/utf8.h"
-#include "plugin/framework/unicode.h"
 #include "workbench/analysis/bearing_properties.h"
+#include "workbench/analysis/channel_text.h"
 #include "workbench/recording/gaps.h"
 
 namespace Rotavue::Workbench {
@@ -19,10 +18,6 @@ constexpr std::int32_t YComponent = 5;
 constexpr std::int32_t GroupSlot = 1;
 constexpr const wchar_t* KindProperty = L"OrbitType";
 constexpr const wchar_t* RawKind = L"Raw";
-
-std::wstring wide(const std::string& text) {
-    return Meridax::VisualControls::Api::wideFromUtf8(HostKit::wellFormed(text));
-}
 
 ChannelDescription channelOf(const Recording& recording) {
     ChannelDescription channel;
@@ -42,8 +37,8 @@ ChannelDescription tachoChannel(Recording& recording) {
 
 ChannelDescription orbitChannel(Recording& recording, const RawOrbitStyle& style) {
     ChannelDescription channel = channelOf(recording);
-    channel.name = wide(style.name);
-    channel.unit = wide(recording.machine.unit);
+    channel.name = channelText(style.name);
+    channel.unit = channelText(recording.machine.unit);
     channel.color = style.color;
     channel.properties = bearingProperties(recording.machine);
     channel.properties[KindProperty] = RawKind;
