@@ -25,7 +25,7 @@ FrameEdges edgesIn(const MessageStep& draw) {
         const auto* number = std::get_if<std::int64_t>(&draw.arguments[position]);
         return number != nullptr ? static_cast<std::int32_t>(*number) : 0;
     };
-    return {edge(1), edge(2), edge(3), edge(4)};
+    return {edge(1), edge(2), edge(3), edge(4), edge(7)};
 }
 
 }  // namespace

@@ -17,12 +17,13 @@
 
 namespace Rotavue::HostKit {
 
-/// The edges of a frame, as message 42 carries them.
+/// The edges of a frame and the number of its colour scheme, as message 42 carries them.
 struct FrameEdges {
     std::int32_t left = 0;
     std::int32_t top = 0;
     std::int32_t right = 0;
     std::int32_t bottom = 0;
+    std::int32_t scheme = 0;
 };
 
 /// Gives a canvas that paints what is drawn within these edges.

@@ -1,6 +1,6 @@
 #include "workbench/paint/line_run.h"
 
-#include "workbench/paint/straightened.h"
+#include "workbench/paint/smoothed.h"
 
 #include <QLine>
 #include <QPaintEngine>
@@ -14,24 +14,18 @@ namespace {
 
 using Chain = std::span<const QPoint>;
 
-void appendLines(std::vector<QLine>& lines, Chain chain) {
-    for (std::size_t i = 1; i < chain.size(); ++i)
-        lines.emplace_back(chain[i - 1], chain[i]);
-}
-
-void strokeLines(QPainter& painter, const std::vector<QLine>& lines) {
-    painter.drawLines(lines.data(), static_cast<int>(lines.size()));
-}
+using SmoothLine = std::vector<QPointF>;
 
 void strokePixels(QPainter& painter, const std::vector<Chain>& chains) {
     std::vector<QLine> lines;
     for (const Chain chain : chains)
-        appendLines(lines, chain);
-    strokeLines(painter, lines);
+        for (std::size_t i = 1; i < chain.size(); ++i)
+            lines.emplace_back(chain[i - 1], chain[i]);
+    painter.drawLines(lines.data(), static_cast<int>(lines.size()));
 }
 
 /// The outline of a polyline that crosses itself costs the painter more than its length tells.
-void strokePolyline(QPainter& painter, Chain line) {
+void strokePolyline(QPainter& painter, const SmoothLine& line) {
     constexpr std::size_t LongestPiece = 256;
     for (std::size_t i = 0; i + 1 < line.size(); i += LongestPiece) {
         const std::size_t count = std::min(LongestPiece + 1, line.size() - i);
@@ -39,18 +33,18 @@ void strokePolyline(QPainter& painter, Chain line) {
     }
 }
 
+void strokeSingly(QPainter& painter, const SmoothLine& line) {
+    std::vector<QLineF> lines;
+    for (std::size_t i = 1; i < line.size(); ++i)
+        lines.emplace_back(line[i - 1], line[i]);
+    painter.drawLines(lines.data(), static_cast<int>(lines.size()));
+}
+
 /// Whether lines are wider than a pixel of an image: their outlines then are filled one by one, and
 /// single lines come out the same as joined ones at a tenth of the cost.
 bool fillsOutlines(const QPainter& painter) {
     return painter.paintEngine()->type() == QPaintEngine::Raster &&
            painter.deviceTransform().m11() * painter.pen().widthF() > 1.0;
-}
-
-void strokeJoined(QPainter& painter, Chain line) {
-    if (!fillsOutlines(painter)) return strokePolyline(painter, line);
-    std::vector<QLine> lines;
-    appendLines(lines, line);
-    strokeLines(painter, lines);
 }
 
 /// What a pen leaves that does not move. The painter itself would put it beside its place.
@@ -61,12 +55,13 @@ void strokeDot(QPainter& painter, QPointF middle) {
 }
 
 void strokeSmooth(QPainter& painter, const std::vector<Chain>& chains) {
+    const bool singly = fillsOutlines(painter);
     for (const Chain chain : chains) {
-        const std::vector<QPoint> line = straightened(chain);
+        const SmoothLine line = smoothed(chain);
         if (line.size() == 1) {
             strokeDot(painter, line.front());
         } else {
-            strokeJoined(painter, line);
+            singly ? strokeSingly(painter, line) : strokePolyline(painter, line);
         }
     }
 }

@@ -7,6 +7,7 @@
 #include "workbench/paint/picture_file.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace Rotavue::Workbench {
@@ -19,6 +20,7 @@ constexpr int LargestTextHeight = 24;
 /// The plug-in keeps 60 pixels free on each side of its plot, and more beside it where the area is
 /// wider than high. Three lines of text stand to the left of the plot, two below it.
 constexpr int PlotMargin = 60;
+
 constexpr int LinesBeside = 3;
 
 /// Large enough to read, small enough for the room round the plot.
@@ -35,6 +37,18 @@ int textHeightOf(const PictureOrder& order) {
     return order.textHeight > 0 ? order.textHeight : suitableTextHeight(order.width, order.height);
 }
 
+/// The sensor badges reach beyond the plot by this part of the text height.
+constexpr double BadgeReach = 0.7;
+
+/// The pixels that a strip takes from the plug-in's area. Most of it lies over the margin above the
+/// plot, where the plug-in paints nothing but the badges, and its messages and the readout, which a
+/// picture of a sound assignment without a pointer does not have.
+int takenBy(const HeaderStrip& strip, int textHeight) {
+    constexpr int Clear = 2;
+    const int badges = static_cast<int>(std::ceil(BadgeReach * textHeight));
+    return std::max(0, strip.height() - (PlotMargin - badges - Clear));
+}
+
 HeaderStrip stripOf(const PictureOrder& order, const PictureHeader& header) {
     return HeaderStrip(header, order, textHeightOf(order));
 }
@@ -48,7 +62,7 @@ public:
         QPainter& painter = file_->painter();
         painter.fillRect(0, 0, order.width, order.height, fromHostColor(order.colors.background));
         strip.drawOn(painter, order.colors, form);
-        painter.translate(0, strip.height());
+        painter.translate(0, order.height - area.height);
         canvas_.emplace(painter, QSize(area.width, area.height),
                         CanvasOptions{.fontHeight = area.textHeight, .text = form});
     }
@@ -77,15 +91,16 @@ private:
 }  // namespace
 
 PictureArea PaintingStudio::areaOf(const PictureOrder& order, const PictureHeader& header) {
+    const int textHeight = textHeightOf(order);
     return {.width = order.width,
-            .height = order.height - stripOf(order, header).height(),
-            .textHeight = textHeightOf(order)};
+            .height = order.height - takenBy(stripOf(order, header), textHeight),
+            .textHeight = textHeight};
 }
 
 std::unique_ptr<OpenPicture> PaintingStudio::open(const PictureOrder& order,
                                                   const PictureHeader& header) {
     const PictureArea area = areaOf(order, header);
-    if (order.height >= 1 && area.height < 1) {
+    if (order.height >= 1 && stripOf(order, header).height() >= order.height) {
         throw PaintError("the picture has no room below its header");
     }
     return std::make_unique<PaintedPicture>(order, header, area);

@@ -25,7 +25,8 @@ struct PictureColors {
     std::uint32_t line = 0xBFBFBF;   ///< between the strip and the plug-in's area
 };
 
-/// What stands in a strip above the plug-in's area. Empty for no strip.
+/// What stands in a strip at the upper edge, over the margin that the plug-in keeps free above its
+/// plot as far as that goes. Empty for no strip.
 struct PictureHeader {
     std::string title;               ///< UTF-8
     std::vector<std::string> facts;  ///< short ones, in the order of their weight

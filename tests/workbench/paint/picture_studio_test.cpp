@@ -1,5 +1,6 @@
 #include "plugin/framework/host/drawing/host_brush.h"
 #include "plugin/framework/host/drawing/host_pen.h"
+#include "workbench/paint/header_strip.h"
 #include "workbench/paint/painting_studio.h"
 
 #include <QImage>
@@ -18,29 +19,39 @@ QImage imageOf(OpenPicture& picture) {
     return QImage::fromData(QByteArray::fromStdString(picture.finish()), "png");
 }
 
-TEST(PictureStudio, TheStripIsTakenFromTheHeight) {
+TEST(PictureStudio, AStripThatFitsIntoTheMarginTakesNothing) {
     PaintingStudio studio;
     const PictureOrder order{.width = 640, .height = 480};
-    const PictureArea bare = studio.areaOf(order, {});
-    const PictureArea below = studio.areaOf(order, Header);
-    EXPECT_EQ(bare.width, 640);
-    EXPECT_EQ(bare.height, 480);
-    EXPECT_EQ(below.width, 640);
-    EXPECT_LT(below.height, 460);
+    EXPECT_EQ(studio.areaOf(order, {}).height, 480);
+    EXPECT_EQ(studio.areaOf(order, Header).height, 480);
 }
 
-TEST(PictureStudio, TheCanvasBeginsBelowTheStrip) {
+TEST(PictureStudio, AHigherStripMovesTheAreaDown) {
     PaintingStudio studio;
-    const PictureOrder order{.width = 200, .height = 150};
-    const int strip = 150 - studio.areaOf(order, Header).height;
-    const auto picture = studio.open(order, Header);
+    const PictureOrder order{.width = 400, .height = 400};
+    PictureHeader header{"Rotor kit", std::vector<std::string>(30, "a fact of some length")};
+    const PictureArea area = studio.areaOf(order, header);
+    ASSERT_LT(area.height, 350);
+    const auto picture = studio.open(order, header);
     picture->canvas()->GetBrush()->SetColor(0x00FF00);
     picture->canvas()->GetPen()->SetColor(0x00FF00);
     picture->canvas()->Rectangle(-50, -50, 500, 500);
     const QImage image = imageOf(*picture);
-    EXPECT_NE(image.pixelColor(199, strip - 1), QColor(0, 255, 0));
-    EXPECT_EQ(image.pixelColor(199, strip), QColor(0, 255, 0));
-    EXPECT_EQ(image.pixelColor(0, 149), QColor(0, 255, 0));
+    EXPECT_NE(image.pixelColor(399, 400 - area.height - 1), QColor(0, 255, 0));
+    EXPECT_EQ(image.pixelColor(399, 400 - area.height), QColor(0, 255, 0));
+    EXPECT_EQ(image.pixelColor(0, 399), QColor(0, 255, 0));
+}
+
+TEST(PictureStudio, TheStripLeavesTheBadgesRoom) {
+    // The plot begins 60 pixels below the area's edge, its badges 0.7 text heights before that.
+    PaintingStudio studio;
+    for (const int height : {300, 600, 1200}) {
+        const PictureOrder order{.width = 4 * height / 3, .height = height};
+        const PictureHeader header{"Kit", {"a", "b"}};
+        const PictureArea area = studio.areaOf(order, header);
+        const int strip = HeaderStrip(header, order, area.textHeight).height();
+        EXPECT_LE(strip, height - area.height + 60 - 0.7 * area.textHeight);
+    }
 }
 
 TEST(PictureStudio, TheBackgroundIsTheHosts) {

@@ -1,0 +1,117 @@
+#include "cli/command_line.h"
+
+#include "cli/help_formatter.h"
+#include "cli/info_command.h"
+#include "cli/play_command.h"
+#include "cli/register_command.h"
+#include "cli/render_command.h"
+#include "workbench/recording/nearest_name.h"
+#include "workbench/recording/recording_error.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+namespace Rotavue::Cli {
+
+namespace {
+
+constexpr const char* Help =
+    "Orbit plots of rotating shafts\n\n"
+    "Examples:\n"
+    "  rotavue render unbalance.csv -o unbalance.png\n"
+    "  rotavue info unbalance.csv\n"
+    "  rotavue register --user\n"
+    "  rotavue play raw-orbit.json\n\n"
+    "Exit status: 0 done, 1 failed, 2 wrong use (play also: 3 no plug-in).\n";
+
+std::string withNearest(const std::string& what, const std::string& found,
+                        const std::vector<std::string>& names) {
+    return what + Workbench::inQuotes(found) + ", did you mean " +
+           Workbench::nearestName(found, names) + "?";
+}
+
+}  // namespace
+
+CommandLine::CommandLine() : app_(Help, "rotavue") {
+    app_.formatter(std::make_shared<HelpFormatter>());
+    app_.set_version_flag("--version", std::string("rotavue ") + ROTAVUE_VERSION);
+    app_.require_subcommand(0, 1);
+    app_.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    add(std::make_unique<RenderCommand>());
+    add(std::make_unique<InfoCommand>());
+    add(std::make_unique<PlayCommand>());
+    add(std::make_unique<RegisterCommand>());
+    add(std::make_unique<UnregisterCommand>());
+}
+
+void CommandLine::add(std::unique_ptr<Command> command) {
+    CLI::App* declared = command->declare(app_);
+    commands_.emplace_back(declared, std::move(command));
+}
+
+void CommandLine::checkCommandName(int count, const char* const* arguments) const {
+    if (count < 2 || arguments[1][0] == '-') return;
+    std::vector<std::string> names;
+    for (const auto& [declared, command] : commands_)
+        names.push_back(declared->get_name());
+    const std::string word = arguments[1];
+    if (std::find(names.begin(), names.end(), word) != names.end()) return;
+    throw UsageError(withNearest("there is no command ", word, names));
+}
+
+std::string CommandLine::unknownOption(const std::string& option) const {
+    std::vector<std::string> names;
+    for (const auto& [declared, command] : commands_) {
+        if (!declared->parsed()) continue;
+        for (const CLI::Option* known : declared->get_options())
+            for (const std::string& name : known->get_lnames())
+                names.push_back("--" + name);
+    }
+    if (names.empty()) names = {"--help", "--version"};
+    return withNearest("there is no option ", option.substr(0, option.find('=')), names);
+}
+
+std::string CommandLine::nameForErrors() const {
+    for (const auto& [declared, command] : commands_)
+        if (declared->parsed()) return "rotavue " + declared->get_name();
+    return "rotavue";
+}
+
+void CommandLine::parse(int count, const char* const* arguments) {
+    checkCommandName(count, arguments);
+    try {
+        app_.parse(count, arguments);
+    } catch (const CLI::Success&) {
+        throw;
+    } catch (const CLI::ParseError& error) {
+        for (const std::string& left : app_.remaining(true))
+            if (left.size() > 1 && left[0] == '-') throw UsageError(unknownOption(left));
+        throw UsageError(error.what());
+    }
+}
+
+int CommandLine::runParsed() {
+    for (const auto& [declared, command] : commands_)
+        if (declared->parsed()) return command->run();
+    std::cout << app_.help();
+    return static_cast<int>(ExitStatus::Done);
+}
+
+int CommandLine::run(int count, const char* const* arguments) {
+    try {
+        parse(count, arguments);
+        return runParsed();
+    } catch (const CLI::Success& asked) {
+        return app_.exit(asked);
+    } catch (const UsageError& error) {
+        std::cerr << nameForErrors() << ": " << error.what() << " (" << nameForErrors()
+                  << " --help tells more)\n";
+        return static_cast<int>(ExitStatus::WrongUse);
+    } catch (const std::exception& error) {
+        std::cerr << nameForErrors() << ": " << error.what() << '\n';
+        return static_cast<int>(ExitStatus::Failed);
+    }
+}
+
+}  // namespace Rotavue::Cli

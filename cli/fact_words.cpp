@@ -1,0 +1,60 @@
+#include "cli/fact_words.h"
+
+#include "workbench/recording/keyphasor.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace Rotavue::Cli {
+
+using namespace Workbench;
+
+const char* roleText(ColumnRole role) {
+    switch (role) {
+        case ColumnRole::Time:
+            return "time";
+        case ColumnRole::X:
+            return "x";
+        case ColumnRole::Y:
+            return "y";
+        case ColumnRole::Keyphasor:
+            return "keyphasor";
+        case ColumnRole::Unused:
+            break;
+    }
+    return "unused";
+}
+
+const char* sourceText(RateSource source) {
+    switch (source) {
+        case RateSource::TimeColumn:
+            return "time column";
+        case RateSource::FileHeader:
+            return "file header";
+        case RateSource::Option:
+            break;
+    }
+    return "option";
+}
+
+double turnsIn(const Recording& recording) {
+    return recording.hasTacho() ? std::abs(turnsOf(recording.angle)) : 0.0;
+}
+
+std::string placeText(double degreesClockwise) {
+    const std::string degree = "\u00b0";
+    if (degreesClockwise == 0.0) return "0" + degree;
+    if (degreesClockwise <= 180.0) return shortNumber(degreesClockwise) + degree + " R";
+    return shortNumber(360.0 - degreesClockwise) + degree + " L";
+}
+
+std::string shortNumber(double value, int digits) {
+    const double magnitude = std::abs(value);
+    const int before = magnitude >= 1.0 ? static_cast<int>(std::log10(magnitude)) + 1 : 1;
+    char text[64];
+    std::snprintf(text, sizeof text, "%.*g", std::max(digits, std::min(before, 15)), value);
+    return text;
+}
+
+}  // namespace Rotavue::Cli

@@ -1,0 +1,80 @@
+#include "cli/orbit_picture.h"
+
+#include "cli/picture_facts.h"
+#include "cli/setup_texts.h"
+#include "workbench/analysis/raw_channels.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Rotavue::Cli {
+
+namespace {
+
+using namespace Workbench;
+
+/// Odd ones, so that a line of the grid runs through 0; the most that there is room for is taken.
+constexpr std::array<std::int32_t, 4> UsualTicks{5, 3, 1, 0};
+
+/// The room that the plug-in keeps free round its square plot, both sides together.
+constexpr int PlotMargins = 120;
+
+/// What the plug-in's automatic scale leaves free: its limit is so many times the largest value.
+constexpr double AutomaticHeadroom = 1.1;
+
+}  // namespace
+
+OrbitPicture::OrbitPicture(const RenderOptions& options, OrbitScene& scene, PictureStudio& studio)
+    : options_(options), scene_(scene), studio_(studio) {}
+
+PictureArea OrbitPicture::areaWith(const PictureHeader& header) const {
+    return studio_.areaOf(options_.picture, options_.header ? header : PictureHeader{});
+}
+
+double OrbitPicture::automaticLimit(DrivenControl& control, const PictureArea& area) {
+    control.load(settingsFor(options_, scene_.span(), UsualTicks.front(), std::nullopt));
+    control.draw(scene_.host().canvas(), area.width, area.height, options_.scheme);
+    return limitIn(control.save());
+}
+
+GraphScale OrbitPicture::scaleFor(DrivenControl& control, const PictureArea& area) {
+    const bool fixed = options_.limits == LimitChoice::Fixed;
+    const double limit = fixed ? options_.limit : automaticLimit(control, area);
+    const ScaleRoom room{.background = options_.background,
+                         .plotSide = std::min(area.width, area.height) - PlotMargins,
+                         .textHeight = area.textHeight};
+    const auto scaleWith = [&](std::int32_t ticks) {
+        if (limit <= 0.0) return GraphScale{.ticks = ticks};
+        return options_.limits == LimitChoice::Round
+                   ? roundScale(limit / AutomaticHeadroom, room.background, ticks)
+                   : plainScale(limit, room.background, ticks);
+    };
+    if (options_.ticks) return scaleWith(*options_.ticks);
+    const auto ticks =
+        std::find_if(UsualTicks.begin(), UsualTicks.end() - 1,
+                     [&](std::int32_t count) { return fits(scaleWith(count), room); });
+    return scaleWith(*ticks);
+}
+
+std::string OrbitPicture::paint() {
+    HostKit::Module module(HostKit::chooseModule(options_.module));
+    DrivenControl control(module, scene_.host());
+    control.assignmentChanged();
+
+    // The strip is as high as its lines, and the scale that stands in it needs the area below.
+    const PictureArea roughly = areaWith(pictureHeader(scene_, GraphScale{}));
+    const GraphScale scale = scaleFor(control, roughly);
+    const bool known = scale.limit > 0.0;
+    const PictureHeader header = pictureHeader(scene_, known ? std::optional(scale) : std::nullopt);
+    const PictureArea area = areaWith(header);
+
+    const bool manual = known && options_.limits != LimitChoice::Auto;
+    setAxisDecimals(scene_.host().description, scale.decimals);
+    control.load(settingsFor(options_, scene_.span(), scale.ticks,
+                             manual ? std::optional(scale.limit) : std::nullopt));
+    const auto picture = studio_.open(options_.picture, options_.header ? header : PictureHeader{});
+    control.draw(picture->canvas(), area.width, area.height, options_.scheme);
+    return picture->finish();
+}
+
+}  // namespace Rotavue::Cli

@@ -1,0 +1,150 @@
+#include "cli/orbit_scene.h"
+
+#include "cli/fact_words.h"
+#include "workbench/analysis/bearing_properties.h"
+#include "workbench/analysis/raw_channels.h"
+#include "workbench/analysis/turn_window.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
+#include <span>
+#include <stdexcept>
+
+namespace Rotavue::Cli {
+
+namespace {
+
+using namespace Workbench;
+
+constexpr int UsualTurns = 8;
+constexpr double UsualMilliseconds = 100.0;
+
+/// Told apart by people who see colours differently, and from the clearance's orange.
+constexpr std::array<std::uint32_t, 4> ColorsOnLight{0x0072B2, 0xB8336A, 0x009E73, 0x7A5195};
+constexpr std::array<std::uint32_t, 4> ColorsOnDark{0x56B4E9, 0xF781BF, 0x2FD6A3, 0xC9A0FF};
+
+std::uint32_t colorOf(std::size_t index, const RenderOptions& options) {
+    if (index < options.colors.size()) return options.colors[index];
+    const bool light = options.picture.colors.background != 0;
+    const auto& colors = light ? ColorsOnLight : ColorsOnDark;
+    return colors[index % colors.size()];
+}
+
+/// A round bearing is often told by one number.
+void completeClearance(MachineFacts& machine) {
+    if (machine.clearanceWidth <= 0.0) machine.clearanceWidth = machine.clearanceHeight;
+    if (machine.clearanceHeight <= 0.0) machine.clearanceHeight = machine.clearanceWidth;
+}
+
+std::vector<Recording> readAll(const RenderOptions& options) {
+    std::vector<Recording> recordings;
+    for (const std::string& file : options.recordings) {
+        recordings.push_back(readRecording(file, options.recording));
+        completeClearance(recordings.back().machine);
+    }
+    return recordings;
+}
+
+std::string nameOf(const Recording& recording, bool alone) {
+    const std::string& point = recording.machine.point;
+    return alone && !point.empty() ? point : recording.file.stem().string();
+}
+
+[[noreturn]] void refuse(const Recording& recording, const std::string& why) {
+    throw std::runtime_error(recording.file.string() + ": " + why);
+}
+
+std::size_t positionIn(std::span<const Recording> recordings, const RenderOptions& options) {
+    const auto shortest = std::min_element(
+        recordings.begin(), recordings.end(),
+        [](const Recording& a, const Recording& b) { return a.sampleCount() < b.sampleCount(); });
+    const std::size_t last = shortest->sampleCount() - 1;
+    if (!options.at) return last;
+    const double sample = std::round(*options.at * shortest->sampleRate);
+    if (sample > static_cast<double>(last)) {
+        refuse(*shortest, "--at " + shortNumber(*options.at, 9) + ": the last sample is at " +
+                              shortNumber(static_cast<double>(last) / shortest->sampleRate, 9) +
+                              " s");
+    }
+    return static_cast<std::size_t>(sample);
+}
+
+}  // namespace
+
+OrbitScene::OrbitScene(const RenderOptions& options) {
+    std::vector<Recording> recordings = readAll(options);
+    checkAgreement(recordings);
+    machine_ = recordings.front().machine;
+    coupling_ = recordings.front().coupling;
+    if (options.clearance && machine_.clearanceWidth <= 0.0) {
+        refuse(recordings.front(), "no clearance is known: --clearance-width tells it");
+    }
+    for (const Recording& recording : recordings) {
+        names_.push_back(nameOf(recording, recordings.size() == 1));
+        for (const std::string& note : recording.notes)
+            notes_.push_back(recording.file.string() + ": " + note);
+    }
+    chooseSpan(recordings, options);
+    const std::size_t position = positionIn(recordings, options);
+    measureSpan(recordings.front(), position);
+    const double sampleRate = recordings.front().sampleRate;
+    assign(std::move(recordings), options);
+    showStored(host_.description, sampleRate, position);
+}
+
+void OrbitScene::checkAgreement(const std::vector<Recording>& recordings) const {
+    const Recording& first = recordings.front();
+    for (const Recording& other : recordings) {
+        if (bearingProperties(other.machine) != bearingProperties(first.machine)) {
+            refuse(other, "its probe angles, clearance or rotation are not those of " +
+                              first.file.string() + ": one picture shows one bearing");
+        }
+        if (other.sampleRate != first.sampleRate || other.machine.unit != first.machine.unit) {
+            refuse(other, "its sample rate or unit is not that of " + first.file.string());
+        }
+    }
+}
+
+void OrbitScene::chooseSpan(const std::vector<Recording>& recordings,
+                            const RenderOptions& options) {
+    const auto bare = std::find_if(recordings.begin(), recordings.end(),
+                                   [](const Recording& one) { return !one.hasTacho(); });
+    if (options.revolutions && bare != recordings.end()) {
+        refuse(*bare, "it has no keyphasor, which --revolutions needs; --time does without");
+    }
+    span_.byTurns = !options.milliseconds && bare == recordings.end();
+    span_.turns = options.revolutions.value_or(UsualTurns);
+    span_.milliseconds = options.milliseconds.value_or(UsualMilliseconds);
+}
+
+void OrbitScene::measureSpan(const Recording& recording, std::size_t position) {
+    span_.time = static_cast<double>(position) / recording.sampleRate;
+    if (!recording.hasTacho()) return;
+    if (!span_.byTurns) {
+        const auto count =
+            static_cast<std::size_t>(span_.milliseconds / 1000.0 * recording.sampleRate);
+        const std::size_t first = position - std::min(position, count);
+        span_.speed = meanSpeed(recording.angle, recording.sampleRate, first, position);
+        return;
+    }
+    const TurnWindow window =
+        turnWindow(recording.angle, recording.sampleRate, position, span_.turns);
+    span_.turnsThere = window.turns;
+    span_.speed = window.speed;
+    if (window.turns < span_.turns) {
+        notes_.push_back(recording.file.string() + ": " + std::to_string(window.turns) +
+                         " whole turns lie before " + shortNumber(span_.time, 6) + " s, " +
+                         std::to_string(span_.turns) + " were to be shown");
+    }
+}
+
+void OrbitScene::assign(std::vector<Recording> recordings, const RenderOptions& options) {
+    for (std::size_t i = 0; i < recordings.size(); ++i) {
+        const RawOrbitStyle style{names_[i], colorOf(i, options)};
+        assignRawOrbit(host_.description, rawOrbit(std::move(recordings[i]), style));
+    }
+}
+
+}  // namespace Rotavue::Cli

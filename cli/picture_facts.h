@@ -1,0 +1,16 @@
+#pragma once
+
+#include "cli/graph_scale.h"
+#include "cli/orbit_scene.h"
+#include "workbench/paint/picture_studio.h"
+
+#include <optional>
+
+namespace Rotavue::Cli {
+
+/// What engineers look for beside an orbit and the plug-in leaves to its host: machine and point,
+/// mode, probes and their angles, rotation, speed, scale.
+Workbench::PictureHeader pictureHeader(const OrbitScene& scene,
+                                       const std::optional<GraphScale>& scale);
+
+}  // namespace Rotavue::Cli

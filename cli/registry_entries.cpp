@@ -1,0 +1,44 @@
+#include "cli/registry_entries.h"
+
+#include "host_kit/memory/utf8.h"
+#include "plugin/framework/guid_text.h"
+#include "plugin/framework/plugin_interfaces.h"
+#include "plugin/module/portable/registry_file.h"
+
+namespace Rotavue::Cli {
+
+namespace {
+
+namespace Registry = Meridax::VisualControls::Rotavue;
+namespace Api = Meridax::VisualControls::Api;
+
+constexpr const wchar_t* ControlKey = L"SOFTWARE\\Meridax\\VCs\\Rotavue";
+
+Registry::RegistryFile load(Scope scope) {
+    const std::filesystem::path file = registryFileOf(scope);
+    return file.empty() ? Registry::RegistryFile{} : Registry::RegistryFile::load(file);
+}
+
+std::wstring classKey() {
+    return L"SOFTWARE\\Classes\\CLSID\\" + Api::guidText(Api::PluginClass);
+}
+
+}  // namespace
+
+std::filesystem::path registryFileOf(Scope scope) {
+    return Registry::registryFilePath(scope);
+}
+
+std::optional<std::filesystem::path> registeredIn(Scope scope) {
+    const Registry::RegistryFile file = load(scope);
+    if (file.find(ControlKey) == nullptr) return std::nullopt;
+    const std::wstring* module = file.text(classKey() + L"\\InprocServer32", L"");
+    return module != nullptr ? std::filesystem::path(*module) : std::filesystem::path();
+}
+
+std::optional<std::string> classKeyIn(Scope scope) {
+    if (load(scope).find(classKey()) == nullptr) return std::nullopt;
+    return HostKit::toUtf8(classKey());
+}
+
+}  // namespace Rotavue::Cli

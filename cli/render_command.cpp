@@ -1,0 +1,194 @@
+#include "cli/render_command.h"
+
+#include "cli/argument_values.h"
+#include "cli/orbit_picture.h"
+#include "cli/output_file.h"
+#include "cli/picture_name.h"
+#include "cli/scheme_colors.h"
+#include "cli/studio_library.h"
+
+#include <unistd.h>
+
+#include <iostream>
+
+namespace Rotavue::Cli {
+
+namespace {
+
+constexpr const char* Help =
+    "Paint recordings as one orbit plot\n\n"
+    "Examples:\n"
+    "  rotavue render unbalance.csv -o unbalance.png\n"
+    "  rotavue render unbalance.csv -o report.pdf --circle --clearance --revolutions 1\n"
+    "  rotavue render raw.csv -o raw.svg --time 50 --x-angle '45 R' --y-angle '45 L'\n"
+    "  rotavue render before.csv after.csv -o both.png --size 1600x1200 --dark\n";
+
+constexpr const char* PictureGroup = "The picture";
+constexpr const char* OrbitGroup = "What is shown";
+constexpr const char* ScaleGroup = "The scale";
+
+constexpr int LargestScale = 8;
+constexpr int LargestTextHeight = 200;
+constexpr int MostRevolutions = 25;
+constexpr double MostMilliseconds = 10'000.0;
+constexpr double MostSeconds = 1e9;
+constexpr double LargestLimit = 1e12;
+constexpr double LeastLimit = 1e-6;
+constexpr int MostTicks = 20;
+
+}  // namespace
+
+CLI::App* RenderCommand::declare(CLI::App& program) {
+    CLI::App* command = program.add_subcommand("render", Help);
+    command->add_option("RECORDINGS", recordings_, "CSV or WAV files of one bearing, a curve each")
+        ->required()
+        ->type_name("");
+    declarePicture(*command);
+    declareOrbit(*command);
+    declareScale(*command);
+    recordingArguments_.declare(*command);
+    command
+        ->add_option("--module", module_,
+                     "the module file, if not the registered one or the one beside the program")
+        ->type_name("FILE");
+    command->add_flag("-q,--quiet", quiet_, "no messages but errors");
+    return command;
+}
+
+void RenderCommand::declarePicture(CLI::App& command) {
+    command.add_option("-o,--output", output_, "the picture, by its ending; - for standard output")
+        ->required()
+        ->type_name("FILE")
+        ->group(PictureGroup);
+    command.add_flag("--force", force_, "replace a picture that is there")->group(PictureGroup);
+    command.add_option("--format", format_, "png, svg or pdf, whatever the file's ending")
+        ->type_name("FORMAT")
+        ->group(PictureGroup);
+    command.add_option("--size", size_, "pixels, of 1/96 inch in svg and pdf (800x600)")
+        ->type_name("WIDTHxHEIGHT")
+        ->group(PictureGroup);
+    command.add_option("--scale", scale_, "png: pixels of the file for each of those, 1 to 8 (1)")
+        ->type_name("N")
+        ->group(PictureGroup);
+    command.add_option("--text-height", textHeight_, "pixels (what suits the size)")
+        ->type_name("N")
+        ->group(PictureGroup);
+    CLI::Option* dark = command.add_flag("--dark", dark_, "light lines on black");
+    CLI::Option* light =
+        command.add_flag("--light", light_, "dark lines on white; so it is unless --dark");
+    dark->group(PictureGroup);
+    light->group(PictureGroup)->excludes(dark);
+    command
+        .add_flag("--no-header", noHeader_, "leave out the strip with machine, probes and scale")
+        ->group(PictureGroup);
+}
+
+void RenderCommand::declareOrbit(CLI::App& command) {
+    CLI::Option* turns =
+        command.add_option("--revolutions", revolutions_, "the newest whole turns, 1 to 25 (8)");
+    CLI::Option* time = command.add_option(
+        "--time", milliseconds_, "the newest milliseconds, 1 to 10000 (100 without a keyphasor)");
+    turns->type_name("N")->group(OrbitGroup);
+    time->type_name("MS")->group(OrbitGroup)->excludes(turns);
+    command.add_option("--at", at_, "where the newest sample is, after the first one (the end)")
+        ->type_name("SECONDS")
+        ->group(OrbitGroup);
+    command.add_flag("--clearance,!--no-clearance", clearance_, "draw the bearing's clearance")
+        ->group(OrbitGroup);
+    command.add_option("--color", colors_, "of the curves in turn")
+        ->type_name("RRGGBB")
+        ->delimiter(',')
+        ->expected(1)
+        ->group(OrbitGroup);
+}
+
+void RenderCommand::declareScale(CLI::App& command) {
+    CLI::Option* circle = command.add_flag("--circle", circle_, "rings on a disc");
+    CLI::Option* grid =
+        command.add_flag("--grid", grid_, "a square grid; so it is unless --circle");
+    circle->group(ScaleGroup);
+    grid->group(ScaleGroup)->excludes(circle);
+    command
+        .add_option("--limits", limits_,
+                    "round numbers, the plug-in's auto scale, or both axes from -N to N (round)")
+        ->type_name("round|auto|N")
+        ->group(ScaleGroup);
+    command.add_option("--ticks", ticks_, "lines of the grid, or rings, 0 to 20 (what fits)")
+        ->type_name("N")
+        ->group(ScaleGroup);
+}
+
+RenderOptions RenderCommand::options() const {
+    RenderOptions options;
+    options.recordings = recordings_;
+    options.recording = recordingArguments_.options();
+    options.module = module_;
+    options.quiet = quiet_;
+    readPicture(options);
+    readOrbit(options);
+    readScale(options);
+    return options;
+}
+
+void RenderCommand::readPicture(RenderOptions& options) const {
+    Workbench::PictureOrder& picture = options.picture;
+    picture.format = pictureFormatOf(output_, format_);
+    if (scale_) picture.scale = wholeNumber("--scale", *scale_, 1, LargestScale);
+    if (size_) {
+        const PixelSize size = pixelSize("--size", *size_, Workbench::LargestSide / picture.scale);
+        picture.width = size.width;
+        picture.height = size.height;
+    }
+    if (textHeight_) {
+        picture.textHeight = wholeNumber("--text-height", *textHeight_, 1, LargestTextHeight);
+    }
+    options.scheme = dark_ ? DarkNumber : LightNumber;
+    picture.colors = colorsOf(options.scheme);
+    options.header = !noHeader_;
+}
+
+void RenderCommand::readOrbit(RenderOptions& options) const {
+    if (revolutions_) {
+        options.revolutions = wholeNumber("--revolutions", *revolutions_, 1, MostRevolutions);
+    }
+    if (milliseconds_) {
+        options.milliseconds = number("--time", *milliseconds_, 1.0, MostMilliseconds, "ms");
+    }
+    if (at_) options.at = number("--at", *at_, 0.0, MostSeconds, "s");
+    options.clearance = clearance_;
+    for (const std::string& text : colors_)
+        options.colors.push_back(color("--color", text));
+}
+
+void RenderCommand::readScale(RenderOptions& options) const {
+    options.background = circle_ ? Background::Circle : Background::Grid;
+    if (ticks_) options.ticks = wholeNumber("--ticks", *ticks_, 0, MostTicks);
+    if (!limits_ || *limits_ == "round") return;
+    options.limits = *limits_ == "auto" ? LimitChoice::Auto : LimitChoice::Fixed;
+    if (options.limits == LimitChoice::Auto) return;
+    const auto value = numberIn(*limits_);
+    if (!value || *value < LeastLimit || *value > LargestLimit) {
+        throw UsageError("--limits", *limits_, "round, auto or a number from 1e-06 to 1e+12");
+    }
+    options.limit = *value;
+}
+
+int RenderCommand::run() {
+    const RenderOptions asked = options();
+    const OutputFile output(output_, force_);
+    if (output.isStandardOutput() && ::isatty(STDOUT_FILENO) != 0) {
+        throw UsageError("a picture does not go to a terminal");
+    }
+    OrbitScene scene(asked);
+    StudioLibrary studio;
+    output.write(OrbitPicture(asked, scene, *studio).paint());
+    if (asked.quiet) return 0;
+    for (const std::string& note : scene.notes())
+        std::cerr << note << '\n';
+    std::cerr << (output.isStandardOutput() ? "the picture" : output_) << ": "
+              << asked.picture.width * asked.picture.scale << " x "
+              << asked.picture.height * asked.picture.scale << " pixels\n";
+    return 0;
+}
+
+}  // namespace Rotavue::Cli

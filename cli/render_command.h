@@ -1,0 +1,57 @@
+#pragma once
+
+#include "cli/command.h"
+#include "cli/recording_arguments.h"
+#include "cli/render_options.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Rotavue::Cli {
+
+/// Paints recordings as one orbit plot.
+class RenderCommand final : public Command {
+public:
+    CLI::App* declare(CLI::App& program) override;
+    int run() override;
+
+private:
+    void declarePicture(CLI::App& command);
+    void declareOrbit(CLI::App& command);
+    void declareScale(CLI::App& command);
+
+    /// The options as they were given, checked. Raises `UsageError`.
+    RenderOptions options() const;
+    void readPicture(RenderOptions& options) const;
+    void readOrbit(RenderOptions& options) const;
+    void readScale(RenderOptions& options) const;
+
+    std::vector<std::string> recordings_;
+    RecordingArguments recordingArguments_;
+
+    std::string output_;
+    bool force_ = false;
+    bool quiet_ = false;
+    std::optional<std::string> module_;
+    std::optional<std::string> format_;
+    std::optional<std::string> size_;
+    std::optional<std::string> scale_;
+    std::optional<std::string> textHeight_;
+    bool dark_ = false;
+    bool light_ = false;  ///< says what holds without it
+    bool noHeader_ = false;
+
+    bool circle_ = false;
+    bool grid_ = false;  ///< likewise
+    std::optional<std::string> revolutions_;
+    std::optional<std::string> milliseconds_;
+    std::optional<std::string> at_;
+    std::vector<std::string> colors_;
+
+    bool clearance_ = false;
+    std::optional<std::string> ticks_;
+    std::optional<std::string> limits_;
+};
+
+}  // namespace Rotavue::Cli

@@ -1,0 +1,63 @@
+#include "cli/setup_texts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cwchar>
+#include <string>
+
+namespace Rotavue::Cli {
+
+namespace {
+
+constexpr std::uint32_t ClearanceColor = 0xFF9900;
+
+std::wstring text(bool value) {
+    return value ? L"True" : L"False";
+}
+
+std::wstring text(int value) {
+    return std::to_wstring(value);
+}
+
+/// Fixed-point notation, the form in which a control writes its numbers.
+std::wstring text(double value) {
+    char digits[512];
+    const int length = std::snprintf(digits, sizeof digits, "%.15f", value);
+    return {digits, digits + length};
+}
+
+double limit(const DrivenControl::Settings& saved, const wchar_t* key) {
+    constexpr double WhenLeftOut = 1.0;
+    const auto found = saved.find(key);
+    return found == saved.end() ? WhenLeftOut
+                                : std::abs(std::wcstod(found->second.c_str(), nullptr));
+}
+
+}  // namespace
+
+DrivenControl::Settings settingsFor(const RenderOptions& options, const ShownSpan& span,
+                                    std::int32_t ticks, std::optional<double> limit) {
+    DrivenControl::Settings settings{
+        {L"useManualMagnitudeLimits", text(limit.has_value())},
+        {L"drawClearance", text(options.clearance)},
+        {L"clearanceColor", text(static_cast<int>(ClearanceColor))},
+        {L"displayTime", text(span.milliseconds)},
+        {L"revolutions", text(span.turns)},
+        {L"tickCount", text(ticks)},
+        {L"singleAxis", text(true)},
+        {L"graphType", text(options.background == Background::Circle ? 1 : 0)},
+        {L"historyType", text(span.byTurns ? 0 : 1)},
+    };
+    if (limit) {
+        settings[L"minXValue"] = settings[L"minYValue"] = text(-*limit);
+        settings[L"maxXValue"] = settings[L"maxYValue"] = text(*limit);
+    }
+    return settings;
+}
+
+double limitIn(const DrivenControl::Settings& saved) {
+    return std::max(limit(saved, L"minXValue"), limit(saved, L"maxXValue"));
+}
+
+}  // namespace Rotavue::Cli
