@@ -31,6 +31,8 @@ if(ROTAVUE_SANITIZE)
                   # Some optimisation and line numbers alone: half the time to build and to run.
                   -O1
                   -g1
+                  # With sanitizers on, this compiler warns of the standard library's own regex.
+                  -Wno-maybe-uninitialized
     )
     target_link_options(rotavue_options INTERFACE -fsanitize=address,undefined)
 endif()
@@ -43,11 +45,15 @@ function(rotavue_library name)
 endfunction()
 
 # rotavue_test(NAME SOURCES a_test.cpp ... LIBRARIES x ...): one GoogleTest program; `./test` runs
-# every program that this makes.
+# every program that this makes. What is tested stays optimised; the tests themselves need not be, and
+# with the framework's headers compiled once for all they build in a third of the time.
 function(rotavue_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE rotavue_options ${ARG_LIBRARIES} GTest::gtest_main)
+    # Position-independent like what Qt asks for, so that one precompiled header serves all.
+    target_compile_options(${name} PRIVATE -O0 -fPIC)
+    target_precompile_headers(${name} REUSE_FROM rotavue_test_headers)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
 endfunction()
