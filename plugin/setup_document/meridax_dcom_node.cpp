@@ -121,10 +121,12 @@ NodePtr MeridaxDCOMNode::createNode(std::string nodeName, std::string value) {
     return handOut(created(nodeName, value));
 }
 
+// The own element is let go first: a node that is assigned to itself has none from then on.
 void MeridaxDCOMNode::assign(NodePtr other) {
     needDocument();
     const auto* own = dynamic_cast<const MeridaxDCOMNode*>(other.get());
     if (own == nullptr) throw XmlException(XmlError::NodeArgument);
+    inner_ = nullptr;
     inner_ = own->inner_;
 }
 

@@ -40,7 +40,8 @@ public:
     NodePtr readChild(const std::string& childName) override;
     NodePtr createNode(std::string nodeName, std::string value) override;
 
-    /// Raises `XmlException` 7 for a node of another class, and leaves this one as it is.
+    /// Raises `XmlException` 7 for a node of another class, and leaves this one as it is. A node
+    /// that is assigned to itself loses its element.
     void assign(NodePtr other) override;
 
     void assignNew(std::string nodeName, std::string value) override;

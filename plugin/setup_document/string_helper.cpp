@@ -62,7 +62,9 @@ bool textToBool(const std::string& text) {
     if (lower == "true") return true;
     if (lower == "false") return false;
     char* end = nullptr;
+    const int savedErrno = errno;
     const double number = std::strtod(lower.c_str(), &end);
+    errno = savedErrno;
     // No number is 0 here as well, and NaN is not above anything.
     if (!(std::abs(number) > std::numeric_limits<double>::epsilon())) return false;
     return end == lower.c_str() + lower.size();

@@ -76,10 +76,32 @@ TEST_F(SetupNode, StandsForTheElementOfAnotherAfterAssigning) {
     node->assign(other);
     EXPECT_EQ(node->getName(), "other");
     EXPECT_EQ(other->getName(), "other");
-    node->assign(node);
-    EXPECT_EQ(node->getName(), "other");
     node->assignNew("fresh", "w");
+    EXPECT_EQ(node->getName(), "fresh");
     EXPECT_EQ(node->getValue(), "w");
+}
+
+TEST_F(SetupNode, LetsGoOfItsElementBeforeItTakesAnother) {
+    const auto node = setupNode();
+    const NodePtr other = node->createNode("other", "v");
+    node->assignNew("own", "");
+    node->assign(other);
+    EXPECT_EQ(journal.ended, (Calls{L"own"}));
+    // What it lets go of is what it would take.
+    node->assign(node);
+    EXPECT_FALSE(node->isValid());
+    EXPECT_TRUE(other->isValid());
+    node->assignNew("again", "w");
+    EXPECT_EQ(node->getValue(), "w") << "the document is still there";
+}
+
+TEST_F(SetupNode, MayStandForNothingLikeTheNodeThatItIsAssigned) {
+    const auto node = setupNode();
+    const auto closed = setupNode();
+    closed->close();
+    node->assign(closed);
+    EXPECT_FALSE(node->isValid());
+    EXPECT_NO_THROW(node->isWriting());
 }
 
 TEST_F(SetupNode, RefusesToStandForANodeOfAnotherClass) {
@@ -103,6 +125,17 @@ TEST_F(SetupNode, EmptiesThePointerToAForeignNodeThatItCannotRemove) {
     node->removeAttribute(attribute);
     EXPECT_EQ(child, nullptr);
     EXPECT_EQ(attribute, nullptr);
+    EXPECT_TRUE(calls().empty());
+}
+
+TEST_F(SetupNode, CannotRemoveANodeOfItsOwnClassThatHasNoElement) {
+    const auto node = setupNode();
+    const NodePtr closed = setupNode();
+    closed->close();
+    NodePtr argument = closed;
+    EXPECT_EQ(statusOf([&] { node->removeChild(argument); }), 0x80004003U);
+    EXPECT_EQ(statusOf([&] { node->removeAttribute(argument); }), 0x80004003U);
+    EXPECT_EQ(argument, closed) << "the caller keeps what was not removed";
     EXPECT_TRUE(calls().empty());
 }
 
@@ -157,12 +190,26 @@ TEST_F(SetupNode, ReleasesTheInnerNodeBeforeTheDocument) {
     }
 }
 
+TEST_F(SetupNode, HandsOutNodesThatOutliveIt) {
+    auto node = setupNode();
+    const NodePtr child = node->addChild("a");
+    node->close();
+    node.reset();
+    EXPECT_EQ(child->getName(), "a");
+    EXPECT_EQ(child->getParent()->getName(), "setup");
+}
+
 TEST_F(SetupNode, MakesADocumentOfItsOwnFromANameAndAValue) {
     const DcomNode node("root", "v", app(), true);
     EXPECT_EQ(calls(), (Calls{L"GetXmlFactory()", L"CreateDocument(true)", L"CreateNode(root, v)",
                               L"SetRootNode(root)", L"SetMode(true)"}));
     EXPECT_EQ(node.getName(), "root");
     EXPECT_TRUE(node.isWriting());
+    calls();
+    const DcomNode read("root", "v", app(), false);
+    EXPECT_EQ(calls(), (Calls{L"GetXmlFactory()", L"CreateDocument(false)", L"CreateNode(root, v)",
+                              L"SetRootNode(root)", L"SetMode(false)"}));
+    EXPECT_FALSE(read.isWriting());
 }
 
 TEST_F(SetupNode, StandsForTheRootOfADocument) {

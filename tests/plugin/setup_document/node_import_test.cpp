@@ -128,6 +128,50 @@ TEST_F(ImportedTree, LosesInvalidTextOfItsTopAndKeepsItBelow) {
                               L"AppendChild(c\uFFFD)"}));
 }
 
+TEST_F(ImportedTree, NeedsARootToBecomeAChildOf) {
+    // The document has none; the copy is made before that is missed.
+    EXPECT_THROW(DcomNode(hostDocument(), smallTree()), Host::HostError);
+    Calls expected = followedBy({});
+    expected.insert(expected.begin(), L"GetRootNode()");
+    EXPECT_EQ(calls(), expected);
+}
+
+// A node that notes in which order its texts are asked for.
+class AskedNode final : public Tests::UnusedNode {
+public:
+    AskedNode(Text elementName, std::vector<std::string>& asked)
+        : elementName_(std::move(elementName)), asked_(asked) {}
+
+    Text getName() const override { return ask("name"); }
+    Text getValue() const override { return ask("value"); }
+    std::int32_t childCount() const override { return child ? 1 : 0; }
+    std::int32_t attributeCount() const override { return attribute ? 1 : 0; }
+    NodePtr childAt(std::uint64_t) const override { return child; }
+    NodePtr attributeAt(std::uint64_t) const override { return attribute; }
+
+    NodePtr child;
+    NodePtr attribute;
+
+private:
+    Text ask(const char* what) const {
+        asked_.push_back(elementName_ + " " + what);
+        return elementName_;
+    }
+
+    Text elementName_;
+    std::vector<std::string>& asked_;
+};
+
+TEST_F(ImportedTree, IsAskedForItsValueFirstAtTheTopAndForItsNameFirstBelow) {
+    std::vector<std::string> asked;
+    const auto root = std::make_shared<AskedNode>("root", asked);
+    root->attribute = std::make_shared<AskedNode>("attribute", asked);
+    root->child = std::make_shared<AskedNode>("child", asked);
+    importNode(*document, root);
+    EXPECT_EQ(asked, (std::vector<std::string>{"root value", "root name", "attribute name",
+                                               "attribute value", "child name", "child value"}));
+}
+
 TEST_F(ImportedTree, IsAlsoMadeOfANodeOfTheOwnClassThatHasNoInnerNode) {
     const auto closed = setupNode();
     closed->close();

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -51,6 +52,16 @@ INSTANTIATE_TEST_SUITE_P(Locales, NumberTextsUnder,
                          testing::Values("C", "en_US.UTF-8", "de_DE.UTF-8"), [](const auto& name) {
                              return name.param.substr(0, name.param.find('_'));
                          });
+
+TEST(NumberTexts, FollowTheCLocaleForNumbersWhereAHostSetsThatAlone) {
+    const CLocale restored("C");
+    ASSERT_NE(std::setlocale(LC_NUMERIC, "de_DE.UTF-8"), nullptr);
+    EXPECT_EQ(textToDouble("2.5"), 2.5);
+    EXPECT_EQ(textToDouble("2,5"), 2.5);
+    ASSERT_NE(std::setlocale(LC_NUMERIC, "C"), nullptr);
+    EXPECT_EQ(textToDouble("2.5"), 2.5) << "the decimal point is found anew for each text";
+    EXPECT_EQ(textToDouble("2,5"), 2.5);
+}
 
 TEST(BoolText, IsReadWithTheDecimalPointOfTheCLocale) {
     const CLocale locale("de_DE.UTF-8");

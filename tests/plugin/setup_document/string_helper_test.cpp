@@ -164,6 +164,15 @@ TEST(DoubleText, IsRefusedWithoutANumberAndBeyondADouble) {
     }
 }
 
+// The C library calls a number below the least normal one out of range.
+TEST(DoubleText, IsReadDownToTheLeastNormalNumber) {
+    constexpr double Least = std::numeric_limits<double>::min();  // 2.2250738585072014e-308
+    EXPECT_EQ(textToDouble("2.2250738585072014e-308"), Least);
+    EXPECT_EQ(textToDouble("-2.2250738585072014e-308"), -Least);
+    for (const char* text : {"1e-310", "4.9e-324", "-4.9e-324"})
+        EXPECT_THROW(textToDouble(text), std::out_of_range) << text;
+}
+
 TEST(FloatText, CountsEveryCommaAsAPoint) {
     EXPECT_EQ(textToFloat(L"2,5"), 2.5F);
     EXPECT_EQ(textToFloat(L"2.5um"), 2.5F);
@@ -182,7 +191,11 @@ TEST(NumberTexts, LeaveTheErrorNumberOfTheCLibraryAlone) {
     errno = EDOM;
     EXPECT_EQ(textToInt("1"), 1);
     EXPECT_THROW(textToDouble("1e400"), std::out_of_range);
+    EXPECT_TRUE(textToBool("1e400"));
     EXPECT_EQ(errno, EDOM);
+    errno = ERANGE;
+    EXPECT_EQ(textToDouble("1"), 1.0) << "an old range error is none of this text's";
+    EXPECT_EQ(textToInt("1"), 1);
 }
 
 TEST(NumberTexts, OfAMegabyteAreReadLikeShortOnes) {
