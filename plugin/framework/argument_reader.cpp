@@ -1,8 +1,6 @@
 #include "plugin/framework/argument_reader.h"
 
-#include "plugin/framework/host/host_error.h"
-
-#include <new>
+#include "plugin/framework/host/host_text.h"
 
 namespace Meridax::VisualControls::Api {
 
@@ -24,11 +22,7 @@ Host::Ref<Host::IHostObject> ArgumentReader::anyObject(std::int32_t position) co
 
 std::wstring ArgumentReader::text(std::int32_t position) const {
     const ArgumentList& list = listWith(position);
-    try {
-        return list.textAt(position);
-    } catch (const std::bad_alloc&) {
-        throw Host::HostError(Host::Status::OutOfMemory);
-    }
+    return Host::madeText([&] { return list.textAt(position); });
 }
 
 std::int32_t ArgumentReader::integer(std::int32_t position) const {

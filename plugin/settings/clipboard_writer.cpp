@@ -121,7 +121,7 @@ void ClipboardWriter::addShaftCenter(Host::IHostChannel& channel) {
     const bool isRpm = control_.graph_.displayType() == DisplayType::Rpm;
     text_ += isRpm ? L"RPM\t" : L"Time\t";
     text_ += ColumnNames;
-    columns_.insert(columns_.begin(), isRpm ? L"%.0f" : L"%.1f");
+    columns_.emplace_front(isRpm ? L"%.0f" : L"%.1f");
     control_.sampleCursor = -1;
     const SensorFrame frame = control_.sensorFrame();
     for (std::int32_t back = rowsFor(channel.getSampleCount()) - 1; back >= 0; --back) {

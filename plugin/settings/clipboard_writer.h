@@ -6,9 +6,10 @@
 #include "plugin/orbit_graph/orbit_curve.h"
 
 #include <cstdint>
+#include <deque>
 #include <initializer_list>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace Meridax::VisualControls::Rotavue {
 
@@ -38,7 +39,7 @@ private:
     std::int32_t rowsFor(std::int64_t wanted);
 
     RotavueVisualControl& control_;
-    std::vector<std::wstring> columns_{L"%.3f", L"%.3f"};  ///< the format of each column of a row
+    std::deque<std::wstring> columns_{L"%.3f", L"%.3f"};  ///< the format of each column of a row
     std::wstring text_;
 };
 

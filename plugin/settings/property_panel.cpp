@@ -1,3 +1,4 @@
+#include "plugin/framework/host/host_text.h"
 #include "plugin/orbit_control/rotavue_visual_control.h"
 #include "plugin/orbit_control/setting_values.h"
 #include "plugin/settings/panel_table.h"
@@ -8,6 +9,7 @@
 namespace Meridax::VisualControls::Rotavue {
 namespace {
 
+using Host::hostText;
 using Host::IHostPropertyControl;
 using Host::IHostPropertyPage;
 using Host::Ref;
@@ -25,10 +27,13 @@ Ref<IHostPropertyControl> findControl(const Ref<IHostPropertyPage>& page,
 }
 
 void buildPage(const PanelPage& page, IHostPropertyPage& hostPage) {
-    hostPage.AddGroup(page.group);
-    for (const PanelWidget& widget : page.widgets)
-        std::visit([&](const auto& form) { form.add(hostPage, widget.name, widget.caption); },
-                   widget.form);
+    hostPage.AddGroup(hostText(page.group));
+    for (const PanelWidget& widget : page.widgets) {
+        const auto add = [&](const auto& form) {
+            form.add(hostPage, hostText(widget.name), hostText(widget.caption));
+        };
+        std::visit(add, widget.form);
+    }
 }
 
 void show(const Ref<IHostPropertyControl>& control, const PanelWidget& widget,
@@ -52,19 +57,19 @@ void read(const Ref<IHostPropertyControl>& control, const PanelWidget& widget,
 
 void RotavueVisualControl::buildProperties(Ref<Host::IHostPropertyPanel> panel) {
     for (const PanelPage& page : PanelPages) {
-        const Ref<IHostPropertyPage> hostPage = panel->AddPage(page.name);
+        const Ref<IHostPropertyPage> hostPage = panel->AddPage(hostText(page.name));
         propertyRoot_ = hostPage;
         buildPage(page, *hostPage);
     }
 }
 
 void RotavueVisualControl::fillProperties(Ref<Host::IHostPropertyPanel> panel) {
-    propertyRoot_ = panel->GetPage(AxisPage);
+    propertyRoot_ = panel->GetPage(hostText(AxisPage));
     fill(widgetNamed(L"TickCount"));
     fill(widgetNamed(L"SingleAxis"));
     fill(widgetNamed(L"AutoScaleCheckbox"));
     fillAutoScaleType();
-    propertyRoot_ = panel->GetPage(AdvancedPage);
+    propertyRoot_ = panel->GetPage(hostText(AdvancedPage));
     fillWhereShown(widgetNamed(L"HistoryTime"), graph_.historyType() == HistoryType::Time);
     fillWhereShown(widgetNamed(L"HistoryRevolutions"),
                    graph_.historyType() == HistoryType::Revolutions);
@@ -78,13 +83,13 @@ void RotavueVisualControl::fillProperties(Ref<Host::IHostPropertyPanel> panel) {
 }
 
 Ref<IHostPropertyControl> RotavueVisualControl::fill(const PanelWidget& widget) {
-    Ref<IHostPropertyControl> control = findControl(propertyRoot_, widget.name);
+    Ref<IHostPropertyControl> control = findControl(propertyRoot_, hostText(widget.name));
     if (control) show(control, widget, *this);
     return control;
 }
 
 void RotavueVisualControl::fillWhereShown(const PanelWidget& widget, bool shown) {
-    const Ref<IHostPropertyControl> control = findControl(propertyRoot_, widget.name);
+    const Ref<IHostPropertyControl> control = findControl(propertyRoot_, hostText(widget.name));
     if (!control) return;
     control->SetVisible(shown);
     show(control, widget, *this);
@@ -107,7 +112,8 @@ void RotavueVisualControl::fillAutoScaleType() {
 void RotavueVisualControl::fillClearance() {
     const Ref<IHostPropertyControl> control = fill(widgetNamed(L"Clearance"));
     if (!control) return;
-    setControlEnabled(L"ClearanceColor", control.offered<Host::IHostCheckBox>()->GetChecked());
+    const bool checked = control.offered<Host::IHostCheckBox>()->GetChecked();
+    setControlEnabled(hostText(L"ClearanceColor"), checked);
 }
 
 void RotavueVisualControl::setControlEnabled(const std::wstring& name, bool enabled) {

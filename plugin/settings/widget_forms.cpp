@@ -1,5 +1,7 @@
 #include "plugin/settings/widget_forms.h"
 
+#include "plugin/framework/host/host_text.h"
+
 namespace Meridax::VisualControls::Rotavue {
 
 using Host::IHostPropertyPage;
@@ -39,7 +41,7 @@ void ComboBox::add(IHostPropertyPage& page, const std::wstring& name,
                    const std::wstring& caption) const {
     const Ref<Interface> widget = page.AddComboBox(name, caption);
     for (const wchar_t* item : items)
-        widget->AddItem(item);
+        widget->AddItem(Host::hostText(item));
 }
 
 void ComboBox::show(Interface& widget, const SettingValue& value) const {

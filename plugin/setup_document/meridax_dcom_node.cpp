@@ -1,8 +1,8 @@
 #include "plugin/setup_document/meridax_dcom_node.h"
 
+#include "plugin/setup_document/crossing_text.h"
 #include "plugin/setup_document/meridax_dcom_node_creator.h"
 #include "plugin/setup_document/node_import.h"
-#include "plugin/setup_document/string_helper.h"
 #include "plugin/setup_document/xml_exception.h"
 
 #include <limits>
@@ -15,8 +15,6 @@ using Host::IHostXmlDocument;
 using Host::IHostXmlNode;
 using Host::Ref;
 using Serialization::XmlException;
-using StringHelper::hostToText;
-using StringHelper::textToHost;
 
 namespace XmlError = Serialization::XmlError;
 
@@ -85,7 +83,7 @@ IHostXmlNode& MeridaxDCOMNode::needBoth() const {
 
 Ref<IHostXmlNode> MeridaxDCOMNode::created(const std::string& nodeName,
                                            const std::string& value) const {
-    Ref<IHostXmlNode> node = document_->CreateNode(textToHost(nodeName), textToHost(value));
+    Ref<IHostXmlNode> node = document_->CreateNode(toHost(nodeName), toHost(value));
     if (!node) Host::raiseNullObject();
     return node;
 }
@@ -136,7 +134,7 @@ void MeridaxDCOMNode::assignNew(std::string nodeName, std::string value) {
 }
 
 void MeridaxDCOMNode::setValue(std::string text) {
-    needInner().SetValue(textToHost(text));
+    needInner().SetValue(toHost(text));
 }
 
 NodePtr MeridaxDCOMNode::appendChild(const NodePtr& node) {
@@ -175,11 +173,11 @@ void MeridaxDCOMNode::clearAttributes() {
 }
 
 NodePtr MeridaxDCOMNode::findChild(const std::string& childName) const {
-    return handOut(needBoth().FindChild(textToHost(childName)));
+    return handOut(needBoth().FindChild(toHost(childName)));
 }
 
 NodePtr MeridaxDCOMNode::findAttribute(const std::string& attributeName) const {
-    return handOut(needBoth().FindAttribute(textToHost(attributeName)));
+    return handOut(needBoth().FindAttribute(toHost(attributeName)));
 }
 
 NodePtr MeridaxDCOMNode::attributeAt(std::uint64_t index) const {
@@ -217,7 +215,7 @@ void MeridaxDCOMNode::removeAttributeAt(std::uint64_t index) {
 
 void MeridaxDCOMNode::removeAttributeNamed(const std::string& attributeName) {
     IHostXmlNode& inner = needInner();
-    removeFromAttributes(inner, inner.FindChild(textToHost(attributeName)));
+    removeFromAttributes(inner, inner.FindChild(toHost(attributeName)));
 }
 
 void MeridaxDCOMNode::removeChild(NodePtr& node) {
@@ -238,11 +236,11 @@ void MeridaxDCOMNode::removeChildNamed(const std::string& childName) {
 }
 
 std::string MeridaxDCOMNode::getName() const {
-    return hostToText(needInner().GetName());
+    return fromHost(needInner().GetName());
 }
 
 std::string MeridaxDCOMNode::getValue() const {
-    return hostToText(needInner().GetValue());
+    return fromHost(needInner().GetValue());
 }
 
 NodePtr MeridaxDCOMNode::getParent() const {
@@ -269,7 +267,7 @@ bool MeridaxDCOMNode::isEmpty() const {
 void MeridaxDCOMNode::writeValue(const std::string& key, const std::string& value,
                                  const std::string& defaultValue) {
     IHostXmlNode& inner = needBoth();
-    document_->WriteValue(inner, textToHost(key), textToHost(value), textToHost(defaultValue));
+    document_->WriteValue(inner, toHost(key), toHost(value), toHost(defaultValue));
 }
 
 void MeridaxDCOMNode::readValue(const std::string& key, std::string& value,
@@ -277,8 +275,8 @@ void MeridaxDCOMNode::readValue(const std::string& key, std::string& value,
     IHostXmlNode& inner = needBoth();
     // A host that leaves the text alone leaves this one.
     std::wstring text = L"s";
-    document_->ReadValue(inner, textToHost(key), text, textToHost(defaultValue));
-    value = hostToText(text);
+    document_->ReadValue(inner, toHost(key), text, toHost(defaultValue));
+    value = fromHost(text);
 }
 
 void MeridaxDCOMNode::addAttribute(const std::string& attributeName, const std::string& value) {

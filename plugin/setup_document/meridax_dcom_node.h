@@ -17,7 +17,8 @@ using Serialization::NodePtr;
 /// is a `MeridaxDCOMNodeCreator` over the same document, whose direction they all share.
 ///
 /// Beside `XmlException`, every operation that calls the host raises `HostError`: a failed call
-/// with its own status, a null where the host must give an object with 0x80004003.
+/// with its own status, a null where the host must give an object with 0x80004003, a text that the
+/// memory does not hold with 0x8007000E.
 class MeridaxDCOMNode : public Serialization::Node {
 public:
     /// A node over a document and one of its nodes, each of which may be null.

@@ -1,6 +1,6 @@
 #include "plugin/setup_document/node_import.h"
 
-#include "plugin/setup_document/string_helper.h"
+#include "plugin/setup_document/crossing_text.h"
 
 #include <cstdint>
 #include <utility>
@@ -20,14 +20,14 @@ const NodePtr& required(const NodePtr& node) {
 }
 
 Ref<IHostXmlNode> copyOfRoot(IHostXmlDocument& document, const NodePtr& source) {
-    const std::wstring value = StringHelper::utf8ToWide(source->getValue());
-    const std::wstring name = StringHelper::utf8ToWide(source->getName());
+    const std::wstring value = toHostStrictly(source->getValue());
+    const std::wstring name = toHostStrictly(source->getName());
     return document.CreateNode(name, value);
 }
 
 Ref<IHostXmlNode> copyOf(IHostXmlDocument& document, const NodePtr& source) {
-    const std::wstring name = StringHelper::textToHost(source->getName());
-    const std::wstring value = StringHelper::textToHost(source->getValue());
+    const std::wstring name = toHost(source->getName());
+    const std::wstring value = toHost(source->getValue());
     return document.CreateNode(name, value);
 }
 
