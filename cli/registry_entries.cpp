@@ -33,7 +33,9 @@ std::optional<std::filesystem::path> registeredIn(Scope scope) {
     const Registry::RegistryFile file = load(scope);
     if (file.find(ControlKey) == nullptr) return std::nullopt;
     const std::wstring* module = file.text(classKey() + L"\\InprocServer32", L"");
-    return module != nullptr ? std::filesystem::path(*module) : std::filesystem::path();
+    // A wide path would go through the locale.
+    return module != nullptr ? std::filesystem::path(HostKit::toUtf8(*module))
+                             : std::filesystem::path();
 }
 
 std::optional<std::string> classKeyIn(Scope scope) {
