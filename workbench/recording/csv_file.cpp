@@ -1,5 +1,6 @@
 #include "workbench/recording/csv_file.h"
 
+#include <algorithm>
 #include <string>
 
 #include "workbench/recording/fields.h"
@@ -12,6 +13,11 @@ namespace {
 
 bool mayHoldGaps(ColumnRole role) {
     return role == ColumnRole::X || role == ColumnRole::Y;
+}
+
+// Whether the byte of UTF-8 is the first of a character.
+bool beginsCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
 }
 
 class RowReader {
@@ -103,9 +109,13 @@ void RowReader::checkSampleCount(std::size_t rows) const {
                          "at most " + std::to_string(MaxSampleCount));
 }
 
+// The place is the first field too many, or where the first missing one would stand.
 void RowReader::refuseCount() const {
-    const std::size_t found = fieldsOf(reader_.line(), layout_.delimiter).size();
-    throw RecordingError({file_, reader_.number()},
+    const std::vector<std::string_view> fields = fieldsOf(reader_.line(), layout_.delimiter);
+    const std::size_t found = fields.size();
+    const bool tooMany = found > layout_.columnCount;
+    const std::string_view end = reader_.line().substr(reader_.line().size());
+    throw RecordingError(placeOf(tooMany ? fields[layout_.columnCount] : end),
                          std::to_string(found) + (found == 1 ? " field" : " fields"),
                          std::to_string(layout_.columnCount) + " as in line " +
                              std::to_string(layout_.firstDataLine));
@@ -121,8 +131,10 @@ void RowReader::refuseField(std::string_view field, std::size_t index, FieldKind
 }
 
 FilePlace RowReader::placeOf(std::string_view field) const {
-    const auto column = static_cast<std::size_t>(field.data() - reader_.line().data()) + 1;
-    return {file_, reader_.number(), column};
+    const std::string_view line = reader_.line();
+    const auto before = line.substr(0, static_cast<std::size_t>(field.data() - line.data()));
+    const auto characters = std::count_if(before.begin(), before.end(), beginsCharacter);
+    return {file_, reader_.number(), static_cast<std::size_t>(characters) + 1};
 }
 
 }  // namespace

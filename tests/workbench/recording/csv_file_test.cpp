@@ -52,14 +52,21 @@ TEST_F(CsvFileTest, DoesNotLookIntoColumnsThatNobodyWants) {
     EXPECT_EQ(read("t,x,c\n0,1,2\n1,2,text\n", TimeAndX)[1], (std::vector<double>{1, 2}));
 }
 
+TEST_F(CsvFileTest, CountsColumnsInCharactersAsAnEditorDoes) {
+    const std::vector<WantedColumn> second = {{1, ColumnRole::X}};
+    EXPECT_EQ(messageOf([&] { read("t,x\n0,1\n\u00FC\u00FC,abc\n", second); }),
+              "f:3:4: found \"abc\" in column \"x\", allowed: a number, or nothing for a gap");
+}
+
 TEST_F(CsvFileTest, NamesThePlaceOfEachFault) {
     struct Case {
         const char* text;
         const char* fault;
     };
     const Case cases[] = {
-        {"t,x\n0,1\n1\n", "f:3: found 1 field, allowed: 2 as in line 2"},
-        {"t,x\n0,1\n\n1,2,3\n", "f:4: found 3 fields, allowed: 2 as in line 2"},
+        {"t,x\n0,1\n1\n", "f:3:2: found 1 field, allowed: 2 as in line 2"},
+        {"t,x\n0,1\n1,2,\n", "f:3:5: found 3 fields, allowed: 2 as in line 2"},
+        {"t,x\n0,1\n\n1,2,3\n", "f:4:5: found 3 fields, allowed: 2 as in line 2"},
         {"t,x\n0,1\n1, abc\n",
          "f:3:4: found \"abc\" in column \"x\", allowed: a number, or nothing for a gap"},
         {"t,x\n0,1\n1,\"a,b\"\n",
