@@ -49,7 +49,7 @@ std::string columnsText(const Recording& recording) {
 std::string probeText(const std::vector<double>& values, double angle, const std::string& unit) {
     const SignalSpan span = SignalSpan::of(values);
     std::string text = "at " + placeText(angle) + ", " +
-                       withUnit(shortNumber(span.most - span.least) + " pp", unit) + ", mean " +
+                       withUnit(shortNumber(span.most - span.least), unit) + " pp, mean " +
                        withUnit(shortNumber(span.mean), unit);
     if (span.gaps > 0) text += ", " + std::to_string(span.gaps) + " samples missing";
     return text;
