@@ -67,6 +67,28 @@ TEST(IncludeOrder, HasNoCycleBetweenFiles) {
     EXPECT_EQ(cycleIn(edges), "");
 }
 
+/// What the host side shares with the plug-in: the contract, the text conversions that both need,
+/// the node layer's exception, which reaches the host, and the registry file, which a host reads.
+bool isShared(const std::string& header) {
+    static const std::set<std::string> Shared{
+        "plugin/framework/guid_text.h",           "plugin/framework/message_arguments.h",
+        "plugin/framework/plugin_interfaces.h",   "plugin/framework/unicode.h",
+        "plugin/module/portable/registry_file.h", "plugin/setup_document/xml_exception.h"};
+    return header.starts_with("plugin/framework/host/") || Shared.contains(header);
+}
+
+TEST(IncludeOrder, HostKitKnowsTheContractAndNoneOfTheLogic) {
+    for (const SourceFile& file : sourcesBelow("host_kit")) {
+        for (const Include& include : file.includes()) {
+            const bool isPlugin = include.name.starts_with("plugin/");
+            EXPECT_TRUE(!isPlugin || isShared(include.name))
+                << file.path << " includes " << include.name;
+            EXPECT_FALSE(include.name.starts_with("workbench/")) << file.path;
+            EXPECT_FALSE(include.name.starts_with("Q")) << file.path;
+        }
+    }
+}
+
 struct Edge {
     std::string file;
     std::string line;
