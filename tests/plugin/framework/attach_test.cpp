@@ -42,6 +42,7 @@ TEST_F(Attach, StoresBothObjectsInBridgeAndControl) {
     EXPECT_EQ(record.control->hostApp, host.app());
     EXPECT_EQ(record.control->hostControl, host.control());
     EXPECT_EQ(host.ledger.held(), (Calls{"app x 2", "control x 2"}));
+    EXPECT_EQ(result.text, "none");
 }
 
 TEST_F(Attach, RefusedHostReadsWhy) {
@@ -76,6 +77,7 @@ TEST_F(Attach, WithOneElementStoresTheAppAndFails) {
     EXPECT_EQ(thrownBy(MessageCode::Attach, &arguments), 0x80070057U);
     EXPECT_EQ(record.control->hostApp, host.app());
     EXPECT_FALSE(record.control->hostControl);
+    EXPECT_EQ(host.ledger.held(), Calls{"app x 3"});  // the list, the bridge and the control
     EXPECT_EQ(record.calls, Calls{});
 }
 

@@ -69,6 +69,7 @@ class CopyMessage : public BridgeFixture {};
 TEST_F(CopyMessage, CopiesTheTextOfTheControl) {
     record.text = L"Shaft (um)\r\n";
     EXPECT_EQ(send(MessageCode::Copy), 0);
+    EXPECT_EQ(result.text, "none");
     EXPECT_EQ(clipboard.units, std::u16string(u"Shaft (um)\r\n\0", 13));
 }
 

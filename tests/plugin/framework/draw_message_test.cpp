@@ -21,6 +21,7 @@ TEST_F(DrawMessage, PassesTheAreaOfTheControl) {
     EXPECT_EQ(send(MessageCode::Draw, frame(0)), 0);
     EXPECT_EQ(record.calls, std::vector<std::string>{"draw 10 20 400 300"});
     EXPECT_EQ(record.lastContext.canvas, host.canvas());
+    EXPECT_EQ(result.text, "none");
 }
 
 TEST_F(DrawMessage, ElementsFiveAndSixAreNotRead) {

@@ -45,6 +45,15 @@ TEST_P(ServedCode, ReachesItsOperationWithItsArguments) {
     EXPECT_EQ(result.text, GetParam().result);
 }
 
+TEST_P(ServedCode, CopiesItsListOnceAndDiscardsTheCopy) {
+    ListArguments arguments{};
+    arguments.elements = GetParam().arguments;
+    record.during = [&] { EXPECT_EQ(arguments.living, arguments.copies); };
+    send(MessageCode{GetParam().code}, arguments);
+    EXPECT_EQ(arguments.copies, GetParam().arguments.empty() ? 0 : 1);
+    EXPECT_EQ(arguments.living, 0);
+}
+
 Argument text(const wchar_t* characters) {
     return std::wstring(characters);
 }

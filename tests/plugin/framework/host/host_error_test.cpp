@@ -75,6 +75,7 @@ TEST(HostError, NullDataObjectRaisesInvalidPointer) {
         ADD_FAILURE() << "went on";
     } catch (const HostError& error) {
         EXPECT_EQ(error.status, 0x80004003U);
+        EXPECT_EQ(error.interfaceId, Guid{});
     }
 }
 
