@@ -3,10 +3,10 @@
 #include "host_kit/memory/call.h"
 #include "host_kit/memory/memory_host.h"
 #include "host_kit/memory/utf8.h"
+#include "tests/plugin/setup_document/c_locale.h"
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <limits>
 #include <locale>
 
@@ -80,9 +80,11 @@ TEST(CallValue, HasADecimalPointInEveryLocale) {
         char do_decimal_point() const override { return ','; }
     };
     const std::locale before = std::locale::global(std::locale(std::locale(), new Comma));
-    std::setlocale(LC_ALL, "de_DE.UTF-8");
-    EXPECT_EQ(jsonOf(toCallValue(1.5)), "1.5");
-    std::setlocale(LC_ALL, "C");
+    {
+        const Meridax::Tests::CLocale german("de_DE.UTF-8");
+        ASSERT_TRUE(german.isSet());
+        EXPECT_EQ(jsonOf(toCallValue(1.5)), "1.5");
+    }
     std::locale::global(before);
 }
 

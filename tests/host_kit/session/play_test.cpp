@@ -1,8 +1,9 @@
 #include "host_kit/session/play.h"
 
+#include "tests/plugin/setup_document/c_locale.h"
+
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <fstream>
 #include <sstream>
 
@@ -105,6 +106,15 @@ TEST_F(Play, GoesOnAfterASessionThatIsNone) {
     EXPECT_FALSE(fs::exists(folder_ / "out" / "a.log"));
 }
 
+TEST_F(Play, PassesOverLinksThatLeadNowhere) {
+    fs::create_symlink("missing.json", folder_ / "in" / "a.json");
+    fs::create_symlink("b.json", folder_ / "in" / "b.json");
+    write("in/c.json", Good);
+    EXPECT_EQ(playFolder(folder_ / "in", folder_ / "out", options_, errors_), PlayStatus::Done);
+    EXPECT_EQ(errors_.str(), "");
+    EXPECT_EQ(read(folder_ / "out" / "c.log"), GoodLog);
+}
+
 TEST_F(Play, NeedsAFolderThatIsThere) {
     EXPECT_EQ(playFolder(folder_ / "none", folder_ / "out", options_, errors_),
               PlayStatus::NoSession);
@@ -120,12 +130,12 @@ TEST(CallGroupsText, NamesGroupsByCommas) {
 }
 
 TEST(ClassicLocale, HoldsForOnePlayOnly) {
-    if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) GTEST_SKIP() << "no such locale here";
+    const Meridax::Tests::CLocale german("de_DE.UTF-8");
+    ASSERT_TRUE(german.isSet());
     std::ostringstream log;
     std::ostringstream errors;
     playSession("/nowhere.json", {}, log, errors);
     EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "de_DE.UTF-8");
-    std::setlocale(LC_ALL, "C");
 }
 
 }  // namespace
