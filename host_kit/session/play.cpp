@@ -75,14 +75,18 @@ PlayStatus reported(std::ostream& errors, Work work) {
     }
 }
 
+/// A link that leads nowhere, or round in a circle, is none.
+bool isSession(const fs::directory_entry& entry) {
+    std::error_code unreachable;
+    return entry.is_regular_file(unreachable) && entry.path().extension() == ".json";
+}
+
 std::vector<fs::path> sessionsBelow(const fs::path& folder) {
     std::error_code failure;
     std::vector<fs::path> files;
     for (fs::recursive_directory_iterator entry(folder, failure), end; !failure && entry != end;
          entry.increment(failure)) {
-        if (entry->is_regular_file() && entry->path().extension() == ".json") {
-            files.push_back(entry->path());
-        }
+        if (isSession(*entry)) files.push_back(entry->path());
     }
     if (failure) throw PlayError{PlayStatus::NoSession, folder.string() + ": cannot be read"};
     std::sort(files.begin(), files.end());
