@@ -2,12 +2,15 @@
 #include "tests/plugin/settings/settings_state.h"
 #include "tests/plugin/setup_document/c_locale.h"
 #include "tests/plugin/setup_document/entry_node.h"
+#include "tests/plugin/setup_document/unused_node.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <map>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -112,7 +115,11 @@ TEST(SavedSetup, NormalisesWhatLeftItsRange) {
     EntryNode node;
     node.writing = true;
     control.persistSetup(node);
-    EXPECT_EQ(node.entries.at("graphType"), "7") << "the text is that of before";
+    // The texts are those of before.
+    EXPECT_EQ(node.entries.at("graphType"), "7");
+    EXPECT_EQ(node.entries.at("historyType"), "-1");
+    EXPECT_EQ(node.entries.at("autoScaleType"), "2");
+    EXPECT_EQ(node.entries.at("useManualMagnitudeLimits"), "False");
     EXPECT_EQ(stateOf(control).graphType, 0);
     EXPECT_EQ(stateOf(control).historyType, 0);
     EXPECT_EQ(stateOf(control).autoScaleType, 0);
@@ -129,6 +136,70 @@ TEST(Setup, MakesTheNextLayoutRunInFullInBothDirections) {
         control.persistSetup(node);
         EXPECT_FALSE(RotavueVisualControlAccess(control).graph.state().layoutValid);
     }
+}
+
+// A document that has nothing to give from the key of that name on.
+class EndingNode final : public Tests::UnusedNode {
+public:
+    EndingNode(bool writes, const char* lastKey) : writes_(writes), lastKey_(lastKey) {}
+
+    bool isWriting() const override { return writes_; }
+    void writeValue(const Text& key, const Text&, const Text&) override { endAt(key); }
+    void readValue(const Text& key, Text& value, const Text& defaultValue) const override {
+        endAt(key);
+        value = defaultValue;
+    }
+
+private:
+    void endAt(const Text& key) const {
+        if (key == lastKey_) throw XmlException(0);
+    }
+
+    bool writes_;
+    std::string lastKey_;
+};
+
+TEST(Setup, LeavesTheLayoutAloneWhereItEndsBeforeTheSettingsAreStored) {
+    for (const bool writing : {true, false}) {
+        for (const auto& [key, valid] :
+             {std::pair{"useManualMagnitudeLimits", true}, std::pair{"tickCount", true},
+              std::pair{"showOnlyLastPosition", true}, std::pair{"minXValue", false},
+              std::pair{"maxYValue", false}}) {
+            RotavueVisualControl control;
+            EndingNode node(writing, key);
+            EXPECT_THROW(control.persistSetup(node), XmlException) << key;
+            EXPECT_EQ(RotavueVisualControlAccess(control).graph.state().layoutValid, valid) << key;
+        }
+    }
+}
+
+TEST(SavedSetup, ThatFailsNormalisesOnlyOnceTheSettingsAreStored) {
+    SettingsState state = unusualState();
+    state.graphType = 7;
+    state.historyType = -1;
+    for (const auto& [key, graphType, historyType] :
+         {std::tuple{"autoScaleType", 7, -1}, std::tuple{"showOnlyLastPosition", 7, -1},
+          std::tuple{"minXValue", 0, 0}}) {
+        RotavueVisualControl control;
+        putState(control, state);
+        EndingNode node(true, key);
+        EXPECT_THROW(control.persistSetup(node), XmlException) << key;
+        EXPECT_EQ(stateOf(control).graphType, graphType) << key;
+        EXPECT_EQ(stateOf(control).historyType, historyType) << key;
+    }
+}
+
+TEST(SavedSetup, OfACircleLeavesLimitsThatAreNotSquareAsTheyAre) {
+    SettingsState state;
+    state.graphType = 1;
+    state.maxYValue = 0.5;
+    RotavueVisualControl control;
+    putState(control, state);
+    EntryNode node;
+    node.writing = true;
+    control.persistSetup(node);
+    EXPECT_EQ(stateOf(control), state);
+    EXPECT_EQ(node.entries.at("maxYValue"), "0.500000000000000");
 }
 
 TEST(LoadedSetup, AsksForSixteenKeysWithTheirDefaults) {
@@ -278,6 +349,25 @@ TEST(LoadedSetup, MayHaveLimitsInTheWrongOrder) {
     const SettingsState loaded = loadedFrom({{"minXValue", "5"}, {"maxXValue", "-5"}});
     EXPECT_EQ(loaded.minXValue, 5.0);
     EXPECT_EQ(loaded.maxXValue, -5.0);
+}
+
+TEST(Setup, ThatIsSavedAndLoadedOnTheSameNodeMovesOnlyWhatLeftItsRange) {
+    SettingsState state = unusualState();
+    state.graphType = 7;
+    state.historyType = -1;
+    state.autoScaleType = 2;
+    state.displayType = 7;
+    RotavueVisualControl control;
+    putState(control, state);
+    EntryNode node;
+    node.writing = true;
+    control.persistSetup(node);
+    node.writing = false;
+    control.persistSetup(node);
+    state.graphType = 0;
+    state.historyType = 0;
+    state.autoScaleType = 0;
+    EXPECT_EQ(stateOf(control), state);
 }
 
 TEST(Setup, ThatIsSavedAndLoadedLeavesAllSixteenSettings) {

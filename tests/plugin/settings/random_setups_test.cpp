@@ -1,17 +1,14 @@
-// Ten thousand setups of valid, odd and hostile texts, through the host's document, against a model
-// that knows of each text what it is worth because it made it up.
+// Ten thousand setups of valid, odd and hostile texts, and some more under other locales, through
+// the host's document, against a model that knows of each text what it is worth because it made it
+// up.
 
-#include "host_kit/memory/memory_host.h"
-#include "plugin/setup_document/meridax_dcom_node.h"
-#include "plugin/setup_document/xml_exception.h"
-#include "tests/plugin/settings/settings_state.h"
+#include "tests/plugin/settings/setup_round_trip.h"
 #include "tests/plugin/settings/setup_samples.h"
+#include "tests/plugin/setup_document/c_locale.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <map>
 #include <optional>
@@ -29,7 +26,9 @@ constexpr std::int32_t zeroOrOne(std::int32_t value) {
 // A made-up setup and what loading it does to a control.
 class MadeUpSetup {
 public:
-    explicit MadeUpSetup(Random& random) : random_(random) { expect(); }
+    MadeUpSetup(Random& random, bool withComma) : random_(random), withComma_(withComma) {
+        expect();
+    }
 
     const Setup& texts() const { return texts_; }
 
@@ -46,7 +45,7 @@ private:
         if (isMissing()) return missing;
         const BoolSample sample = anyBool(random_);
         texts_[key] = sample.text;
-        return sample.value;
+        return withComma_ ? sample.withComma.value_or(sample.value) : sample.value;
     }
 
     template <class Sample, class T>
@@ -65,6 +64,7 @@ private:
     }
 
     Random& random_;
+    bool withComma_;  // the decimal point of the C locale
     Setup texts_;
     SettingsState loaded_;
     int numbers_ = 0;
@@ -108,69 +108,55 @@ std::optional<int> MadeUpSetup::loadInto(SettingsState& state) const {
     return code_;
 }
 
-// What is left of a number after it was saved with 15 digits behind the point.
-double afterSaving(double value) {
-    if (!std::isfinite(value)) return value;
-    std::array<char, 400> text{};
-    const auto end = std::to_chars(text.begin(), text.end(), value, std::chars_format::fixed, 15);
-    double result = 0;
-    std::from_chars(text.data(), end.ptr, result);
-    return result;
-}
+struct Run {
+    std::string locale;
+    int setups;
+};
 
-SettingsState afterSaving(SettingsState state) {
-    for (double* number : {&state.displayTime, &state.minXValue, &state.maxXValue, &state.minYValue,
-                           &state.maxYValue})
-        *number = afterSaving(*number);
-    return state;
-}
-
-// NaN is to count as equal to itself here.
-SettingsState comparable(SettingsState state) {
-    for (double* number : {&state.displayTime, &state.minXValue, &state.maxXValue, &state.minYValue,
-                           &state.maxYValue})
-        if (std::isnan(*number)) *number = 123456789.0;
-    return state;
-}
-
-std::optional<int> persist(RotavueVisualControl& control, ::Rotavue::HostKit::MemoryHost& host,
-                           bool writing) {
-    Utils::Dcom::Utils::MeridaxDCOMNode node(host.document(), host.node());
-    node.setWriting(writing);
-    try {
-        control.persistSetup(node);
-    } catch (const Utils::Serialization::XmlException& error) {
-        return error.code;
+class RandomSetups : public testing::TestWithParam<Run> {
+protected:
+    // What was loaded, whole or in part, is saved and comes back in another control.
+    void expectToComeBack(const SettingsState& model) {
+        host_.description.setup.clear();
+        ASSERT_EQ(persist(control_, host_, true), std::nullopt);
+        ASSERT_EQ(comparable(stateOf(control_)), comparable(model));
+        RotavueVisualControl other;
+        ASSERT_EQ(persist(other, host_, false), std::nullopt);
+        ASSERT_EQ(comparable(stateOf(other)), comparable(afterSaving(model)));
     }
-    return std::nullopt;
-}
 
-TEST(RandomSetups, GiveTheSettingsOrTheErrorAndTheStateOfTheModel) {
+    ::Rotavue::HostKit::MemoryHost host_;
+    RotavueVisualControl control_;
+};
+
+TEST_P(RandomSetups, GiveTheSettingsOrTheErrorAndTheStateOfTheModel) {
+    const Tests::CLocale locale(GetParam().locale);
+    ASSERT_TRUE(locale.isSet());
     Random random(20240607);
-    ::Rotavue::HostKit::MemoryHost host;
-    RotavueVisualControl control;
     SettingsState model;
     int failures = 0;
-    for (int i = 0; i < 10'000; ++i) {
-        const MadeUpSetup setup(random);
-        host.description.setup = setup.texts();
+    for (int i = 0; i < GetParam().setups; ++i) {
+        const MadeUpSetup setup(random, GetParam().locale == "de_DE.UTF-8");
+        host_.description.setup = setup.texts();
         const std::optional<int> expected = setup.loadInto(model);
-        ASSERT_EQ(persist(control, host, false), expected) << i;
-        ASSERT_EQ(comparable(stateOf(control)), comparable(model)) << i;
+        ASSERT_EQ(persist(control_, host_, false), expected) << i;
+        ASSERT_EQ(comparable(stateOf(control_)), comparable(model)) << i;
         if (expected) ++failures;
-        // What was loaded, whole or in part, is saved and comes back in another control.
-        host.description.setup.clear();
-        ASSERT_EQ(persist(control, host, true), std::nullopt) << i;
-        ASSERT_EQ(comparable(stateOf(control)), comparable(model)) << i;
-        RotavueVisualControl other;
-        ASSERT_EQ(persist(other, host, false), std::nullopt) << i;
-        ASSERT_EQ(comparable(stateOf(other)), comparable(afterSaving(model))) << i;
+        ASSERT_NO_FATAL_FAILURE(expectToComeBack(model)) << i;
     }
     // Both roads were taken, and often.
-    EXPECT_GT(failures, 300);
-    EXPECT_LT(failures, 5'000);
-    EXPECT_EQ(host.references(), 0);
+    EXPECT_GT(failures, GetParam().setups / 30);
+    EXPECT_LT(failures, GetParam().setups / 2);
+    EXPECT_EQ(host_.references(), 0);
 }
+
+// Making a locale for each number takes its time: there are fewer under the named ones.
+INSTANTIATE_TEST_SUITE_P(Locales, RandomSetups,
+                         testing::Values(Run{"C", 10'000}, Run{"en_US.UTF-8", 2'000},
+                                         Run{"de_DE.UTF-8", 2'000}),
+                         [](const auto& name) {
+                             return name.param.locale.substr(0, name.param.locale.find('_'));
+                         });
 
 }  // namespace
 }  // namespace Meridax::VisualControls::Rotavue

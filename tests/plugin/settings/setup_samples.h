@@ -17,6 +17,7 @@ std::int32_t anyOf(Random& random, std::int32_t least, std::int32_t most);
 struct BoolSample {
     std::wstring text;
     bool value;
+    std::optional<bool> withComma{};  ///< where it is another one with that decimal point
 };
 
 struct IntegerSample {
