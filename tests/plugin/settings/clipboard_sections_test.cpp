@@ -1,52 +1,12 @@
 // The rows of each kind of orbit on the clipboard.
 
 #include "plugin/settings/clipboard_writer.h"
-#include "tests/plugin/orbit_control/control_test.h"
+#include "tests/plugin/settings/clipboard_section.h"
 
 #include <limits>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
-
-using WideLines = std::vector<std::wstring>;
-
-class ClipboardSection : public ControlTest {
-protected:
-    // The lines of the text, each without its end.
-    WideLines lines() {
-        const std::wstring text = control.clipboardText();
-        WideLines found;
-        for (std::size_t start = 0; start < text.size();) {
-            const std::size_t end = text.find(L"\r\n", start);
-            found.push_back(text.substr(start, end - start));
-            start = end + 2;
-        }
-        return found;
-    }
-
-    // Two positions, oldest first: gap at the Y angle, gap at the X angle, speed, time.
-    HostKit::ChannelDescription& describeShaftCenter(const std::string& id) {
-        HostKit::ChannelDescription& described = assignChannel(id, L"");
-        described.array = true;
-        described.arraySize = 4;
-        described.sampleCount = 2;
-        described.values[0] = {1, 2, 2999.6, 1.25, 3, 4, 3000.4, 1.5};
-        return described;
-    }
-
-    // The newest array of a channel: element by element, components 4 and 5.
-    HostKit::ChannelDescription& describeArray(const std::string& id, const std::wstring& type,
-                                               std::vector<double> x, std::vector<double> y) {
-        HostKit::ChannelDescription& described = assignChannel(id, type);
-        described.array = true;
-        described.arraySize = static_cast<std::int32_t>(x.size());
-        described.sampleCount = 1;
-        described.axes = {{0.0, 1.0}};
-        described.values[4] = std::move(x);
-        described.values[5] = std::move(y);
-        return described;
-    }
-};
 
 TEST_F(ClipboardSection, OfAReferenceHasAllElements) {
     describeArray("reference", L"Reference", {1, 2, 3}, {4, 5, 6});
@@ -89,6 +49,18 @@ TEST_F(ClipboardSection, OfAHarmonicIsAnOpenEllipseOf340RowsForEachOrder) {
     EXPECT_EQ(found[2 + 30], L"1.500\t1.732");  // 3 sin 30, 2 sin 120
     EXPECT_EQ(found[2 + 90], L"3.000\t0.000");
     EXPECT_EQ(found[2 + 339], L"-1.075\t1.867");  // 3 sin 339, 2 sin 429
+}
+
+TEST_F(ClipboardSection, OfAHarmonicIsTurnedIntoTheFrameOfTheMachine) {
+    // Sensors at 30 and 90 degrees. With x and y as above, the row is (x sin 30 + y sin 90,
+    // x cos 30 + y cos 90) = (x / 2 + y, 0.8660254 x).
+    HostKit::ChannelDescription& described = describeArray("h", L"Harmonic", {0, 3}, {2, 0});
+    described.properties[L"Orbit X Angle"] = L"30";
+    described.properties[L"Orbit Y Angle"] = L"90";
+    const WideLines found = lines();
+    EXPECT_EQ(found[2], L"2.000\t0.000");
+    EXPECT_EQ(found[2 + 30], L"2.482\t1.299");  // x = 1.5, y = 1.7320508
+    EXPECT_EQ(found[2 + 90], L"1.500\t2.598");  // x = 3, y = 0
 }
 
 TEST_F(ClipboardSection, OfAHarmonicLeavesAnOddElementUnreadAndHasNoneWithoutAPair) {
@@ -142,6 +114,31 @@ TEST_F(ClipboardSection, OfAShaftCenterHasTheTimeInFrontForAnyOtherDisplayType) 
     EXPECT_TRUE(label == L"1.2\t" || label == L"1.3\t");
 }
 
+TEST_F(ClipboardSection, OfAShaftCenterIsTurnedWithItsFirstElementAtTheYAngle) {
+    HostKit::ChannelDescription& described = describeShaftCenter("center");
+    described.properties[L"Orbit X Angle"] = L"30";
+    described.properties[L"Orbit Y Angle"] = L"90";
+    // Element 1 is 2, then 4; element 0 is 1, then 3: (2 / 2 + 1, 0.8660254 * 2), (5, 3.4641016).
+    const WideLines found = lines();
+    EXPECT_EQ(found[2], L"3000\t2.000\t1.732");
+    EXPECT_EQ(found[3], L"3000\t5.000\t3.464");
+}
+
+TEST_F(ClipboardSection, OfAShaftCenterOnStoredDataSeeksItsCursorAnew) {
+    HostKit::ChannelDescription& described = describeShaftCenter("center");
+    described.asynchronous = true;
+    described.timestamps = {0.5, 2.0};
+    host.description.host.acquiring = false;
+    host.description.host.sampleRate = 1000.0;
+    host.description.host.blockSize = 1000;
+    host.description.host.currentPosition = {1,
+                                             0};  // 1 s: the first sample is the newest before it
+    control.sampleCursor = 1;
+    EXPECT_EQ(lines(),
+              (WideLines{L" ()", L"RPM\tX\tY", L"0\t0.000\t0.000", L"3000\t2.000\t1.000", L""}));
+    EXPECT_EQ(control.sampleCursor, 0);
+}
+
 TEST_F(ClipboardSection, OfAShaftCenterHoldsAllSamplesWhateverTheDrawingShows) {
     describeShaftCenter("center");
     key.showOnlyLastPosition = true;
@@ -158,33 +155,6 @@ TEST_F(ClipboardSection, OfASubSyncOrbitIsMeasuredByTheOrbitChannelItself) {
     EXPECT_EQ(lines(), (WideLines{L" ()", L"X\tY", L"3.000\t6.000", L"2.000\t5.000", L""}));
     key.graph.setHistoryType(0);
     EXPECT_EQ(lines(), (WideLines{L" ()", L"X\tY", L""})) << "no rate, so no turns";
-}
-
-TEST_F(ClipboardSection, AfterAShaftCenterKeepsTheColumnOfItsLabel) {
-    describeShaftCenter("center");
-    describeArray("reference", L"Reference", {1.4}, {5});
-    EXPECT_EQ(lines(),
-              (WideLines{L" ()", L"RPM\tX\tY", L"3000\t2.000\t1.000", L"3000\t4.000\t3.000", L"",
-                         L" ()", L"X\tY", L"1\t5.000\t", L""}));
-}
-
-TEST_F(ClipboardSection, OfASecondShaftCenterHasAnotherColumnInFront) {
-    describeShaftCenter("first");
-    describeShaftCenter("second");
-    const WideLines found = lines();
-    EXPECT_EQ(found[6], L"RPM\tX\tY");
-    EXPECT_EQ(found[7], L"3000\t2\t1.000\t");
-    EXPECT_EQ(found[8], L"3000\t4\t3.000\t");
-    EXPECT_EQ(lines(), found) << "the next copy begins anew";
-}
-
-TEST_F(ClipboardSection, OfAGroupNeverSeesTheColumnOfALabel) {
-    describeShaftCenter("center");
-    describeOrbit("orbit", {1, 2}, {3, 4});
-    assignGroup({"orbit"});
-    key.graph.setHistoryType(1);
-    key.displayTime = 0.1;
-    EXPECT_EQ(lines()[2], L"2.000\t4.000");
 }
 
 TEST_F(ClipboardSection, EndsWhereTheAllowanceOfThePassIsUsedUp) {

@@ -94,6 +94,16 @@ TEST_F(ClipboardText, IsClampedByTheTachoOfAGroupOfTwo) {
     EXPECT_EQ(control.clipboardText(), L"Shaft (um)\r\nX\tY\r\n3.000\t4.000\r\n\r\n");
 }
 
+TEST_F(ClipboardText, KnowsNoTachoInAGroupOfThree) {
+    describeShaft("orbit");
+    describeTacho("tacho", {0, 10});
+    assignGroup({"orbit", "tacho", "tacho"});
+    EXPECT_EQ(control.clipboardText(),
+              L"Shaft (um)\r\nX\tY\r\n3.000\t4.000\r\n1.000\t2.000\r\n\r\n");
+    key.graph.setHistoryType(0);
+    EXPECT_EQ(control.clipboardText(), L"Shaft (um)\r\nX\tY\r\n\r\n");
+}
+
 TEST_F(ClipboardText, ReadsAlsoWhatTheDrawingLeavesOutOnStoredData) {
     HostKit::ChannelDescription& orbit = describeShaft("orbit");
     orbit.storageKind = 1;
@@ -112,12 +122,17 @@ TEST_F(ClipboardText, EndsANameAtItsFirstZeroCharacter) {
     EXPECT_EQ(control.clipboardText(), L"Sh (u)\r\n\r\n");
 }
 
-TEST_F(ClipboardText, HasTheDecimalPointOfTheCLocale) {
-    const Tests::CLocale locale("de_DE.UTF-8");
-    ASSERT_TRUE(locale.isSet());
+TEST_F(ClipboardText, HasTheDecimalPointOfTheCLocaleAndNoGroupsOfThousands) {
     describeOrbit("orbit", {1.5, 12345.6789}, {-0.25, 1e-9});
     assignGroup({"orbit"});
-    EXPECT_EQ(control.clipboardText(), L" ()\r\nX\tY\r\n12345,679\t0,000\r\n1,500\t-0,250\r\n\r\n");
+    const std::wstring withPoint = L" ()\r\nX\tY\r\n12345.679\t0.000\r\n1.500\t-0.250\r\n\r\n";
+    const std::wstring withComma = L" ()\r\nX\tY\r\n12345,679\t0,000\r\n1,500\t-0,250\r\n\r\n";
+    for (const auto& [name, text] :
+         {std::pair{"C", withPoint}, {"en_US.UTF-8", withPoint}, {"de_DE.UTF-8", withComma}}) {
+        const Tests::CLocale locale(name);
+        ASSERT_TRUE(locale.isSet()) << name;
+        EXPECT_EQ(control.clipboardText(), text) << name;
+    }
 }
 
 TEST_F(ClipboardText, PrintsNumbersOfAnySize) {

@@ -1,4 +1,5 @@
 #include "tests/plugin/settings/panel_test.h"
+#include "tests/plugin/setup_document/entry_node.h"
 
 #include <algorithm>
 
@@ -80,6 +81,31 @@ TEST_F(PanelRules, ScaleACircleAbsolutelyAndLeaveItSoInTheGrid) {
     EXPECT_EQ(state().autoScaleType, 0);
 }
 
+TEST_F(PanelRules, EnableTheScaleTypeForAGridWithAutoScaleAlone) {
+    struct Case {
+        std::int32_t manualLimits;
+        std::int32_t graphType;
+        bool enabled;
+        std::int32_t scaleType;  // after filling; it was 1
+    };
+    buildAndFill();
+    for (const Case& c : {Case{0, 0, true, 1},
+                          {1, 0, false, 1},
+                          {0, 1, false, 0},
+                          {1, 1, false, 0},
+                          {0, 7, false, 0},
+                          {0, -1, false, 0}}) {
+        key.graph.setManualLimits(c.manualLimits);
+        key.graph.setGraphType(c.graphType);
+        key.graph.setAutoScaleType(1);
+        const Lines calls = callsOn("AutoScaleType");
+        EXPECT_EQ(calls[1], std::string("IHostPropertyControl.SetEnabled[AutoScaleType](") +
+                                (c.enabled ? "true)" : "false)"))
+            << c.manualLimits << ' ' << c.graphType;
+        EXPECT_EQ(state().autoScaleType, c.scaleType) << c.manualLimits << ' ' << c.graphType;
+    }
+}
+
 TEST_F(PanelRules, DisableTheScaleTypeWithoutAutoScale) {
     buildAndFill();
     change(L"AutoScaleCheckbox", false);
@@ -99,6 +125,10 @@ TEST_F(PanelRules, ShowTheLengthThatTheHistoryTypeUsesAndKeepTheOther) {
               (Lines{"IHostPropertyControl.SetVisible[HistoryRevolutions](false)",
                      "IHostNumberEdit.SetValue[HistoryRevolutions](4)"}));
     EXPECT_EQ(state().revolutions, 4);
+    Tests::EntryNode node;
+    node.writing = true;
+    control.persistSetup(node);
+    EXPECT_EQ(node.entries.at("revolutions"), "4") << "it stays in the setup";
 }
 
 TEST_F(PanelRules, HideBothLengthsForAnUnknownHistoryType) {

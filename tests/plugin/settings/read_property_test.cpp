@@ -1,6 +1,7 @@
 #include "tests/plugin/settings/panel_test.h"
 
 #include <functional>
+#include <utility>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -40,11 +41,29 @@ TEST_F(ChangedWidget, StoresItsValueInItsSettingAndNowhereElse) {
 }
 
 TEST_F(ChangedWidget, IsAskedForItsNameAndItsValueAndNothingElseIsTouched) {
+    const std::pair<std::string, std::string> reads[] = {
+        {"TickCount", "IHostNumberEdit.GetValue"},
+        {"AutoScaleCheckbox", "IHostCheckBox.GetChecked"},
+        {"AutoScaleType", "IHostComboBox.GetIndex"},
+        {"SingleAxis", "IHostCheckBox.GetChecked"},
+        {"HistoryTime", "IHostFloatEdit.GetValue"},
+        {"HistoryRevolutions", "IHostNumberEdit.GetValue"},
+        {"Clearance", "IHostCheckBox.GetChecked"},
+        {"ClearanceColor", "IHostColorEdit.GetColor"},
+        {"DisplayType", "IHostComboBox.GetIndex"},
+        {"GraphType", "IHostComboBox.GetIndex"},
+        {"HistoryType", "IHostComboBox.GetIndex"},
+        {"ShowOnlyLastPositionCheckBox", "IHostCheckBox.GetChecked"},
+    };
     buildAndFill();
     host.record();
-    change(L"GraphType", std::int64_t{1});
-    EXPECT_EQ(host.takeCalls(), (Lines{"IHostPropertyControl.GetName[GraphType]() -> \"GraphType\"",
-                                       "IHostComboBox.GetIndex[GraphType]() -> 1"}));
+    for (const auto& [name, read] : reads) {
+        control.readProperty(L"", widget(std::wstring(name.begin(), name.end())));
+        const Lines calls = host.takeCalls();
+        ASSERT_EQ(calls.size(), 2U) << name;
+        EXPECT_EQ(calls[0], "IHostPropertyControl.GetName[" + name + "]() -> \"" + name + "\"");
+        EXPECT_TRUE(calls[1].starts_with(read + "[" + name + "]() -> ")) << calls[1];
+    }
 }
 
 TEST_F(ChangedWidget, IsNotHeldToTheLimitsOfThePanel) {
@@ -92,7 +111,11 @@ TEST_F(ChangedWidget, OfTheGraphTypeSquaresTheLimitsOnceOnTheWayToACircle) {
 }
 
 TEST_F(ChangedWidget, OfAnUnknownNameChangesNothing) {
-    for (const wchar_t* name : {L"tickCount", L"TickCount ", L"Tick", L"TickCounts", L"", L"X"}) {
+    const std::wstring names[] = {
+        L"tickCount",  L"TICKCOUNT", L"TickCount ", L"Tick",
+        L"TickCounts", L"",          L"X",          std::wstring(L"TickCount\0", 10)};
+    for (const std::wstring& name : names) {
+        // A known name would ask for the widget's own kind, which these don't have.
         EXPECT_NO_THROW(control.readProperty(L"TickCount", widget(name)));
         EXPECT_EQ(state(), SettingsState{}) << testing::PrintToString(name);
     }
@@ -102,7 +125,9 @@ TEST_F(ChangedWidget, ThatIsNullOrOfAnotherKindIsRefused) {
     EXPECT_EQ(statusOf([&] { control.readProperty(L"", nullptr); }), 0x80004003U);
     // Widgets that the control did not make offer no kind of their own.
     for (const wchar_t* name :
-         {L"TickCount", L"AutoScaleCheckbox", L"AutoScaleType", L"HistoryTime", L"ClearanceColor"})
+         {L"TickCount", L"AutoScaleCheckbox", L"AutoScaleType", L"SingleAxis", L"HistoryTime",
+          L"HistoryRevolutions", L"Clearance", L"ClearanceColor", L"DisplayType", L"GraphType",
+          L"HistoryType", L"ShowOnlyLastPositionCheckBox"})
         EXPECT_EQ(statusOf([&] { control.readProperty(L"", widget(name)); }), 0x80004003U)
             << testing::PrintToString(name);
     EXPECT_EQ(state(), SettingsState{});
