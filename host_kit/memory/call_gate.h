@@ -44,7 +44,14 @@ private:
     template <class Answer, class... Arguments>
     [[gnu::noinline]] auto attendedCall(Operation operation, const MemoryObject& on, Answer answer,
                                         const Arguments&... arguments) {
-        return watched(Call{operation, logNameOf(on), {toCallValue(arguments)...}, {}, {}}, answer);
+        // One after the other: this compiler loses the way out of a braced list of these whose
+        // making throws.
+        Call call;
+        call.operation = operation;
+        call.on = logNameOf(on);
+        call.arguments.reserve(sizeof...(arguments));
+        (call.arguments.push_back(toCallValue(arguments)), ...);
+        return watched(std::move(call), answer);
     }
 
     template <class Answer>

@@ -21,8 +21,32 @@ CallValue interfaceText(const Host::Guid& identifier) {
     return {name ? std::string(*name) : toUtf8(Api::guidText(identifier))};
 }
 
+/// Starts the members of a failure. They are added one by one: this compiler loses the way out of a
+/// braced list of them when memory runs out in between.
+LogMembers ofKind(const char* kind) {
+    LogMembers members;
+    members.emplace_back("kind", CallValue{kind});
+    return members;
+}
+
 LogMembers failure(const char* kind, const char* what) {
-    return {{"kind", {kind}}, {"what", {wellFormed(what)}}};
+    LogMembers members = ofKind(kind);
+    members.emplace_back("what", CallValue{wellFormed(what)});
+    return members;
+}
+
+LogMembers failure(const Host::HostError& error) {
+    LogMembers members = ofKind("HostError");
+    members.emplace_back("status", CallValue{statusText(error.status)});
+    members.emplace_back("interface", interfaceText(error.interfaceId));
+    return members;
+}
+
+LogMembers failure(const XmlException& error) {
+    LogMembers members = ofKind("XmlException");
+    members.emplace_back("code", toCallValue(error.code));
+    members.emplace_back("what", CallValue{wellFormed(error.what())});
+    return members;
 }
 
 }  // namespace
@@ -31,13 +55,9 @@ LogMembers currentFailure() {
     try {
         throw;
     } catch (const Host::HostError& error) {
-        return {{"kind", {"HostError"}},
-                {"status", {statusText(error.status)}},
-                {"interface", interfaceText(error.interfaceId)}};
+        return failure(error);
     } catch (const XmlException& error) {
-        return {{"kind", {"XmlException"}},
-                {"code", toCallValue(error.code)},
-                {"what", {wellFormed(error.what())}}};
+        return failure(error);
     } catch (const std::invalid_argument& error) {
         return failure("invalid_argument", error.what());
     } catch (const std::out_of_range& error) {

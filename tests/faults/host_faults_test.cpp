@@ -1,0 +1,106 @@
+#include "tests/faults/fault_session.h"
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+
+namespace Rotavue::HostKit {
+namespace {
+
+std::string interfaceOfCall(const std::string& call) {
+    return call.substr(0, call.find('.'));
+}
+
+std::string failureText(const std::string& interface) {
+    return R"({"interface":")" + interface + R"(","kind":"HostError","status":"0x80004005"})";
+}
+
+const std::string NullText = R"({"interface":null,"kind":"HostError","status":"0x80004003"})";
+
+/// Objects that the control can do without: a group may lack its tacho, and one with a null member
+/// is not usable; a host may leave out a widget; a check box is made and not used further.
+bool mayBeNull(const std::string& call) {
+    return call == "IHostChannelList.getItem" || call == "IHostPropertyPage.FindControl" ||
+           call == "IHostPropertyPage.AddCheckBox";
+}
+
+/// The places of the calls that a fault can hit: every call of the log for which `hits` is true.
+template <class Hits>
+std::vector<std::size_t> placesOf(const LogLines& log, Hits hits) {
+    std::vector<std::size_t> places;
+    for (std::size_t i = 0; i < log.size(); ++i) {
+        const LogLine line(log[i]);
+        if (!line.call.empty() && hits(line)) places.push_back(i);
+    }
+    return places;
+}
+
+class FaultySession : public testing::TestWithParam<std::filesystem::path> {
+protected:
+    /// After the fault at this place of the log nothing stays held, and the control draws its next
+    /// frame as it would have.
+    void expectGoesOn(const LogLines& log, std::size_t place) const {
+        EXPECT_TRUE(nothingHeld(log)) << log.back();
+        const bool inClosingFrame = endOfMessage(sound_, place) == sound_.size() - 2;
+        if (!inClosingFrame && closingFrameWorks(sound_) && !hasOwnFault_) {
+            EXPECT_TRUE(closingFrameWorks(log)) << log[log.size() - 2];
+        }
+    }
+
+    const FaultSession session_{GetParam()};
+    const LogLines sound_ = session_.play();
+
+    /// A fault of the session's own that was not reached may come true in the closing frame.
+    const bool hasOwnFault_ = readText(GetParam()).find("\"fail\"") != std::string::npos;
+};
+
+TEST_P(FaultySession, RaisesTheFailureOfEachHostCall) {
+    const auto places = placesOf(sound_, [](const LogLine&) { return true; });
+    for (std::size_t n = 0; n < places.size(); ++n) {
+        const LogLine call(sound_[places[n]]);
+        if (!call.failed.empty()) continue;  // The session's own fault comes first.
+        SCOPED_TRACE(sound_[places[n]]);
+        const LogLines log = session_.play([n](MemoryHost& host) {
+            host.gate.fail({{}, static_cast<std::int64_t>(n) + 1, Host::Status::Unspecified, {}});
+        });
+        ASSERT_GT(log.size(), places[n]);
+        EXPECT_EQ(LogLine(log[places[n]]).call, call.call);
+        EXPECT_EQ(LogLine(log[places[n]]).failed, "0x80004005");
+        const std::size_t end = endOfMessage(log, places[n]);
+        EXPECT_EQ(LogLine(log[end]).error, failureText(interfaceOfCall(call.call)));
+        EXPECT_EQ(end, places[n] + 1) << "called after the failure: " << log[places[n] + 1];
+        expectGoesOn(log, places[n]);
+    }
+    std::cout << places.size() << " failing calls\n";
+}
+
+TEST_P(FaultySession, RaisesAnInvalidPointerForEachNullObject) {
+    const auto places = placesOf(
+        sound_, [](const LogLine& line) { return line.asksForObject && line.failed.empty(); });
+    for (std::size_t n = 0; n < places.size(); ++n) {
+        if (!LogLine(sound_[places[n]]).object) continue;  // Null as it is.
+        SCOPED_TRACE(sound_[places[n]]);
+        const LogLines log = session_.play([n](MemoryHost& host) {
+            host.gate.nullObject(static_cast<std::int64_t>(n) + 1);
+        });
+        ASSERT_GT(log.size(), places[n]);
+        const std::string call = LogLine(sound_[places[n]]).call;
+        EXPECT_EQ(LogLine(log[places[n]]).call, call);
+        const std::string error = LogLine(log[endOfMessage(log, places[n])]).error;
+        EXPECT_TRUE(error == NullText || (error.empty() && mayBeNull(call))) << error;
+        expectGoesOn(log, places[n]);
+    }
+    std::cout << places.size() << " null objects\n";
+}
+
+std::string testName(const testing::TestParamInfo<std::filesystem::path>& info) {
+    std::string name = info.param.lexically_relative(SessionFolder).replace_extension().string();
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return std::isalnum(c) == 0; }, '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FaultySession, testing::ValuesIn(sessionFiles()), testName);
+
+}  // namespace
+}  // namespace Rotavue::HostKit
