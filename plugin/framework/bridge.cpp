@@ -41,6 +41,8 @@ VisualControlBridge::VisualControlBridge(const BridgeNeeds& needs, Host::IHostOb
 std::int32_t VisualControlBridge::message(std::uint32_t code, const MessageArguments* arguments,
                                           MessageResult* result) {
     const auto self = Host::Ref<IMeridaxPlugin>::share(this);
+    const Host::Ref<Host::IHostApp> app = parts_.hostApp;
+    const Host::Ref<Host::IHostVisualControl> control = parts_.hostControl;
     DroppedResult dropped;
     return handlerOf(code)({parts_, arguments, result == nullptr ? dropped : *result});
 }

@@ -29,8 +29,9 @@ struct BridgeNeeds {
 ///  2. message 0 and 7 answer at any time, every other message reaches the control as it comes;
 ///  3. message 2 stores the host's objects here and in the control and runs the version gate; it
 ///     may come again;
-///  4. for the length of each message the bridge holds a reference to itself: a host that lets go
-///     of it from inside a callback finds nothing destroyed under its feet;
+///  4. for the length of each message the bridge holds a reference to itself and to the host's two
+///     objects: a host that lets go of it, or hands in others, from inside a callback finds nothing
+///     destroyed under its feet;
 ///  5. with the last release the control goes, then `hostControl`, then `hostApp`.
 ///
 /// Nothing is caught here: what a message cannot do, it throws into the host. The reference count

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <utility>
 
 /// The life of a bridge and its identity.
 namespace Meridax::VisualControls::Api {
@@ -105,6 +106,24 @@ TEST_F(Bridge, MessageInsideAMessageIsServed) {
     };
     send(MessageCode::PointerEntered);
     EXPECT_EQ(record.calls, (Calls{"onMouseEnter", "onMouseLeave"}));
+}
+
+TEST_F(Bridge, HostObjectsThatAreReplacedInsideACallbackLiveUntilItIsOver) {
+    Calls log;
+    Host::CountedApp app("app", log);
+    Host::CountedControl hostControl("control", log);
+    send(MessageCode::Attach, {object(Host::Ref<Host::IHostApp>::share(&app)),
+                               object(Host::Ref<Host::IHostVisualControl>::share(&hostControl))});
+    bool replaced = false;
+    record.during = [&] {
+        if (std::exchange(replaced, true)) return;
+        attach();
+        EXPECT_EQ(app.count, 1) << "one of its operations may be running";
+        EXPECT_EQ(hostControl.count, 1);
+    };
+    send(MessageCode::PointerEntered);
+    EXPECT_EQ(app.count, 0);
+    EXPECT_EQ(hostControl.count, 0);
 }
 
 TEST_F(Bridge, ErrorOfAnyKindPasses) {
