@@ -81,6 +81,15 @@ TEST_F(ChannelChecks, GroupThatLosesItsTachoMovesTheHistoryToTime) {
     EXPECT_EQ(linesOf(calls, "IHostChannelList.getCount").size(), 2U);
 }
 
+TEST_F(ChannelChecks, SetupIsShownAgainOnceHoweverManyGroupsLostTheirTacho) {
+    assignTwoGroups();
+    for (auto& group : host.description.assigned.groups)
+        group.channels.pop_back();
+    const Lines calls = callsOf([&] { control.onChannelsChanged(1); });
+    EXPECT_EQ(linesOf(calls, "IHostVisualControl.refreshSetup").size(), 1U);
+    EXPECT_TRUE(key.tachoMissing);
+}
+
 TEST_F(ChannelChecks, HistoryByTimeStaysAndNothingIsShownAgain) {
     assignTwoGroups();
     key.graph.setHistoryType(1);

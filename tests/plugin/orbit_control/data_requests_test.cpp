@@ -86,6 +86,16 @@ TEST_F(DataRequests, GroupByRevolutionsNeedsMostOfItsBuffer) {
     EXPECT_EQ(request(), Lines{});
 }
 
+TEST_F(DataRequests, AnyHistoryTypeButTimeNeedsTheBuffer) {
+    assignGroup({"orbit"});
+    channel("orbit").bufferSize = 1000;
+    channel("orbit").sampleRate = 2000.0;
+    for (const std::int32_t type : {0, 2, -1}) {
+        key.graph.setHistoryType(type);
+        EXPECT_EQ(request(), sent("[48, 0]", "[52, 0]", R"(["orbit"])")) << type;
+    }
+}
+
 TEST_F(DataRequests, UnusableGroupsAreLeftOut) {
     key.graph.setHistoryType(1);
     assignGroup({});
@@ -148,6 +158,7 @@ TEST_F(DataRequests, BlockSizeOfZeroIsAnInvalidArgumentForAWindowOnly) {
     EXPECT_EQ(request().size(), 1U) << "the whole range is not cut";
     assignChannel("average", L"Average").sampleRate = 1.0;
     expectHostError(0x80070057, [&] { control.requestData(first, second); });
+    EXPECT_EQ(key.dataRequestList->getCount(), 0) << "the window is cut before a channel is added";
 }
 
 TEST_F(DataRequests, WithoutAHostAreAnInvalidPointer) {

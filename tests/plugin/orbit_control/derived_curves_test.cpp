@@ -389,6 +389,34 @@ TEST_F(ShaftCenterCurve, EndsWithItsAllowanceAtTheNewest) {
     EXPECT_EQ(read().size(), 2U);
 }
 
+TEST_F(ShaftCenterCurve, OneHeldSampleGetsASpanOfItsOwn) {
+    key.showOnlyLastPosition = true;
+    described.sampleCount = 1;
+    EXPECT_EQ(read(), (std::vector<CurveSample>{{1.0, 10.0, 500.0}}));
+    EXPECT_EQ(key.dataExtents.range(), (Range{0.9, 1.1, 9.9, 10.1}));
+}
+
+TEST_F(ShaftCenterCurve, IsCountedByItsStampsDuringAMeasurementToo) {
+    host.description.host.acquiring = true;
+    // Two stamps lie before the cursor; the two positions are the newest of the ring.
+    EXPECT_EQ(read(), (std::vector<CurveSample>{{3.0, 30.0, 700.0}, {2.0, 20.0, 600.0}}));
+}
+
+TEST_F(ShaftCenterCurve, IsTheOnlyOneThatStartsASearch) {
+    control.sampleCursor = 5;
+    host.description.host.acquiring = true;
+    key.readReferenceCurve(*ref);
+    key.readHarmonicCurve(*ref);
+    key.readSubSyncCurve(*ref);
+    assignGroup({"c"});
+    key.readRawCurve(*group(0));
+    described.axes = {{{0.0, 1.0}}};
+    key.readAverageCurve(*ref);
+    EXPECT_EQ(control.sampleCursor, 5);
+    read();
+    EXPECT_EQ(control.sampleCursor, -1);
+}
+
 TEST_F(ShaftCenterCurve, IsReadFromTheRingDuringAMeasurement) {
     host.description.host.acquiring = true;
     host.description.host.wholeDataset = true;

@@ -1,4 +1,4 @@
-#include "tests/plugin/orbit_control/control_test.h"
+#include "tests/plugin/orbit_control/frame_test.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,46 +6,7 @@
 namespace Meridax::VisualControls::Rotavue {
 namespace {
 
-class DrawCycle : public ControlTest {
-protected:
-    DrawCycle() {
-        key.graph.setHistoryType(1);
-        host.description.host.sampleRate = 1000.0;
-        key.displayTime = 5.0;
-    }
-
-    /// Five points, newest first 7, 7 then 0, -10 then -10, 0 then 0, 10 then 10, 0.
-    HostKit::ChannelDescription& assignOrbit(const std::string& id = "orbit") {
-        HostKit::ChannelDescription& orbit =
-            describeOrbit(id, {10.0, 0.0, -10.0, 0.0, 7.0}, {0.0, 10.0, 0.0, -10.0, 7.0});
-        orbit.name = L"Shaft";
-        orbit.unit = L"um";
-        orbit.color = 255;
-        assignGroup({id});
-        return orbit;
-    }
-
-    /// A reference orbit of one point at 3, 4.
-    HostKit::ChannelDescription& assignReference(const std::string& id, const std::wstring& unit) {
-        HostKit::ChannelDescription& reference = assignChannel(id, L"Reference");
-        reference.sampleCount = 1;
-        reference.values[4] = {3.0};
-        reference.values[5] = {4.0};
-        reference.name = L"Reference";
-        reference.unit = unit;
-        return reference;
-    }
-
-    Lines drawn() {
-        return callsOf([&] { draw(); }, drawing());
-    }
-
-    static bool hasText(const Lines& lines, const std::string& text) {
-        return std::ranges::any_of(lines, [&](const std::string& line) {
-            return line.find('"' + text + '"') != std::string::npos;
-        });
-    }
-};
+class DrawCycle : public FrameTest {};
 
 TEST_F(DrawCycle, NothingAssignedGivesAnEmptyFrame) {
     const Lines lines = drawn();
@@ -273,13 +234,6 @@ TEST_F(DrawCycle, RawChannelReadsNothingAndHasNoLegend) {
 TEST_F(DrawCycle, EmptyArrayStillGetsItsLegend) {
     assignReference("c", L"um").arraySize = 0;
     EXPECT_TRUE(hasText(drawn(), "Reference (um)"));
-}
-
-TEST_F(DrawCycle, LastBearingReadWins) {
-    assignOrbit().properties[L"Orbit Rotation Direction"] = L"CCW";
-    draw();
-    EXPECT_EQ(key.graph.rotationDirection(), 0);
-    EXPECT_EQ(key.graph.xAngle(), 90.0);
 }
 
 struct Units {

@@ -128,6 +128,40 @@ TEST_F(Pointer, AnswerPassesThroughA32BitFloat) {
     EXPECT_EQ(key.graph.xMax(), double{0.1F});
 }
 
+struct Edit {
+    std::int32_t x;
+    std::int32_t y;
+    const wchar_t* text;
+    Range limits;
+};
+
+TEST_F(Pointer, EachLabelEditsItsOwnLimit) {
+    key.graph.setAutoScaleType(1);
+    const Edit edits[] = {{65, 245, L"-3", {-3, 1, -1, 1}},
+                          {235, 250, L"5", {-3, 5, -1, 1}},
+                          {50, 230, L"-6", {-3, 5, -6, 1}},
+                          {50, 65, L"8", {-3, 5, -6, 8}}};
+    for (const Edit& edit : edits) {
+        moveTo(edit.x, edit.y);
+        answer(edit.text);
+        EXPECT_EQ(limits(), edit.limits) << edit.x << ", " << edit.y;
+    }
+}
+
+TEST_F(Pointer, LimitThatWouldMeetTheOtherOneIsRefused) {
+    key.graph.setAutoScaleType(1);
+    const Edit edits[] = {{65, 245, L"1", {}},
+                          {235, 250, L"-1", {}},
+                          {50, 230, L"1", {}},
+                          {50, 65, L"-1", {}},
+                          {50, 65, L"nan", {}}};
+    for (const Edit& edit : edits) {
+        moveTo(edit.x, edit.y);
+        answer(edit.text);
+        EXPECT_EQ(limits(), (Range{-1, 1, -1, 1})) << edit.x << ", " << edit.y;
+    }
+}
+
 TEST_F(Pointer, RelativeScalingTakesOneLimitAndRefusesDisorder) {
     key.graph.setAutoScaleType(1);
     moveTo(65, 245);

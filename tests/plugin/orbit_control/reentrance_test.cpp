@@ -1,0 +1,279 @@
+#include "plugin/framework/bridge.h"
+#include "plugin/framework/message_codes.h"
+#include "tests/plugin/framework/doubles/clipboard_steps.h"
+#include "tests/plugin/framework/doubles/list_arguments.h"
+#include "tests/plugin/orbit_control/full_frame.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+
+/// A host that comes back to the control from inside one of its own answers.
+namespace Meridax::VisualControls::Rotavue {
+namespace {
+
+/// Does something once, when the n-th call (of that operation, where one is given) has been
+/// answered and before the control hears of it.
+class Interruption : public HostKit::CallWatcher {
+public:
+    Interruption(std::int64_t n, std::function<void()> act) : left_(n), act_(std::move(act)) {}
+
+    Interruption(HostKit::Operation operation, std::function<void()> act)
+        : left_(1), operation_(operation), act_(std::move(act)) {}
+
+    void onReturn(const HostKit::Call& call) override {
+        if (operation_ && call.operation != *operation_) return;
+        lines.push_back(toText(call));
+        if (--left_ == 0) act_();
+    }
+
+    bool happened() const { return left_ <= 0; }
+
+    Lines lines;  ///< the calls that were counted
+
+private:
+    std::int64_t left_;
+    std::optional<HostKit::Operation> operation_;
+    std::function<void()> act_;
+};
+
+class Reentrance : public FullFrame {
+protected:
+    void watch(Interruption& interruption) { host.gate.watch(&interruption, HostKit::allGroups()); }
+
+    /// A frame that is interrupted after its n-th call. It ends whole, or at an object that has
+    /// gone.
+    void drawInterrupted(std::int64_t n, const std::function<void()>& act) {
+        Interruption interruption(n, act);
+        watch(interruption);
+        try {
+            draw();
+        } catch (const Host::HostError& error) {
+            EXPECT_EQ(error.status, 0x80004003U) << n;
+        }
+        host.gate.watch(nullptr, {});
+        EXPECT_TRUE(interruption.happened()) << n;
+    }
+
+    /// The places in a frame where it is interrupted: between any two operations that follow each
+    /// other somewhere in it, and every sixty-fourth call besides.
+    std::vector<std::int64_t> places() {
+        const Lines calls = callsOf([&] { draw(); });
+        const auto operationOf = [](const std::string& line) {
+            return line.substr(0, line.find('('));
+        };
+        std::set<std::pair<std::string, std::string>> seen;
+        std::vector<std::int64_t> found;
+        for (std::size_t i = 0; i + 1 < calls.size(); ++i) {
+            const bool isNew =
+                seen.emplace(operationOf(calls[i]), operationOf(calls[i + 1])).second;
+            if (isNew || i % 64 == 0) found.push_back(static_cast<std::int64_t>(i) + 1);
+        }
+        return found;
+    }
+
+    /// Interrupts a frame at each of its places and mends the host again; then a frame is what it
+    /// was.
+    void interruptEverywhere(const std::function<void()>& act, const std::function<void()>& mend) {
+        const Lines whole = callsOf([&] { draw(); }, drawing());
+        const std::int64_t held = host.references();
+        const std::vector<std::int64_t> all = places();
+        ASSERT_GT(all.size(), 100U);
+        for (const std::int64_t n : all) {
+            drawInterrupted(n, act);
+            mend();
+            ASSERT_EQ(host.references(), held) << "after call " << n;
+        }
+        host.description.canvas = {};
+        EXPECT_EQ(callsOf([&] { draw(); }, drawing()), whole);
+    }
+
+    Host::DataPosition first;
+    Host::DataPosition second;
+};
+
+TEST_F(Reentrance, AnotherFrameMayBeDrawnBetweenAnyTwoCallsOfADraw) {
+    Api::DrawContext other = context();
+    other.width = 200;
+    other.height = 400;
+    const auto settings = [&](std::int32_t graphType, std::int32_t tickCount, bool singleAxis) {
+        key.graph.setGraphType(graphType);
+        key.graph.setTickCount(tickCount);
+        key.graph.setSingleAxis(singleAxis);
+    };
+    interruptEverywhere(
+        [&] {
+            settings(1, 40, false);
+            control.draw(other);
+            settings(0, 0, true);
+        },
+        [&] { settings(0, 5, true); });
+}
+
+TEST_F(Reentrance, AssignmentMayGoBetweenAnyTwoCallsOfADraw) {
+    const HostKit::Assignment assigned = host.description.assigned;
+    interruptEverywhere([&] { host.description.assigned = {}; },
+                        [&] { host.description.assigned = assigned; });
+}
+
+TEST_F(Reentrance, DataMayGoBetweenAnyTwoCallsOfADraw) {
+    std::map<std::string, HostKit::ChannelDescription> whole;
+    for (const char* id : {"orbit", "tacho", "0", "1", "2", "3", "4"})
+        whole[id] = channel(id);
+    const auto empty = [&] {
+        for (const auto& [id, described] : whole) {
+            channel(id) = {};
+            channel(id).array = !described.array;
+            channel(id).arraySize = 0;
+            channel(id).asynchronous = true;
+        }
+        host.description.host.acquiring = !host.description.host.acquiring;
+    };
+    interruptEverywhere(empty, [&] {
+        for (const auto& [id, described] : whole)
+            channel(id) = described;
+        host.description.host.acquiring = true;
+    });
+}
+
+TEST_F(Reentrance, EveryOtherMessageMayComeBetweenAnyTwoCallsOfADraw) {
+    host.description.assigned.slots = {{1}};
+    host.description.host.editText = {true, L"2"};
+    const auto messages = [&] {
+        control.requestData(first, second);
+        control.onChannelsChanged(0);
+        key.graph.setManualLimits(1);
+        control.onMouseMove({}, 65, 245);
+        control.onMouseUp(0, {}, 65, 245);
+        control.onMouseLeave();
+        control.buildProperties(host.panel());
+        control.fillProperties(host.panel());
+        control.acceptsChannel(host.channel("orbit"));
+    };
+    interruptEverywhere(messages, [&] {
+        control.onMouseMove({}, 0, 0);
+        key.graph.setManualLimits(0);
+        key.propertyRoot = nullptr;
+        key.dataRequestList = nullptr;
+        control.onMouseEnter();
+    });
+}
+
+TEST_F(Reentrance, AnotherHostMayBeHandedInBetweenAnyTwoCallsOfADraw) {
+    HostKit::MemoryHost other;
+    interruptEverywhere(
+        [&] {
+            control.hostApp = other.app();
+            control.hostControl = other.control();
+        },
+        [&] {
+            control.hostApp = host.app();
+            control.hostControl = host.control();
+        });
+    EXPECT_EQ(other.references(), 0);
+}
+
+TEST_F(Reentrance, PluginMayBeReleasedBetweenAnyTwoCallsOfADraw) {
+    const Api::ControlMaker maker = [] { return std::make_unique<RotavueVisualControl>(); };
+    Api::ClipboardSteps clipboard;
+    Api::LiveObjects living;
+    const Api::ListArguments attach{Api::object(host.app()), Api::object(host.control())};
+    const Api::ListArguments frame{
+        Api::object(host.canvas()), Api::number(0), Api::number(0), Api::number(300),
+        Api::number(300),           Api::number(0), Api::number(0), Api::number(0)};
+    const std::int64_t before = host.references();
+    int released = 0;
+    for (const std::int64_t n : places()) {
+        auto plugin = Api::VisualControlBridge::create({maker, clipboard, living})
+                          .offered<Api::IMeridaxPlugin>();
+        Api::IMeridaxPlugin& borrowed = *plugin;
+        borrowed.message(static_cast<std::uint32_t>(Api::MessageCode::Attach), &attach, nullptr);
+        Interruption release(n, [&] { plugin = nullptr; });
+        watch(release);
+        borrowed.message(static_cast<std::uint32_t>(Api::MessageCode::Draw), &frame, nullptr);
+        host.gate.watch(nullptr, {});
+        ASSERT_EQ(living.any(), !release.happened()) << "it ends with the message, at call " << n;
+        if (release.happened()) ++released;
+    }
+    EXPECT_GT(released, 100);
+    EXPECT_EQ(host.references(), before);
+}
+
+TEST_F(Reentrance, FrameDrawnInsideTheRedrawRequestShowsThePointer) {
+    key.graph.setManualLimits(1);
+    draw();
+    Lines lines;
+    Interruption redraw(HostKit::operation("IHostVisualControl.invalidate"),
+                        [&] { lines = callsOf([&] { draw(); }, drawing()); });
+    watch(redraw);
+    control.onMouseMove({}, 65, 245);
+    // 0x2D5DF1, the colour of what is hovered: the label of xMin, whose box begins at 60, 240. The
+    // limit of the frame before is 1.1 times the greatest value, a y of 40.
+    const auto hovered = std::ranges::find(lines, "IHostFont.SetColor(2973169)");
+    ASSERT_NE(hovered, lines.end());
+    EXPECT_EQ(*(hovered + 1), R"(IHostCanvas.TextRect(60, 240, 84, 256, "-44", 256))");
+}
+
+TEST_F(Reentrance, EditorThatIsOpenKeepsItsLabelWhateverIsDrawnMeanwhile) {
+    key.graph.setManualLimits(1);
+    key.graph.setAutoScaleType(1);
+    draw();
+    control.onMouseMove({}, 65, 245);  // xMin
+    host.description.host.editText = {true, L"-4"};
+    Interruption meanwhile(HostKit::operation("IHostVisualControl.editText"), [&] {
+        control.onMouseMove({}, 50, 65);  // yMax
+        draw();
+    });
+    watch(meanwhile);
+    control.onMouseUp(0, {}, 65, 245);
+    EXPECT_TRUE(meanwhile.happened());
+    EXPECT_EQ(key.graph.xMin(), -4.0);
+    EXPECT_EQ(key.graph.yMax(), 1.1 * 40.0);
+}
+
+TEST_F(Reentrance, RequestInsideARequestTakesTheListAsItStands) {
+    host.description.assigned = {};
+    host.description.host.lastPosition = {9, 0};
+    assignChannel("c", L"");
+    Interruption again(HostKit::operation("IHostVisualControl.requestData"),
+                       [&] { control.requestData(first, second); });
+    watch(again);
+    control.requestData(first, second);
+    EXPECT_EQ(again.lines,
+              (Lines{
+                  R"(IHostVisualControl.requestData([0, 0], [9, 0], 0, true, ["c"]))",
+                  R"(IHostVisualControl.requestData([0, 0], [9, 0], 0, true, ["c", "c"]))",
+              }));
+    EXPECT_EQ(key.dataRequestList->getCount(), 0);
+}
+
+TEST_F(Reentrance, RequestListOfAnInnerRequestIsReplacedByTheOuterOnes) {
+    Interruption inner(HostKit::operation("IHostApp.createChannelList"),
+                       [&] { control.requestData(first, second); });
+    watch(inner);
+    control.requestData(first, second);
+    EXPECT_EQ(inner.lines.size(), 2U);
+    EXPECT_EQ(host.references(), 3) << "one list besides application and control";
+}
+
+TEST_F(Reentrance, SetupThatIsShownAgainFindsTheHistoryByTime) {
+    host.description.assigned.slots = {{1}};
+    host.description.assigned.groups[0].channels.pop_back();
+    key.graph.setHistoryType(0);
+    bool missing = false;
+    std::int32_t type = 0;
+    Interruption shown(HostKit::operation("IHostVisualControl.refreshSetup"), [&] {
+        control.onChannelsChanged(0);
+        missing = key.tachoMissing;
+        type = key.graph.historyType();
+    });
+    watch(shown);
+    control.onChannelsChanged(0);
+    EXPECT_EQ(shown.lines.size(), 1U) << "the change inside changes nothing more";
+    EXPECT_TRUE(missing);
+    EXPECT_EQ(type, 1);
+}
+
+}  // namespace
+}  // namespace Meridax::VisualControls::Rotavue
