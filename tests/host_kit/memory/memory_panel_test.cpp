@@ -124,5 +124,15 @@ TEST(MemoryWidgets, AreToldApartByName) {
             "IHostNumberEdit.SetMax[TickCount](20)"}));
 }
 
+TEST(MemoryWidgets, ShowTheirColoursWithASign) {
+    MemoryHost host;
+    const auto edit = host.panel()->AddPage(L"p")->AddColorEdit(L"c", L"");
+    host.record();
+    edit->SetColor(-1);
+    EXPECT_EQ(edit->GetColor(), -1);
+    EXPECT_EQ(host.calls(), (std::vector<std::string>{"IHostColorEdit.SetColor[c](-1)",
+                                                      "IHostColorEdit.GetColor[c]() -> -1"}));
+}
+
 }  // namespace
 }  // namespace Rotavue::HostKit

@@ -112,6 +112,16 @@ TEST(Player, CountsWhatThePlugInStillHoldsAtTheEnd) {
               "{\"end\": {\"setup\": {}, \"references\": 2}}\n");
 }
 
+TEST(Player, EndsWithTheSetupSortedByCode) {
+    // B is 0x42, a is 0x61, b is 0x62, \u00e4 is 0xE4 and \U0001F600 lies beyond all of them.
+    EXPECT_EQ(
+        logOf("{\"setup\": {\"\U0001F600\": \"5\", \"b\": \"3\", \"\u00e4\": \"4\", \"B\": \"1\", "
+              "\"a\": \"2\"}, \"steps\": []}",
+              SCRIPTED_MODULE),
+        "{\"end\": {\"setup\": {\"B\": \"1\", \"a\": \"2\", \"b\": \"3\", \"\u00e4\": \"4\", "
+        "\"\U0001F600\": \"5\"}, \"references\": 0}}\n");
+}
+
 TEST(Player, ShowsOnlyTheGroupsThatAreAskedFor) {
     const std::string step = R"({"message": 42, "args": [{"object": "canvas"}, 1, 2, 3, 4]})";
     LogOptions none;
