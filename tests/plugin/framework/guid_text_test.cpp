@@ -1,5 +1,7 @@
 #include "plugin/framework/guid_text.h"
 
+#include "plugin/framework/plugin_interfaces.h"
+
 #include <gtest/gtest.h>
 
 namespace Meridax::VisualControls::Api {
@@ -20,6 +22,15 @@ TEST(GuidText, KeepsLeadingZeros) {
 TEST(GuidText, IsReadInEitherCase) {
     EXPECT_EQ(parseGuid(L"{264200AB-CDA2-4257-932E-FD19E014BD0C}"), Sample);
     EXPECT_EQ(parseGuid(L"{264200ab-cda2-4257-932e-fd19e014bd0c}"), Sample);
+}
+
+TEST(PluginIdentifiers, AreThoseThatHostsAskFor) {
+    EXPECT_EQ(guidText(PluginClass), L"{264200AB-CDA2-4257-932E-FD19E014BD0C}");
+    EXPECT_EQ(guidText(PluginLibrary), L"{32E46A55-902E-4BC0-817F-528EE53F499C}");
+    EXPECT_EQ(guidText(IMeridaxPlugin::Identifier), L"{5C45F430-EE53-49DC-935B-36314A52D438}");
+    EXPECT_EQ(guidText(IVCPluginImpl::Identifier), L"{5F9EF7C9-B508-44B9-854C-5EC8F36C238D}");
+    EXPECT_EQ(guidText(IClassFactory::Identifier), L"{00000001-0000-0000-C000-000000000046}");
+    EXPECT_EQ(guidText(Host::IHostObject::Identifier), L"{00000000-0000-0000-C000-000000000046}");
 }
 
 class NoGuid : public testing::TestWithParam<std::wstring> {};

@@ -3,6 +3,7 @@
 #include "host_kit/memory/memory_host.h"
 #include "plugin/framework/host/data/host_data.h"
 #include "plugin/framework/host/host_error.h"
+#include "plugin/setup_document/meridax_dcom_node.h"
 #include "tests/plugin/framework/doubles/counted_host.h"
 #include "tests/plugin/framework/doubles/probe_object.h"
 
@@ -224,7 +225,10 @@ TEST(VisualControl, OtherBaseOperationsTouchNothing) {
     control.onMouseLeave();
     control.onMouseMove({}, 1, 2);
     control.onMouseWheel({}, 1, 2, true);
+    control.onMouseWheel({}, 1, 2, false);
     control.onChannelsChanged(0);
+    Utils::Dcom::Utils::MeridaxDCOMNode node(host.document(), host.node());
+    control.persistSetup(node);
     EXPECT_TRUE(host.calls().empty());
     EXPECT_EQ(control.sampleCursor, 0);
 }
