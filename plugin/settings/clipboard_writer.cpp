@@ -86,7 +86,7 @@ void ClipboardWriter::addArray(Host::IHostChannel& channel, OrbitKind kind) {
 // The channel's own amplitudes: the drawing's conversion to peak values is left out.
 void ClipboardWriter::addHarmonic(Host::IHostChannel& channel) {
     text_ += ColumnNames;
-    const std::int32_t half = std::max(channel.getArraySize(), 0) / 2;
+    const std::int32_t half = channel.getArraySize() / 2;
     const std::int32_t orders = rowsFor(std::int64_t{half} * EllipseSteps) / EllipseSteps;
     for (std::int32_t k = 0; k < orders; ++k) {
         const Point atY = phasor(channel, k);

@@ -2,6 +2,7 @@
 
 #include "tests/plugin/setup_document/exhausted_memory.h"
 
+#include "plugin/settings/widget_forms.h"
 #include "tests/plugin/orbit_control/control_test.h"
 #include "tests/plugin/settings/strange_panel.h"
 
@@ -38,6 +39,37 @@ TEST_F(ExhaustedControl, FailsForEveryNameAndCaptionWhileBuilding) {
         EXPECT_EQ(statusWithMemoryFor(granted, build), OutOfMemory) << granted;
     EXPECT_EQ(statusWithMemoryFor(4, build), 0x80004003U);
     key.propertyRoot = nullptr;
+}
+
+// A page that adds one combo box, which takes no memory for its items.
+class ComboPage final : public StrangePanel, public Host::IHostComboBox {
+public:
+    ComboPage() : StrangePanel(nullptr) {}
+
+    void retain() noexcept override {}
+    void release() noexcept override {}
+    void* offer(const Host::Guid&) override { return nullptr; }
+
+    Host::Ref<Host::IHostComboBox> AddComboBox(const std::wstring&, const std::wstring&) override {
+        return Host::Ref<Host::IHostComboBox>::share(this);
+    }
+    std::int32_t GetIndex() override { return 0; }
+    void SetIndex(std::int32_t) override {}
+    void AddItem(const std::wstring&) override { ++items; }
+
+    int items = 0;
+};
+
+TEST(ExhaustedComboBox, FailsForEveryItem) {
+    ComboPage page;
+    const ComboBox form{{L"Absolute", L"Relative"}};
+    const std::wstring name = L"AutoScaleType";
+    const auto add = [&] { form.add(page, name, name); };
+    EXPECT_EQ(statusWithMemoryFor(0, add), OutOfMemory);
+    EXPECT_EQ(page.items, 0);
+    EXPECT_EQ(statusWithMemoryFor(1, add), OutOfMemory);
+    EXPECT_EQ(page.items, 1);
+    EXPECT_EQ(statusWithMemoryFor(2, add), Tests::Succeeded);
 }
 
 TEST_F(ExhaustedControl, FailsWhereverTheTextOfTheClipboardEnds) {

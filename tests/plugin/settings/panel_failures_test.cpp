@@ -153,6 +153,37 @@ TEST_F(FailingPanel, RaisesAnyOtherFailureOfThatQuestionAsItIs) {
     key.propertyRoot = nullptr;
 }
 
+// A page that the control alone holds, and that has itself dropped while it answers.
+class DroppedPage final : public StrangePanel {
+public:
+    explicit DroppedPage(RotavueVisualControlAccess& key) : StrangePanel(nullptr), key_(key) {}
+
+    void retain() noexcept override { ++references; }
+    void release() noexcept override { --references; }
+
+    Host::Ref<Host::IHostObject> FindControl(const std::wstring&) override {
+        key_.propertyRoot = nullptr;
+        referencesWhileAnswering = references;
+        return nullptr;
+    }
+
+    int references = 0;
+    int referencesWhileAnswering = 0;
+
+private:
+    RotavueVisualControlAccess& key_;
+};
+
+TEST_F(FailingPanel, HoldsItsPageWhileThatAnswers) {
+    DroppedPage page(key);
+    const auto fill = [&] {
+        control.fillProperties(Host::Ref<Host::IHostPropertyPanel>::share(&page));
+    };
+    EXPECT_EQ(statusOf(fill), 0x80004003U) << "there is no page for the next widget";
+    EXPECT_EQ(page.referencesWhileAnswering, 2) << "one as the panel, one as the page";
+    EXPECT_EQ(page.references, 0);
+}
+
 TEST_F(FailingPanel, RaisesInvalidPointerForAPropertyControlOfAnotherKind) {
     const auto bare = host.widget(L"a widget that is none of the panel's");
     StrangePanel panel(bare.get());

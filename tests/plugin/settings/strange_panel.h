@@ -8,9 +8,12 @@ namespace Meridax::VisualControls::Rotavue {
 
 /// A panel and its only page in one. Under every name it finds the same object, or none, and what
 /// is added to it is null. It takes no memory.
-class StrangePanel final : public Host::IHostPropertyPanel, public Host::IHostPropertyPage {
+class StrangePanel : public Host::IHostPropertyPanel, public Host::IHostPropertyPage {
 public:
     explicit StrangePanel(Host::IHostObject* found) : found_(found) {}
+    StrangePanel(const StrangePanel&) = delete;
+    StrangePanel& operator=(const StrangePanel&) = delete;
+    virtual ~StrangePanel() = default;
 
     void retain() noexcept override {}
     void release() noexcept override {}

@@ -1,5 +1,6 @@
 #include "plugin/setup_document/node_import.h"
 
+#include "plugin/setup_document/xml_exception.h"
 #include "tests/plugin/setup_document/unused_node.h"
 #include "tests/plugin/setup_document/xml_fixture.h"
 
@@ -175,8 +176,16 @@ TEST_F(ImportedTree, IsAskedForItsValueFirstAtTheTopAndForItsNameFirstBelow) {
 TEST_F(ImportedTree, IsAlsoMadeOfANodeOfTheOwnClassThatHasNoInnerNode) {
     const auto closed = setupNode();
     closed->close();
-    // Its name can't be read without the inner node.
-    EXPECT_THROW(setupNode()->appendChild(closed), std::exception);
+    // It is imported, and its texts can't be read without the inner node.
+    for (const auto attach :
+         {&Serialization::Node::appendChild, &Serialization::Node::appendAttribute}) {
+        try {
+            ((*setupNode()).*attach)(closed);
+            FAIL() << "no exception";
+        } catch (const Serialization::XmlException& error) {
+            EXPECT_EQ(error.code, 5);
+        }
+    }
     EXPECT_TRUE(calls().empty());
 }
 
