@@ -2,6 +2,7 @@
 #include "plugin/framework/host/drawing/host_font.h"
 #include "plugin/framework/host/drawing/host_pen.h"
 #include "plugin/orbit_graph/graph_views.h"
+#include "plugin/orbit_graph/number_format.h"
 #include "plugin/orbit_graph/orbit_graph.h"
 #include "plugin/orbit_graph/primitives.h"
 
@@ -26,8 +27,8 @@ void drawYTitle(const CanvasRef& canvas, const GraphState& state, const std::wst
 
 void OrbitGraph::drawAxisTitles(const CanvasRef& canvas, const std::wstring& unit) const {
     canvas->GetBrush()->SetStyle(BrushStyle::None);
-    drawXTitle(canvas, state_, L"X axis (" + unit + L")");
-    drawYTitle(canvas, state_, L"Y axis (" + unit + L")");
+    drawXTitle(canvas, state_, L"X axis (" + inserted(unit) + L")");
+    drawYTitle(canvas, state_, L"Y axis (" + inserted(unit) + L")");
 }
 
 void OrbitGraph::drawError(const CanvasRef& canvas, const std::wstring& message) const {

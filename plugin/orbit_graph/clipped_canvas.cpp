@@ -1,6 +1,6 @@
 #include "plugin/orbit_graph/clipped_canvas.h"
 
-#include <utility>
+#include "plugin/orbit_graph/text_call.h"
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -39,11 +39,15 @@ void ClippedCanvas::arc(const Rectangle& box, const Point& start, const Point& e
                 canvasInteger(end.x), canvasInteger(end.y));
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the copy comes before the test on purpose
-void ClippedCanvas::textRect(const Rectangle& box, std::wstring text, std::uint32_t format) const {
-    if (!admits(box)) return;
-    target_.TextRect(canvasInteger(box.left), canvasInteger(box.top), canvasInteger(box.right),
-                     canvasInteger(box.bottom), text, format);
+void ClippedCanvas::textRect(const Rectangle& box, const std::wstring& text,
+                             std::uint32_t format) const {
+    passingText([&] {
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): on purpose, see above
+        const std::wstring copy = text;
+        if (!admits(box)) return;
+        target_.TextRect(canvasInteger(box.left), canvasInteger(box.top), canvasInteger(box.right),
+                         canvasInteger(box.bottom), copy, format);
+    });
 }
 
 void ClippedCanvas::polygon(const std::vector<Point>& points) const {

@@ -40,8 +40,9 @@ public:
     /// out as left, bottom, right, top.
     void arc(const Rectangle& box, const Point& start, const Point& end) const;
 
-    /// Takes its own copy of the text, before the test.
-    void textRect(const Rectangle& box, std::wstring text, std::uint32_t format) const;
+    /// Takes its own copy of the text, before the test: where there is no memory for it, a box
+    /// outside the range raises 0x8007000E as well.
+    void textRect(const Rectangle& box, const std::wstring& text, std::uint32_t format) const;
 
     /// Leaves out the points outside the range and sends the others; without any, the host is not
     /// called.

@@ -1,14 +1,17 @@
 #include "plugin/framework/host/drawing/host_brush.h"
 #include "plugin/framework/host/drawing/host_font.h"
 #include "plugin/orbit_graph/graph_views.h"
+#include "plugin/orbit_graph/number_format.h"
 #include "plugin/orbit_graph/orbit_graph.h"
 #include "plugin/orbit_graph/primitives.h"
+
+#include <cmath>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
 
 std::wstring labelOf(const OrbitCurve& curve) {
-    return curve.info.name + L" (" + curve.info.unit + L")";
+    return inserted(curve.info.name) + L" (" + inserted(curve.info.unit) + L")";
 }
 
 std::vector<std::wstring> rowLabels(const std::vector<OrbitCurve>& curves) {
@@ -45,20 +48,20 @@ void OrbitGraph::drawLegendLines(const CanvasRef& canvas, const std::vector<Orbi
     state_.legendX = legendStart(canvas, state_);
     for (const OrbitCurve& curve : curves) {
         const std::wstring label = labelOf(curve);
-        state_.legendY = canvas->TextWidth(label) * 0.5 + centreOf(state_.graphRect).y;
+        state_.legendY = textWidth(canvas, label) * 0.5 + centreOf(state_.graphRect).y;
         drawLabel(canvas, state_, label, curve.info.color);
-        state_.legendX -= canvas->TextHeight(label);
+        state_.legendX -= textHeight(canvas, label);
     }
 }
 
 void OrbitGraph::drawLegendRow(const CanvasRef& canvas, const std::vector<OrbitCurve>& curves) {
     const std::vector<std::wstring> labels = rowLabels(curves);
-    const std::int32_t halfWidth = canvas->TextWidth(joined(labels)) / 2;
+    const double halfWidth = std::trunc(textWidth(canvas, joined(labels)) / 2);
     state_.legendX = legendStart(canvas, state_);
     state_.legendY = halfWidth + centreOf(state_.graphRect).y;
     for (std::size_t i = 0; i < curves.size(); ++i) {
         drawLabel(canvas, state_, labels[i], curves[i].info.color);
-        state_.legendY -= canvas->TextWidth(labels[i]);
+        state_.legendY -= textWidth(canvas, labels[i]);
     }
 }
 

@@ -15,4 +15,9 @@ std::wstring valueFormat(std::int32_t decimals);
 /// `format` has one conversion of a `double` with at most `MostDecimals` decimals.
 std::wstring formatValue(const std::wstring& format, double value);
 
+/// What of a name or unit stands in a formatted text: it ends at the first zero character.
+inline std::wstring inserted(const std::wstring& text) {
+    return text.c_str();
+}
+
 }  // namespace Meridax::VisualControls::Rotavue

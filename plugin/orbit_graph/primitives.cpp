@@ -3,6 +3,7 @@
 #include "plugin/framework/host/drawing/host_brush.h"
 #include "plugin/framework/host/drawing/host_font.h"
 #include "plugin/framework/host/drawing/host_pen.h"
+#include "plugin/orbit_graph/text_call.h"
 
 #include <cmath>
 
@@ -48,13 +49,21 @@ void strokeEllipses(const CanvasRef& canvas, const std::vector<Rectangle>& boxes
         clipped.ellipse(box);
 }
 
+double textWidth(const CanvasRef& canvas, const std::wstring& text) {
+    return passingText([&] { return canvas->TextWidth(text); });
+}
+
+double textHeight(const CanvasRef& canvas, const std::wstring& text) {
+    return passingText([&] { return canvas->TextHeight(text); });
+}
+
 TextSize measure(const CanvasRef& canvas, const std::wstring& text) {
-    const double width = canvas->TextWidth(text);
-    return {width, static_cast<double>(canvas->TextHeight(text))};
+    const double width = textWidth(canvas, text);
+    return {width, textHeight(canvas, text)};
 }
 
 double lineHeight(const CanvasRef& canvas) {
-    return canvas->TextHeight(L"Aj");
+    return textHeight(canvas, L"Aj");
 }
 
 double fontLength(const CanvasRef& canvas) {
@@ -76,7 +85,7 @@ void drawTextUp(const CanvasRef& canvas, const Point& point, const std::wstring&
     constexpr std::int32_t QuarterTurn = 900;
     const auto font = canvas->GetFont();
     font->SetOrientation(QuarterTurn);
-    canvas->TextOut(canvasInteger(point.x), canvasInteger(point.y), text);
+    passingText([&] { canvas->TextOut(canvasInteger(point.x), canvasInteger(point.y), text); });
     font->SetOrientation(0);
 }
 

@@ -10,8 +10,9 @@
 
 namespace Meridax::VisualControls::Rotavue {
 
-// What all painting of the graph stands on. A change to pen, brush or font stays on the canvas
-// until somebody changes it again; nothing here saves or restores.
+// What all painting of the graph stands on. Every text goes to the canvas from here: memory that is
+// short on its way raises `HostError` 0x8007000E. A change to pen, brush or font stays on the
+// canvas until somebody changes it again; nothing here saves or restores.
 
 namespace PenStyle {
 inline constexpr std::int32_t Solid = 0;
@@ -47,6 +48,8 @@ struct TextSize {
     double height = 0;
 };
 
+double textWidth(const CanvasRef& canvas, const std::wstring& text);
+double textHeight(const CanvasRef& canvas, const std::wstring& text);
 TextSize measure(const CanvasRef& canvas, const std::wstring& text);
 
 /// The height of a line of text, whatever stands in it.

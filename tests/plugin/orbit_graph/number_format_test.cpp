@@ -50,5 +50,11 @@ TEST(NumberFormat, WritesWhatIsNoNumber) {
     EXPECT_EQ(formatValue(L"%.1f", std::numeric_limits<double>::quiet_NaN()), L"nan");
 }
 
+TEST(NumberFormat, EndsAnInsertAtItsFirstZeroCharacter) {
+    EXPECT_EQ(inserted(L"um"), L"um");
+    EXPECT_EQ(inserted(std::wstring(L"um\0mil", 6)), L"um");
+    EXPECT_EQ(inserted(L""), L"");
+}
+
 }  // namespace
 }  // namespace Meridax::VisualControls::Rotavue
