@@ -25,7 +25,4 @@ inline constexpr std::int32_t Time = 3;
 /// Value of `getStorageKind`: nothing to show outside a measurement.
 inline constexpr std::int32_t StoredNowhere = 1;
 
-/// An ellipse of a Harmonic channel is traced in whole degrees, and its last 20 stay open.
-inline constexpr std::int32_t EllipseSteps = 340;
-
 }  // namespace Meridax::VisualControls::Rotavue

@@ -5,9 +5,9 @@
 #include "plugin/orbit_control/orbit_kind.h"
 #include "plugin/orbit_control/rotavue_visual_control.h"
 #include "plugin/orbit_control/setting_values.h"
+#include "plugin/orbit_graph/phasor.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -27,23 +27,12 @@ Extents extentsOfSamples(const std::vector<CurveSample>& samples) {
     return extents;
 }
 
-double magnitude(const Point& phasor) {
-    return std::sqrt(phasor.x * phasor.x + phasor.y * phasor.y);
-}
-
-double phase(const Point& phasor) {
-    return std::atan2(phasor.y, phasor.x);
-}
-
 // `atY` belongs to the sensor at the Y angle, `atX` to the one at the X angle.
-void takeInEllipse(Extents& extents, const SensorFrame& frame, const Point& atY, const Point& atX) {
-    const double r1 = magnitude(atY);
-    const double a1 = phase(atY);
-    const double r2 = magnitude(atX);
-    const double a2 = phase(atX);
+void takeInEllipse(Extents& extents, const SensorFrame& frame, const Phasor& atY,
+                   const Phasor& atX) {
     for (int degree = 0; degree < EllipseSteps; ++degree) {
-        const double u = r1 * std::sin(radians(degree) + a1);
-        const double v = r2 * std::sin(radians(degree) + a2);
+        const double u = atY.at(radians(degree));
+        const double v = atX.at(radians(degree));
         extents.takeIn(u * frame.ySin + v * frame.xSin, u * frame.yCos + v * frame.xCos);
     }
 }
@@ -51,7 +40,7 @@ void takeInEllipse(Extents& extents, const SensorFrame& frame, const Point& atY,
 Extents extentsOfPhasors(const std::vector<Point>& points, const SensorFrame& frame) {
     Extents extents;
     for (std::size_t k = 0; k + 1 < points.size(); k += 2)
-        takeInEllipse(extents, frame, points[k], points[k + 1]);
+        takeInEllipse(extents, frame, Phasor(points[k]), Phasor(points[k + 1]));
     return extents;
 }
 

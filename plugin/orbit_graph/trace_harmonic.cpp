@@ -1,23 +1,11 @@
 #include "plugin/framework/host/drawing/host_pen.h"
+#include "plugin/orbit_graph/phasor.h"
 #include "plugin/orbit_graph/traces.h"
 
 #include <cmath>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
-
-/// The last 20 degrees of each turn stay open, as the gap of an averaged orbit does.
-constexpr int StepsPerTurn = 340;
-
-struct Phasor {
-    double amplitude;
-    double phase;
-
-    explicit Phasor(const Point& complex)
-        : amplitude(std::hypot(complex.x, complex.y)), phase(std::atan2(complex.y, complex.x)) {}
-
-    double at(double angle) const { return amplitude * std::sin(angle + phase); }
-};
 
 /// The direction of a probe in data coordinates.
 Point probeDirection(double degrees) {
@@ -66,7 +54,7 @@ void drawHarmonic(TraceFrame& frame, const OrbitCurve& curve) {
     frame.canvas->GetPen()->SetColor(curve.info.color);
     for (std::size_t i = 0; i + 1 < curve.points.size(); i += 2) {
         const HarmonicEllipse ellipse(frame.state, curve.points[i], curve.points[i + 1]);
-        for (int degree = 0; degree < StepsPerTurn; ++degree)
+        for (int degree = 0; degree < EllipseSteps; ++degree)
             drawStep(frame, ellipse.at(radians(degree)), degree == 0, curve.info.color);
     }
 }

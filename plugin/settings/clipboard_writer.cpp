@@ -8,7 +8,6 @@
 #include "plugin/orbit_graph/number_format.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -34,11 +33,10 @@ void ClipboardWriter::addChannel(Host::IHostChannel& channel) {
     text_ += EndOfLine;
 }
 
-// A name or unit ends at its first zero character, as in any formatted text.
 void ClipboardWriter::addTitle(Host::IHostChannel& channel) {
-    text_ += std::wstring_view(channel.getName().c_str());
+    text_ += inserted(channel.getName());
     text_ += L" (";
-    text_ += std::wstring_view(channel.getUnit().c_str());
+    text_ += inserted(channel.getUnit());
     text_ += L")\r\n";
 }
 
@@ -89,27 +87,23 @@ void ClipboardWriter::addHarmonic(Host::IHostChannel& channel) {
     const std::int32_t half = channel.getArraySize() / 2;
     const std::int32_t orders = rowsFor(std::int64_t{half} * EllipseSteps) / EllipseSteps;
     for (std::int32_t k = 0; k < orders; ++k) {
-        const Point atY = phasor(channel, k);
-        const Point atX = phasor(channel, k + half);
+        const Phasor atY = phasor(channel, k);
+        const Phasor atX = phasor(channel, k + half);
         addEllipse(atY, atX);
     }
 }
 
-Point ClipboardWriter::phasor(Host::IHostChannel& channel, std::int32_t element) {
+Phasor ClipboardWriter::phasor(Host::IHostChannel& channel, std::int32_t element) {
     const double real = control_.getLatestArrayValue(channel, element, Component::X);
     const double imaginary = control_.getLatestArrayValue(channel, element, Component::Y);
-    return {real, imaginary};
+    return Phasor({real, imaginary});
 }
 
-void ClipboardWriter::addEllipse(const Point& atY, const Point& atX) {
+void ClipboardWriter::addEllipse(const Phasor& atY, const Phasor& atX) {
     const SensorFrame frame = control_.sensorFrame();
-    const double r1 = std::sqrt(atY.x * atY.x + atY.y * atY.y);
-    const double r2 = std::sqrt(atX.x * atX.x + atX.y * atX.y);
-    const double f1 = std::atan2(atY.y, atY.x);
-    const double f2 = std::atan2(atX.y, atX.x);
     for (int degree = 0; degree < EllipseSteps; ++degree) {
-        const double u = r1 * std::sin(radians(degree) + f1);
-        const double v = r2 * std::sin(radians(degree) + f2);
+        const double u = atY.at(radians(degree));
+        const double v = atX.at(radians(degree));
         const Point point = frame.turned(v, u);
         addRow({point.x, point.y});
     }

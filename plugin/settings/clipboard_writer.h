@@ -4,6 +4,7 @@
 #include "plugin/framework/host/data/host_collections.h"
 #include "plugin/orbit_control/rotavue_visual_control.h"
 #include "plugin/orbit_graph/orbit_curve.h"
+#include "plugin/orbit_graph/phasor.h"
 
 #include <cstdint>
 #include <deque>
@@ -31,11 +32,11 @@ private:
     void addWindow(Host::IHostChannel& channel, Host::IHostChannel* tacho);
     void addArray(Host::IHostChannel& channel, OrbitKind kind);
     void addHarmonic(Host::IHostChannel& channel);
-    void addEllipse(const Point& atY, const Point& atX);
+    void addEllipse(const Phasor& atY, const Phasor& atX);
     void addShaftCenter(Host::IHostChannel& channel);
     void addRow(std::initializer_list<double> numbers);
 
-    Point phasor(Host::IHostChannel& channel, std::int32_t element);
+    Phasor phasor(Host::IHostChannel& channel, std::int32_t element);
     std::int32_t rowsFor(std::int64_t wanted);
 
     RotavueVisualControl& control_;
