@@ -4,15 +4,10 @@
 #include "plugin/orbit_graph/number_format.h"
 #include "plugin/orbit_graph/traces.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
-
-/// More than can be read on any screen. Each label is tested against those that stand, so without
-/// this bound the time of a long history would grow with its square.
-constexpr std::size_t MostPlacedLabels = 4096;
 
 /// Distance of a label from the right edge of its dot.
 constexpr double LabelGap = 5.0;
@@ -77,22 +72,16 @@ Rectangle labelBox(const LabelMetrics& metrics, const Rectangle& dot, double val
     return {left, top, left + labelWidth(metrics, value), top + metrics.lineHeight};
 }
 
-bool hasRoom(const std::vector<Rectangle>& placed, const Rectangle& box) {
-    return placed.size() < MostPlacedLabels &&
-           std::ranges::none_of(placed,
-                                [&](const Rectangle& other) { return overlaps(box, other); });
-}
-
 void drawValues(TraceFrame& frame, const std::vector<CurveSample>& samples,
                 const LabelMetrics& metrics) {
     for (std::size_t i = samples.size(); i-- > 0;) {
         const MappedSample sample = frame.mapping.map(valueOf(samples[i]));
         if (!sample.inside) continue;
         const Rectangle box = labelBox(metrics, sample.box, samples[i].z);
-        if (!hasRoom(frame.state.placedLabels, box)) continue;
+        if (!frame.labels.hasRoom(box)) continue;
         const std::wstring text = formatValue(L"%.0f", samples[i].z);
         drawTextBox(frame.canvas, box, text, TextFormat::CentredAcross);
-        frame.state.placedLabels.push_back(box);
+        frame.labels.place(box);
     }
 }
 
@@ -103,7 +92,7 @@ void drawShaftCenter(TraceFrame& frame, const OrbitCurve& curve) {
     canvas->GetPen()->SetColor(curve.info.color);
     canvas->GetBrush()->SetColor(curve.info.color);
     canvas->GetFont()->SetColor(curve.info.color);
-    const double digitWidth = canvas->TextWidth(L"0");
+    const double digitWidth = textWidth(canvas, L"0");
     const LabelMetrics metrics{digitWidth, lineHeight(canvas)};
     if (curve.samples.empty()) return;
     drawDots(frame, curve.samples);

@@ -29,7 +29,8 @@ void OrbitGraph::drawTraces(const CanvasRef& canvas, const std::vector<OrbitCurv
     const NearestSearch search(state_.nearest, state_.pointer);
     if (state_.xMax - state_.xMin == 0 || state_.yMax - state_.yMin == 0) return;
     state_.placedLabels.clear();
-    TraceFrame frame{canvas, ClippedCanvas(canvas), mappingOf(state_), search, state_};
+    TraceFrame frame{canvas, ClippedCanvas(canvas),          mappingOf(state_),
+                     search, LabelRoom(state_.placedLabels), state_};
     for (const OrbitCurve& curve : curves)
         drawCurve(frame, curve);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plugin/orbit_graph/graph_state.h"
+#include "plugin/orbit_graph/label_room.h"
 #include "plugin/orbit_graph/nearest_search.h"
 #include "plugin/orbit_graph/plot_mapping.h"
 #include "plugin/orbit_graph/primitives.h"
@@ -13,6 +14,7 @@ struct TraceFrame {
     ClippedCanvas clipped;
     PlotMapping mapping;
     NearestSearch search;
+    LabelRoom labels;
     GraphState& state;
 };
 
