@@ -45,31 +45,30 @@ Rectangle clearanceBox(const GraphState& state) {
     return centredOn(box, centreOf(state.canvasRect));
 }
 
-std::vector<Segment> linesOf(const GraphState& state, const std::vector<Segment>& units) {
+// The lists keep their storage from frame to frame, and nothing else.
+
+void mapLines(const GraphState& state, const std::vector<Segment>& units,
+              std::vector<Segment>& lines) {
     const PlotMapping mapping = mappingOf(state);
     const ViewTransform view = viewOf(state);
-    std::vector<Segment> lines;
-    lines.reserve(units.size());
+    lines.clear();
     for (const Segment& unit : units) {
         lines.push_back(view.apply(Segment{mapping.plotPoint(unit.start.x, unit.start.y),
                                            mapping.plotPoint(unit.end.x, unit.end.y)}));
     }
-    return lines;
 }
 
 /// The width of the plot scales both directions.
-std::vector<Rectangle> boxesOf(const GraphState& state, const std::vector<Rectangle>& units) {
+void mapRings(GraphState& state) {
     const double width = widthOf(state.graphRect);
     const Point centre = centreOf(state.graphRect);
     const ViewTransform view = viewOf(state);
-    std::vector<Rectangle> boxes;
-    boxes.reserve(units.size());
-    for (const Rectangle& unit : units) {
+    state.ringBoxes.clear();
+    for (const Rectangle& unit : state.ringUnits) {
         const Rectangle scaled{unit.left * width, unit.top * width, unit.right * width,
                                unit.bottom * width};
-        boxes.push_back(view.apply(centredOn(scaled, centre)));
+        state.ringBoxes.push_back(view.apply(centredOn(scaled, centre)));
     }
-    return boxes;
 }
 
 /// Where a limit label stands: the corner of the plot in unit steps from its centre.
@@ -106,12 +105,12 @@ void OrbitGraph::layout(const CanvasRef& canvas, const Rectangle& area, std::int
     state_.canvasRect = area;
     state_.graphRect = plotSquare(state_, plotSide(canvas, state_, channelCount));
     state_.clearanceRect = clearanceBox(state_);
-    state_.gridUnits = gridUnits(state_.tickCount);
-    state_.ringUnits = ringUnits(state_.tickCount);
-    state_.gridLines = linesOf(state_, state_.gridUnits);
-    state_.edgeLines = linesOf(state_, state_.edgeUnits);
-    state_.crossLines = linesOf(state_, state_.crossUnits);
-    state_.ringBoxes = boxesOf(state_, state_.ringUnits);
+    fillGridUnits(state_.gridUnits, state_.tickCount);
+    fillRingUnits(state_.ringUnits, state_.tickCount);
+    mapLines(state_, state_.gridUnits, state_.gridLines);
+    mapLines(state_, state_.edgeUnits, state_.edgeLines);
+    mapLines(state_, state_.crossUnits, state_.crossLines);
+    mapRings(state_);
     state_.layoutValid = true;
 }
 

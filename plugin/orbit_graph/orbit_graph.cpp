@@ -8,9 +8,9 @@
 namespace Meridax::VisualControls::Rotavue {
 
 OrbitGraph::OrbitGraph() {
-    state_.gridUnits = gridUnits(state_.tickCount);
+    fillGridUnits(state_.gridUnits, state_.tickCount);
     state_.edgeUnits = edgeUnits();
-    state_.ringUnits = ringUnits(state_.tickCount);
+    fillRingUnits(state_.ringUnits, state_.tickCount);
     state_.crossUnits = crossUnits();
 }
 

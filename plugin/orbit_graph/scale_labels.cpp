@@ -30,9 +30,9 @@ void drawTickText(const CanvasRef& canvas, const Point& point, const std::wstrin
 }
 
 void drawXTick(const CanvasRef& canvas, const GraphState& state, const Tick& tick, Color color) {
-    const double textWidth = canvas->TextWidth(tick.text);
+    const double width = textWidth(canvas, tick.text);
     const Point plotPoint = mappingOf(state).plotPoint(tick.unit, -1);
-    const Point start = placedAlongX(state, tick.value, plotPoint, textWidth);
+    const Point start = placedAlongX(state, tick.value, plotPoint, width);
     if (!tick.atLimit) drawTickText(canvas, start, tick.text, color, false);
 }
 
@@ -67,11 +67,11 @@ void OrbitGraph::drawScaleLabels(const CanvasRef& canvas) const {
     const bool stripsReact = !anyLimitLabelHovered();
     const Color xColor = state_.xStripHovered && stripsReact ? state_.hoverColor : state_.textColor;
     const Color yColor = state_.yStripHovered && stripsReact ? state_.hoverColor : state_.textColor;
-    const std::vector<Tick> xTicks = axisTicks(state_.xMin, state_.xMax, positions, format);
-    const std::vector<Tick> yTicks = axisTicks(state_.yMin, state_.yMax, positions, format);
-    for (std::size_t i = 0; i < xTicks.size(); ++i) {
-        drawXTick(canvas, state_, xTicks[i], xColor);
-        drawYTick(canvas, state_, yTicks[i], yColor);
+    AxisTicks xTicks(state_.xMin, state_.xMax, positions, format);
+    AxisTicks yTicks(state_.yMin, state_.yMax, positions, format);
+    for (std::int64_t i = 0; i < positions; ++i) {
+        drawXTick(canvas, state_, xTicks.next(), xColor);
+        drawYTick(canvas, state_, yTicks.next(), yColor);
     }
     for (const AxisLimitLabel& label : state_.limitLabels)
         drawLimitLabel(canvas, state_, label, format);

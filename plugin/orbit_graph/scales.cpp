@@ -4,6 +4,7 @@
 #include "plugin/orbit_graph/number_format.h"
 
 #include <cmath>
+#include <utility>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -37,52 +38,46 @@ std::int64_t tickPositions(std::int32_t graphType, std::int32_t tickCount) {
     return graphType == GraphType::Grid ? ticks + 2 : 2 * ticks + 3;
 }
 
-std::vector<Segment> gridUnits(std::int32_t tickCount) {
+void fillGridUnits(std::vector<Segment>& units, std::int32_t tickCount) {
     const double step = 2.0 / intervals(tickCount);
-    std::vector<Segment> units;
+    units.clear();
     double t = 1.0;
     do {
         units.push_back({{t, -1}, {t, 1}});
         units.push_back({{-1, t}, {1, t}});
         t -= step;
     } while (t > -1.0 && step > 0);
-    return units;
 }
 
 std::vector<Segment> edgeUnits() {
     return {{{-1, -1}, {-1, 1}}, {{-1, 1}, {1, 1}}};
 }
 
-std::vector<Rectangle> ringUnits(std::int32_t tickCount) {
+void fillRingUnits(std::vector<Rectangle>& units, std::int32_t tickCount) {
     const double step = 1.0 / intervals(tickCount);
-    std::vector<Rectangle> units;
-    double t = 1 - step;
-    while (t > 0 && step > 0) {
+    units.clear();
+    for (double t = 1 - step; t > 0 && step > 0; t -= step)
         units.push_back({0, 0, t, t});
-        t -= step;
-    }
-    return units;
 }
 
 std::vector<Segment> crossUnits() {
     return {{{-1, 0}, {1, 0}}, {{0, -1}, {0, 1}}};
 }
 
-std::vector<Tick> axisTicks(double lower, double upper, std::int64_t positions,
-                            const std::wstring& format) {
-    const auto gaps = static_cast<double>(positions - 1);
-    const double valueStep = (upper - lower) / gaps;
-    const double unitStep = 2.0 / gaps;
-    std::vector<Tick> ticks;
-    double value = upper;
-    double unit = 1.0;
-    for (std::int64_t i = 0; i < positions; ++i) {
-        const bool atLimit = isNear(value, lower) || isNear(value, upper);
-        ticks.push_back({value, unit, atLimit, formatValue(format, value)});
-        value -= valueStep;
-        unit -= unitStep;
-    }
-    return ticks;
+AxisTicks::AxisTicks(double lower, double upper, std::int64_t positions, std::wstring format)
+    : lower_(lower),
+      upper_(upper),
+      valueStep_((upper - lower) / static_cast<double>(positions - 1)),
+      unitStep_(2.0 / static_cast<double>(positions - 1)),
+      format_(std::move(format)),
+      value_(upper) {}
+
+Tick AxisTicks::next() {
+    const bool atLimit = isNear(value_, lower_) || isNear(value_, upper_);
+    Tick tick{value_, unit_, atLimit, formatValue(format_, value_)};
+    value_ -= valueStep_;
+    unit_ -= unitStep_;
+    return tick;
 }
 
 Range fittedLimits(const Range& extents, std::int32_t graphType, std::int32_t autoScaleType) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -11,6 +12,27 @@ namespace {
 
 constexpr std::int32_t Smallest = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t Largest = std::numeric_limits<std::int32_t>::max();
+
+std::vector<Segment> gridUnits(std::int32_t tickCount) {
+    std::vector<Segment> units;
+    fillGridUnits(units, tickCount);
+    return units;
+}
+
+std::vector<Rectangle> ringUnits(std::int32_t tickCount) {
+    std::vector<Rectangle> units;
+    fillRingUnits(units, tickCount);
+    return units;
+}
+
+std::vector<Tick> axisTicks(double lower, double upper, std::int64_t positions,
+                            const std::wstring& format) {
+    AxisTicks axis(lower, upper, positions, format);
+    std::vector<Tick> ticks;
+    for (std::int64_t i = 0; i < positions; ++i)
+        ticks.push_back(axis.next());
+    return ticks;
+}
 
 TEST(TickPositions, CountBothEndsAndInACircleTheCentre) {
     EXPECT_EQ(tickPositions(GraphType::Grid, 5), 7);
@@ -105,9 +127,7 @@ TEST(AxisTicks, AllCountAsLimitsInARangeOfSmallNumbers) {
     EXPECT_FALSE(axisTicks(0, 4e-7, 3, L"%.0f")[1].atLimit);
 }
 
-TEST(AxisTicks, AreNoneWithoutPositions) {
-    EXPECT_TRUE(axisTicks(-1, 1, 0, L"%.0f").empty());
-    EXPECT_TRUE(axisTicks(-1, 1, -2147483646, L"%.0f").empty());
+TEST(AxisTicks, OfOnePositionStandAtTheUpperLimit) {
     const std::vector<Tick> single = axisTicks(-1, 1, 1, L"%.0f");
     ASSERT_EQ(single.size(), 1U);
     EXPECT_TRUE(single[0].atLimit);
@@ -146,6 +166,54 @@ TEST(FittedLimits, OfOneFlatAxisAreUsableOnlyWhenAbsolute) {
     EXPECT_EQ(fittedLimits(flat, GraphType::Grid, AutoScaleType::Relative),
               (Range{-0.5, 10.5, 5, 5}));
     EXPECT_EQ(fittedLimits(flat, GraphType::Grid, AutoScaleType::Absolute), symmetricRange(11));
+}
+
+TEST(FittedLimits, AreSymmetricForAnyOtherScalingOrGraphType) {
+    // 40 * 1.1
+    const Range data{0, 10, 20, 40};
+    EXPECT_EQ(fittedLimits(data, GraphType::Grid, 2), symmetricRange(44));
+    EXPECT_EQ(fittedLimits(data, GraphType::Grid, -1), symmetricRange(44));
+    EXPECT_EQ(fittedLimits(data, 2, AutoScaleType::Relative), symmetricRange(44));
+}
+
+TEST(AxisTicks, CountAsLimitsOnlyWithinLessThanTheEpsilon) {
+    // The middle of three ticks from 0 is half the range away from both limits.
+    constexpr double Epsilon = 1.1920928955078125e-07;
+    const auto middleIsAtLimit = [](double distance) {
+        return axisTicks(0, 2 * distance, 3, L"%.0f")[1].atLimit;
+    };
+    EXPECT_FALSE(middleIsAtLimit(Epsilon));
+    EXPECT_TRUE(middleIsAtLimit(std::nextafter(Epsilon, 0)));
+}
+
+TEST(AxisTicks, KeepTheErrorsOfRepeatedSubtraction) {
+    // A tenth has no exact double: from the fourth value on, each is a little too large.
+    const double values[] = {1.0,
+                             0.9,
+                             0.8,
+                             0.7000000000000001,
+                             0.6000000000000001,
+                             0.5000000000000001,
+                             0.40000000000000013,
+                             0.30000000000000016,
+                             0.20000000000000015,
+                             0.10000000000000014,
+                             1.3877787807814457e-16};
+    const std::vector<Tick> ticks = axisTicks(0, 1, 11, L"%.0f");
+    for (std::size_t i = 0; i < 11; ++i)
+        EXPECT_EQ(ticks[i].value, values[i]) << i;
+    EXPECT_TRUE(ticks[10].atLimit);
+}
+
+TEST(AxisTicks, OfACircleFallOnItsRingsAndItsCentre) {
+    const std::vector<Tick> ticks = axisTicks(-1, 1, tickPositions(GraphType::Circle, 3), L"%.0f");
+    const std::vector<Rectangle> rings = ringUnits(3);
+    ASSERT_EQ(ticks.size(), 9U);
+    for (std::size_t i = 0; i < rings.size(); ++i) {
+        EXPECT_EQ(ticks[i + 1].unit, rings[i].right);
+        EXPECT_EQ(ticks[7 - i].unit, -rings[i].right);
+    }
+    EXPECT_EQ(ticks[4].unit, 0);
 }
 
 }  // namespace
