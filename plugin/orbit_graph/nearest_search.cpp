@@ -13,7 +13,6 @@ NearestSearch::NearestSearch(NearestSample& nearest, const Point& pointer)
 
 void NearestSearch::beginCurve(const OrbitCurve& curve) {
     curve_ = &curve;
-    hasInfo_ = false;
 }
 
 /// Squares that differ can have the same root; the earlier sample then stays.
@@ -24,18 +23,11 @@ bool NearestSearch::takeIfNearer(const Point& value, const Point& position, doub
     nearest_.position = position;
     nearest_.x = value.x;
     nearest_.y = value.y;
-    nearest_.distance = distance;
-    nearest_.found = true;
-    takeInfo();
-    return true;
-}
-
-/// Once per curve: its texts are the same for all of its samples.
-void NearestSearch::takeInfo() {
-    if (hasInfo_) return;
     nearest_.info = curve_->info;
     nearest_.kind = curve_->kind;
-    hasInfo_ = true;
+    nearest_.distance = distance;
+    nearest_.found = true;
+    return true;
 }
 
 }  // namespace Meridax::VisualControls::Rotavue

@@ -25,13 +25,11 @@ public:
 
 private:
     bool takeIfNearer(const Point& value, const Point& position, double squared);
-    void takeInfo();
 
     NearestSample& nearest_;
     Point pointer_;
     double squaredDistance_ = std::numeric_limits<double>::infinity();
     const OrbitCurve* curve_ = nullptr;
-    bool hasInfo_ = false;
 };
 
 }  // namespace Meridax::VisualControls::Rotavue

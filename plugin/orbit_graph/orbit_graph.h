@@ -13,8 +13,9 @@ namespace Meridax::VisualControls::Rotavue {
 
 /// The drawing engine: it lays the plot out, holds the limits of its axes and paints frame, curves,
 /// readout and legend. It knows no channel and no host object but the canvas that each drawing
-/// operation is handed. A null canvas, pen, brush or font raises `HostError` 0x80004003, and a call
-/// that fails raises its own; a frame that ends so stays half drawn.
+/// operation is handed. Where an operation needs the canvas, its pen, brush or font and gets a
+/// null, it raises `HostError` 0x80004003; a call that fails raises its own, and memory that is
+/// short for a text on its way to the host 0x8007000E. A frame that ends so stays half drawn.
 ///
 /// A frame: `setRotation`, `layout`, `setThemeColors`, the limits (`autoScale`, unless the user set
 /// them), `layoutLimitLabels`, `drawFrame`, `layoutAxisStrips`, `drawScaleLabels`,

@@ -24,24 +24,25 @@ std::wstring thirdItem(const NearestSample& nearest, std::int32_t displayType) {
 }
 
 /// Both axes have the unit of the sample's curve.
-std::wstring readoutText(const GraphState& state, const std::wstring& format) {
-    const NearestSample& nearest = state.nearest;
-    const std::wstring& unit = nearest.info.unit;
+std::wstring readoutText(const NearestSample& nearest, const std::wstring& format) {
+    const std::wstring unit = inserted(nearest.info.unit);
     return L"X= " + formatValue(format, nearest.x) + L" " + unit + L"; Y= " +
-           formatValue(format, nearest.y) + L" " + unit + L"; " +
-           thirdItem(nearest, state.displayType);
+           formatValue(format, nearest.y) + L" " + unit + L"; ";
 }
 
 }  // namespace
 
 void OrbitGraph::drawReadout(const CanvasRef& canvas) const {
-    const NearestSample& nearest = state_.nearest;
+    // A copy: a host may come back with another frame from inside a call, and crosshair and text
+    // are those of one sample.
+    const NearestSample nearest = state_.nearest;
     if (!holds(state_.canvasRect, nearest.position)) return;
     canvas->GetPen()->SetColor(state_.textColor);
     drawCrosshair(canvas, nearest.position, fontLength(canvas));
     canvas->GetBrush()->SetStyle(BrushStyle::None);
     canvas->GetFont()->SetColor(nearest.info.color);
-    drawCornerText(canvas, readoutText(state_, valueFormat()));
+    drawCornerText(canvas,
+                   readoutText(nearest, valueFormat()) + thirdItem(nearest, state_.displayType));
 }
 
 }  // namespace Meridax::VisualControls::Rotavue
