@@ -34,7 +34,13 @@ TEST_F(Captions, ErrorStandsInTheCornerWhateverThePlot) {
     graph.drawError(canvas.ref(), L"Oops");
     EXPECT_EQ(canvas.taken(),
               (Lines{"IHostPen.SetColor(3)", "IHostBrush.SetStyle(1)", "IHostFont.SetColor(3)",
-                     "IHostCanvas.TextRect(8, 8, 40, 24, \"Oops\", 256)"}));
+                     "IHostCanvas.TextRect(11, 11, 43, 27, \"Oops\", 256)"}));
+}
+
+TEST_F(Captions, TitlesEndAUnitAtItsFirstZeroCharacter) {
+    graph.drawAxisTitles(canvas.ref(), std::wstring(L"um\0mil", 6));
+    EXPECT_EQ(canvas.taken("IHostCanvas.TextOut"),
+              (Lines{"IHostCanvas.TextOut(28, 194, \"Y axis (um)\")"}));
 }
 
 }  // namespace

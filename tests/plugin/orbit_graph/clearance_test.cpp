@@ -25,6 +25,8 @@ TEST_F(Clearance, IsAMoveAndALineForEachFurtherDegree) {
     // A quarter turn on: 90 * 0.25 = 22.5 above the centre, at 127.5.
     EXPECT_EQ(lines[91], "IHostCanvas.LineTo(150, 127)");
     EXPECT_EQ(callsOf("IHostCanvas.LineTo", lines).size(), 359U);
+    // It ends at 359 degrees, 150 + 44.99 and 150 + 0.39, and is not closed.
+    EXPECT_EQ(lines[360], "IHostCanvas.LineTo(194, 150)");
 }
 
 TEST_F(Clearance, OfNoSizeIsAPointAtTheOriginOfTheData) {
@@ -53,6 +55,8 @@ TEST_F(Clearance, IsNotDrawnUnlessAskedForAndWithoutARange) {
     EXPECT_TRUE(ellipse(0.5, 0.5).empty());
     setLimits({-1, 1, 2, 2});
     EXPECT_TRUE(ellipse(0.5, 0.5).empty());
+    setLimits({2, 2, -1, 1});
+    EXPECT_TRUE(ellipse(0.5, 0.5).empty());
 }
 
 TEST_F(Clearance, KnowsNoView) {
@@ -60,6 +64,12 @@ TEST_F(Clearance, KnowsNoView) {
     graph.panBy(10, 10);
     graph.setZoom(2);
     EXPECT_EQ(ellipse(0.5, 0.25), before);
+}
+
+TEST_F(Clearance, HasTheColourOfItsSetting) {
+    graph.setClearanceColor(77);
+    EXPECT_EQ(graph.clearanceColor(), 77U);
+    EXPECT_EQ(ellipse(0.5, 0.5)[0], "IHostPen.SetColor(77)");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -35,8 +36,8 @@ std::vector<OrbitCurve> oddCurves() {
     return curves;
 }
 
-/// A whole frame; the number of calls that it makes.
-std::size_t frame(LaidOutGraph& plot, const std::vector<OrbitCurve>& curves) {
+/// The calls of a whole frame.
+Lines frame(LaidOutGraph& plot, const std::vector<OrbitCurve>& curves) {
     const CanvasRef canvas = plot.canvas.ref();
     plot.graph.layoutLimitLabels(canvas);
     plot.graph.drawFrame(canvas);
@@ -49,7 +50,21 @@ std::size_t frame(LaidOutGraph& plot, const std::vector<OrbitCurve>& curves) {
     plot.graph.drawSensorBadges(canvas);
     plot.graph.drawLegendLines(canvas, curves);
     plot.graph.drawLegendRow(canvas, curves);
-    return plot.canvas.taken().size();
+    return plot.canvas.taken();
+}
+
+/// Every part of a frame is there to its end: the arrow with its two pen widths, three badges in
+/// the colour of the background, and the legend, in which each curve has a line and a place in the
+/// row.
+void expectWhole(const Lines& lines, std::size_t curves) {
+    EXPECT_EQ(callsOf("IHostPen.SetWidth", lines).size(), 2U);
+    EXPECT_EQ(callsOf("IHostFont.SetColor(1)", lines).size(), 3U);
+    const Lines texts = callsOf("IHostCanvas.TextOut", lines);
+    const auto isLegend = [](const std::string& line) {
+        return line.find("A (um)") != std::string::npos;
+    };
+    EXPECT_EQ(std::ranges::count_if(texts, isLegend), static_cast<std::ptrdiff_t>(2 * curves));
+    EXPECT_EQ(lines.back(), "IHostFont.SetOrientation(0)");
 }
 
 TEST(HostileNumbers, InThousandsOfSamplesLeaveAFrameWhole) {
@@ -57,7 +72,7 @@ TEST(HostileNumbers, InThousandsOfSamplesLeaveAFrameWhole) {
     ASSERT_GT(curves[0].points.size(), 1000U);
     LaidOutGraph plot;
     plot.graph.setPointer({150, 150});
-    EXPECT_GT(frame(plot, curves), 1000U);
+    expectWhole(frame(plot, curves), curves.size());
     // Zeros and the smallest numbers lie inside, at the centre.
     EXPECT_TRUE(plot.graph.nearest().found);
     EXPECT_EQ(plot.graph.nearest().position, (Point{150, 150}));
@@ -74,9 +89,8 @@ TEST(HostileNumbers, InTheLimitsLeaveAFrameWhole) {
             plot.graph.setClearanceRadiusY(lower);
             plot.setLimits({lower, upper, upper, lower});
             plot.layOut();
-            // The badges alone are 21 calls.
-            EXPECT_GT(frame(plot, curves), 21U) << lower << " " << upper;
-            EXPECT_TRUE(plot.graph.xMin() == lower || std::isnan(lower));
+            SCOPED_TRACE(std::to_string(lower) + " " + std::to_string(upper));
+            expectWhole(frame(plot, curves), curves.size());
         }
     }
 }
@@ -93,7 +107,7 @@ TEST(HostileNumbers, InTheSettingsBoundTheWorkOfAFrame) {
             plot.graph.setRotationDirection(number);
             plot.graph.setDisplayType(number);
             plot.layOut();
-            EXPECT_LE(frame(plot, {}), Most) << number << " " << type;
+            EXPECT_LE(frame(plot, {}).size(), Most) << number << " " << type;
             EXPECT_EQ(plot.graph.tickCount(), number);
         }
     }
@@ -118,15 +132,28 @@ TEST(HostileNumbers, InTheFontLeaveAFrameWhole) {
         plot.canvas.host.description.canvas = {height, height, height};
         plot.graph.setSingleAxis(false);
         plot.layOut();
-        EXPECT_GT(frame(plot, oddCurves()), 1000U) << height;
+        SCOPED_TRACE(height);
+        expectWhole(frame(plot, oddCurves()), oddCurves().size());
     }
 }
 
 TEST(HostileNumbers, InTheAreaLeaveAFrameWhole) {
     for (const double edge : {0.0, -100.0, 2147483647.0, -2147483648.0}) {
         LaidOutGraph plot(edge, 300);
-        EXPECT_GT(frame(plot, {rawCurve({{0, 0}, {1, 1}})}), 20U) << edge;
+        SCOPED_TRACE(edge);
+        expectWhole(frame(plot, {rawCurve({{0, 0}, {1, 1}})}), 1);
     }
+}
+
+TEST(HostileNumbers, InTicksAndDecimalsTogetherAreWrittenOneAtATime) {
+    LaidOutGraph plot;
+    plot.graph.setTickCount(Largest);
+    plot.graph.setGraphType(GraphType::Circle);
+    plot.graph.setDecimals(Largest);
+    plot.layOut();
+    plot.graph.drawScaleLabels(plot.canvas.ref());
+    // 2 * 1000 + 3 positions on each axis, two of them at the limits; these have no box yet.
+    EXPECT_EQ(plot.canvas.taken("IHostFont.SetHeight(21)").size(), 2U * 2001U);
 }
 
 }  // namespace

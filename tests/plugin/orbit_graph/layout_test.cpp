@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -13,12 +14,12 @@ Rectangle graphRectOf(double width, double height) {
     return Layout(width, height).graph.state().graphRect;
 }
 
-/// The width of the plot, 300 pixels high, with legend lines for so many channels.
-double widthWithLegend(std::int32_t channelCount, double width = 300) {
+/// The width of the plot with legend lines for so many channels.
+double widthWithLegend(std::int32_t channelCount, double width = 300, double height = 300) {
     Layout plot;
     plot.graph.setSingleAxis(false);
     plot.graph.invalidateLayout();
-    plot.graph.layout(plot.canvas.ref(), {0, 0, width, 300}, channelCount);
+    plot.graph.layout(plot.canvas.ref(), {0, 0, width, height}, channelCount);
     return widthOf(plot.graph.state().graphRect);
 }
 
@@ -43,6 +44,36 @@ TEST(Layout, LegendLinesTakeTheirRoomFromThePlot) {
 TEST(Layout, GapBesideThePlotIsRounded) {
     // (301 - 220) / 2 = 40.5, so 41. Two channels need 48: 220 - 7 * 2 = 206, less 40.
     EXPECT_EQ(widthWithLegend(2, 301), 166);
+}
+
+TEST(Layout, GapOfTheLegendIsBesideThePlotWhateverTheHeight) {
+    // Five channels need 96. 400 by 300: (400 - 220) / 2 = 90, so 220 - 6 * 2 = 208, less 40.
+    EXPECT_EQ(widthWithLegend(5, 400, 300), 168);
+    // 300 by 400: the gap is 40 as in a square.
+    EXPECT_EQ(widthWithLegend(5, 300, 400), 68);
+    // 300 by 301: (300 - 220) / 2 = 40; two channels need 48: 220 - 8 * 2 = 204, less 40.
+    EXPECT_EQ(widthWithLegend(2, 300, 301), 164);
+}
+
+TEST(Layout, MeasuresALineOfTheLegendInTheFontAsItIs) {
+    Layout plot;
+    plot.canvas.recordMeasures();
+    plot.graph.setSingleAxis(false);
+    plot.layOut();
+    EXPECT_EQ(plot.canvas.taken(), (Lines{"IHostCanvas.TextHeight(\"Aj\") -> 16"}));
+}
+
+TEST(Layout, KeepsTheStorageOfItsLists) {
+    Layout plot;
+    const GraphState& state = plot.graph.state();
+    const auto storage = [&] {
+        return std::array<const void*, 6>{state.gridUnits.data(), state.ringUnits.data(),
+                                          state.gridLines.data(), state.edgeLines.data(),
+                                          state.ringBoxes.data(), state.crossLines.data()};
+    };
+    const auto before = storage();
+    plot.layOut(400, 500);
+    EXPECT_EQ(storage(), before);
 }
 
 TEST(Layout, LegendRowTakesNoRoom) {
@@ -184,6 +215,13 @@ TEST(AxisStrips, LieUnderAndLeftOfThePlotWhateverTheView) {
     plot.graph.layoutAxisStrips(plot.canvas.ref());
     EXPECT_EQ(plot.graph.state().xStrip, (Rectangle{60, 240, 240, 256}));
     EXPECT_EQ(plot.graph.state().yStrip, (Rectangle{44, 60, 60, 240}));
+}
+
+TEST(AxisStrips, AreAsHighAsALineOfText) {
+    Layout plot;
+    plot.canvas.recordMeasures();
+    plot.graph.layoutAxisStrips(plot.canvas.ref());
+    EXPECT_EQ(plot.canvas.taken(), (Lines{"IHostCanvas.TextHeight(\"Aj\") -> 16"}));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace Meridax::VisualControls::Rotavue {
 namespace {
 
@@ -56,15 +58,32 @@ TEST_F(Legend, RowMeasuresItsTextAsAWhole) {
 }
 
 TEST_F(Legend, RowHalvesAnOddWidthWithTruncation) {
+    // A plot of 181 pixels from 60 on, about 150.5.
+    layOut(301, 301);
     canvas.host.description.canvas.charWidth = 1;
-    // 150 + 7 / 2 = 153, and then 7 up.
+    // 150.5 + 7 / 2 = 153.5, and then 7 up.
     EXPECT_EQ(callsOf("IHostCanvas.TextOut", row({b})),
               (Lines{"IHostCanvas.TextOut(12, 153, \"Bb (um)\")"}));
-    EXPECT_EQ(graph.state().legendY, 146);
-    // A line takes the exact half: 150 + 3.5.
+    EXPECT_EQ(graph.state().legendY, 146.5);
+    // A line takes the exact half: 150.5 + 3.5.
     EXPECT_EQ(callsOf("IHostCanvas.TextOut", lines({b})),
-              (Lines{"IHostCanvas.TextOut(12, 153, \"Bb (um)\")"}));
-    EXPECT_EQ(graph.state().legendY, 153.5);
+              (Lines{"IHostCanvas.TextOut(12, 154, \"Bb (um)\")"}));
+    EXPECT_EQ(graph.state().legendY, 154);
+}
+
+TEST_F(Legend, BeginsThreeLinesOfTextFromThePlot) {
+    canvas.recordMeasures();
+    const auto isLine = [](const std::string& line) { return line.find("Aj") != line.npos; };
+    EXPECT_EQ(std::ranges::count_if(lines({a, b}), isLine), 1);
+    EXPECT_EQ(std::ranges::count_if(row({a, b}), isLine), 1);
+    EXPECT_EQ(graph.state().legendX, 12);
+}
+
+TEST_F(Legend, EndsNamesAndUnitsAtTheirFirstZeroCharacter) {
+    const OrbitCurve curve =
+        curveOf(OrbitKind::Raw, 7, std::wstring(L"A\0B", 3), std::wstring(L"um\0mil", 6));
+    EXPECT_EQ(callsOf("IHostCanvas.TextOut", lines({curve})),
+              (Lines{"IHostCanvas.TextOut(12, 174, \"A (um)\")"}));
 }
 
 TEST_F(Legend, CurveWithoutNameOrUnitHasEmptyInserts) {

@@ -119,5 +119,28 @@ TEST_F(Limits, PlainEditIgnoresTheSymmetricModes) {
     EXPECT_EQ(limits(), (Range{-1, 1, -1, 5}));
 }
 
+TEST_F(Limits, AreSymmetricForAnyScalingButTheRelative) {
+    graph.setAutoScaleType(2);
+    graph.autoScale({0, 10, 20, 40});
+    EXPECT_EQ(limits(), symmetricRange(44));
+    // An edit, however, is independent for every scaling but the absolute one.
+    graph.setLimit(7, 3);
+    EXPECT_EQ(limits(), (Range{-44, 44, -44, 7}));
+}
+
+TEST_F(Limits, OfAnotherGraphTypeScaleAsACircleAndAreEditedAsAGrid) {
+    graph.setAutoScaleType(AutoScaleType::Relative);
+    graph.setGraphType(2);
+    EXPECT_EQ(limits(), (Range{-1, 1, -1, 1}));
+    graph.autoScale({0, 10, 20, 40});
+    EXPECT_EQ(limits(), symmetricRange(44));
+    graph.setLimit(7, 3);
+    EXPECT_EQ(limits(), (Range{-44, 44, -44, 7}));
+    graph.layoutAxisStrips(canvas.ref());
+    graph.hitTestAxisStrips({150, 250});
+    graph.setLimits({2, 3, 4, 5});
+    EXPECT_EQ(limits(), (Range{2, 3, -44, 7}));
+}
+
 }  // namespace
 }  // namespace Meridax::VisualControls::Rotavue

@@ -7,12 +7,6 @@
 #include <cmath>
 
 namespace Meridax::VisualControls::Rotavue {
-
-/// Opens the gate of the view, as nothing in the plug-in does.
-struct OrbitGraphAccess {
-    static void enableViewAdjust(OrbitGraph& graph) { graph.state_.viewAdjustEnabled = true; }
-};
-
 namespace {
 
 TEST(OrbitGraph, StartsWithTheDocumentedView) {
@@ -26,9 +20,38 @@ TEST(OrbitGraph, StartsWithTheDocumentedView) {
     EXPECT_EQ(state.canvasRect, EmptyRectangle);
     EXPECT_EQ(state.graphRect, EmptyRectangle);
     EXPECT_EQ(state.margin, 40.0);
+    EXPECT_EQ(state.clearanceRect, EmptyRectangle);
+    EXPECT_EQ(state.legendX, 0);
+    EXPECT_EQ(state.legendY, 0);
     EXPECT_TRUE(state.layoutValid);
     EXPECT_EQ(state.pointer, (Point{0, 0}));
     EXPECT_FALSE(state.pointerInside);
+}
+
+TEST(OrbitGraph, StartsWithoutAMachineAndInBlack) {
+    const GraphState state = OrbitGraph().state();
+    for (const double zero : {state.xAngle, state.yAngle, state.tachoAngle, state.clearanceRadiusX,
+                              state.clearanceRadiusY}) {
+        EXPECT_EQ(zero, 0);
+    }
+    for (const Color color : {state.backgroundColor, state.gridColor, state.textColor,
+                              state.axisColor, state.borderColor}) {
+        EXPECT_EQ(color, Black);
+    }
+}
+
+TEST(OrbitGraph, StartsWithNothingUnderThePointer) {
+    const GraphState state = OrbitGraph().state();
+    EXPECT_EQ(state.xStrip, EmptyRectangle);
+    EXPECT_EQ(state.yStrip, EmptyRectangle);
+    EXPECT_FALSE(state.xStripHovered);
+    EXPECT_FALSE(state.yStripHovered);
+    EXPECT_TRUE(state.placedLabels.empty());
+    for (const AxisLimitLabel& label : state.limitLabels) {
+        EXPECT_EQ(label.value, 0);
+        EXPECT_EQ(label.box, EmptyRectangle);
+        EXPECT_FALSE(label.hovered);
+    }
 }
 
 TEST(OrbitGraph, StartsWithTheDocumentedSettings) {
@@ -59,15 +82,20 @@ TEST(OrbitGraph, StartsWithTheListsOfFiveTicks) {
     EXPECT_EQ(graph.state().ringUnits.size(), 6U);
     EXPECT_EQ(graph.state().crossUnits.size(), 2U);
     EXPECT_TRUE(graph.state().gridLines.empty());
+    EXPECT_TRUE(graph.state().edgeLines.empty());
+    EXPECT_TRUE(graph.state().ringBoxes.empty());
+    EXPECT_TRUE(graph.state().crossLines.empty());
 }
 
 TEST(OrbitGraph, StartsWithoutAMatchOfThePointer) {
     const NearestSample nearest = OrbitGraph().nearest();
     EXPECT_FALSE(nearest.found);
     EXPECT_EQ(nearest.distance, 0);
+    EXPECT_EQ(nearest.x, 0);
+    EXPECT_EQ(nearest.y, 0);
+    EXPECT_EQ(nearest.extra, 0);
+    EXPECT_EQ(nearest.position, (Point{0, 0}));
     EXPECT_EQ(nearest.info, ChannelInfo{});
-    EXPECT_EQ(nearest.info.color, White);
-    EXPECT_EQ(nearest.info.axisStep, 100.0);
     EXPECT_EQ(nearest.kind, OrbitKind::Raw);
 }
 
@@ -145,20 +173,26 @@ TEST(OrbitGraph, KeepsARotationThatIsNeverDrawn) {
     EXPECT_EQ(frameOf(plot), before);
 }
 
-TEST(OrbitGraph, ZoomsTheFrameButNotTheTraces) {
+TEST(OrbitGraph, LeavesTheTracesOutOfTheView) {
     LaidOutGraph plot;
-    const Lines frame = frameOf(plot);
-    const Lines traces = plot.traces({rawCurve({{0.5, 0.5}, {-0.5, 0}})});
     plot.graph.setZoom(2);
     plot.graph.panBy(5, 5);
-    EXPECT_NE(frameOf(plot), frame);
-    EXPECT_EQ(plot.traces({rawCurve({{0.5, 0.5}, {-0.5, 0}})}), traces);
+    plot.layOut();
+    EXPECT_EQ(plot.traces({rawCurve({{0.5, 0.5}, {-0.5, 0}})}),
+              (Lines{"IHostPen.SetColor(7)", "IHostCanvas.MoveTo(195, 105)",
+                     "IHostCanvas.LineTo(105, 150)"}));
 }
 
-TEST(OrbitGraph, HasAGateThatOnlyATestOpens) {
-    OrbitGraph graph;
-    OrbitGraphAccess::enableViewAdjust(graph);
-    EXPECT_TRUE(graph.viewAdjustEnabled());
+TEST(OrbitGraph, OpensTheGateOfTheViewByNothing) {
+    LaidOutGraph plot;
+    plot.graph.setZoom(2);
+    plot.graph.panBy(1, 1);
+    plot.graph.setRotation(1);
+    plot.graph.setRotationDirection(1);
+    plot.graph.setGraphType(GraphType::Circle);
+    plot.graph.setPointerInside(true);
+    frameOf(plot);
+    EXPECT_FALSE(plot.graph.viewAdjustEnabled());
 }
 
 }  // namespace

@@ -71,5 +71,11 @@ TEST(PlotMapping, ARunOfPositionsIsThatOfItsSamples) {
     }
 }
 
+TEST(PlotMapping, RightSideOfAMarkerTakesTheHalfHeight) {
+    const PlotMapping flat({0, 0, 200, 100}, 300, UnitLimits, 1);
+    // Left 1 * 100 - 3 + 100 and right 1 * 50 + 3 + 100; 300 - (100 - 3 + 50), 300 - (50 + 3 + 50).
+    EXPECT_EQ(flat.dataToMarkerBox({1, 1}), (Rectangle{197, 153, 153, 197}));
+}
+
 }  // namespace
 }  // namespace Meridax::VisualControls::Rotavue

@@ -23,10 +23,14 @@ inline Lines callsOf(std::string_view operation, const Lines& lines) {
 }
 
 /// The canvas of a host in memory: it turns what is drawn into lines such as
-/// "IHostCanvas.LineTo(240, 150)". A character is 8 pixels wide, a line and the font 16 high.
+/// "IHostCanvas.LineTo(240, 150)". A character is 8 pixels wide and a line 16 high; the
+/// font has a height of its own, 21.
 class RecordingCanvas {
 public:
-    RecordingCanvas() { host.record(HostKit::groups({HostKit::CallGroup::Draw})); }
+    RecordingCanvas() {
+        host.description.canvas.fontHeight = 21;
+        host.record(HostKit::groups({HostKit::CallGroup::Draw}));
+    }
 
     /// Also writes what is fetched and measured.
     void recordMeasures() {

@@ -72,13 +72,14 @@ TEST_F(ScaleLabels, AreMeasuredAtFullHeightAndDrawnAtFourFifths) {
     graph.setTickCount(1);
     canvas.recordMeasures();
     const Lines lines = labels();
+    // 21 * 0.8 = 16.8, rounded.
     const Lines expected{"IHostCanvas.TextWidth(\"0\") -> 8", "IHostCanvas.GetFont() -> \"font\"",
-                         "IHostFont.GetHeight() -> 16", "IHostFont.SetHeight(13)"};
+                         "IHostFont.GetHeight() -> 21", "IHostFont.SetHeight(17)"};
     EXPECT_NE(std::search(lines.begin(), lines.end(), expected.begin(), expected.end()),
               lines.end());
     EXPECT_EQ(callsOf("IHostFont.SetHeight", lines),
-              (Lines{"IHostFont.SetHeight(13)", "IHostFont.SetHeight(16)",
-                     "IHostFont.SetHeight(13)", "IHostFont.SetHeight(16)"}));
+              (Lines{"IHostFont.SetHeight(17)", "IHostFont.SetHeight(21)",
+                     "IHostFont.SetHeight(17)", "IHostFont.SetHeight(21)"}));
 }
 
 TEST_F(ScaleLabels, ShrinkANegativeFontHeightToo) {
@@ -125,6 +126,18 @@ TEST_F(ScaleLabels, LeaveTheBrushSolidInTheGridColour) {
     EXPECT_EQ(callsOf("IHostBrush.SetStyle", lines).back(), "IHostBrush.SetStyle(0)");
     EXPECT_EQ(callsOf("IHostBrush.SetColor", lines).back(), "IHostBrush.SetColor(2)");
     EXPECT_TRUE(callsOf("IHostPen.", lines).empty());
+}
+
+TEST_F(ScaleLabels, OfLimitsShowTheirOldNumbersWithoutALayout) {
+    graph.setTickCount(0);
+    labels();
+    setLimits({-5, 5, -5, 5});
+    graph.drawScaleLabels(canvas.ref());
+    EXPECT_EQ(
+        canvas.taken("IHostCanvas.Text"),
+        (Lines{"IHostCanvas.TextRect(60, 240, 76, 256, \"-1\", 256)",
+               "IHostCanvas.TextRect(232, 240, 240, 256, \"1\", 256)",
+               "IHostCanvas.TextOut(44, 240, \"-1\")", "IHostCanvas.TextOut(44, 68, \"1\")"}));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -62,6 +63,38 @@ TEST_F(AveragedOrbit, PassesOverAPhaseThatIsNoNumber) {
     const double none = std::numeric_limits<double>::quiet_NaN();
     const double infinite = std::numeric_limits<double>::infinity();
     EXPECT_TRUE(curve({{0, 0, none}, {0, 0, infinite}}).empty());
+}
+
+TEST_F(AveragedOrbit, BeginsARevolutionBelowTheSmallestStepFromOne) {
+    const auto dots = [&](double phase) {
+        return callsOf("IHostCanvas.Ellipse", curve({{0, 0, phase}})).size();
+    };
+    constexpr double Epsilon = 2.220446049250313e-16;
+    EXPECT_EQ(dots(std::nextafter(Epsilon, 0)), 1U);
+    EXPECT_EQ(dots(Epsilon), 0U);
+    EXPECT_EQ(dots(-0.0), 1U);
+}
+
+TEST_F(AveragedOrbit, IsSearchedAtNegativePhases) {
+    graph.setPointer({150, 150});
+    curve({{0.5, 0, -10}, {0.25, 0, -350}});
+    EXPECT_TRUE(graph.nearest().found);
+    EXPECT_EQ(graph.nearest().x, 0.25);
+}
+
+TEST_F(AveragedOrbit, IsNotSearchedOutside) {
+    // The pointer stands where the sample outside lies on the limit.
+    graph.setPointer({240, 150});
+    curve({{2, 0, 90}, {0, 0, 90}});
+    EXPECT_EQ(graph.nearest().x, 0);
+    EXPECT_EQ(graph.nearest().distance, 90);
+}
+
+TEST_F(AveragedOrbit, DropsDotsAndLinesBeyondTheGuard) {
+    // The half width is (100000 - 120) / 2 = 49940: -0.75 lies at 50000 - 37455.
+    layOut(100000, 100000);
+    EXPECT_EQ(curve({{0.5, 0, 0}, {2, 0, 90}, {-0.75, 0.75, 90}}),
+              (Lines{"IHostCanvas.LineTo(12545, 12545)"}));
 }
 
 }  // namespace

@@ -72,5 +72,31 @@ TEST_F(Harmonic, IsSearchedAtEachStep) {
     EXPECT_EQ(graph.nearest().distance, 5);
 }
 
+TEST_F(Harmonic, IsAsLargeAsItsPhasorIsLong) {
+    // 0.3 + 0.4i is 0.5 long and 53.13 degrees ahead: at its top after 37 degrees, at its bottom
+    // half a turn later.
+    const Lines lines = callsOf("IHostCanvas.LineTo", curve({{0.3, 0.4}, {0, 0}}));
+    EXPECT_EQ(lines[37], "IHostCanvas.LineTo(150, 105)");
+    EXPECT_EQ(lines[217], "IHostCanvas.LineTo(150, 194)");
+}
+
+TEST_F(Harmonic, IsNotSearchedOutside) {
+    // The pointer stands where the first step lies on the limit. The first step inside is at 49
+    // degrees: 1.5 cos 49 = 0.98409.
+    graph.setPointer({240, 150});
+    curve({{0.5, 0}, {0, 1.5}});
+    EXPECT_NEAR(graph.nearest().x, 0.98409, 1e-5);
+    EXPECT_GT(graph.nearest().distance, 33);
+}
+
+TEST_F(Harmonic, DropsDotsAndLinesBeyondTheGuard) {
+    layOut(100000, 100000);
+    // Round 50000 with a radius of 24970. Both coordinates are within 32767 where |cos| and sin are
+    // above 17233 / 24970 = 0.6901: from 133.6 to 136.4 degrees.
+    const Lines lines = callsOf("IHostCanvas.", curve({{0.5, 0}, {0, 0.5}}));
+    EXPECT_EQ(lines.size(), 3U);
+    EXPECT_EQ(callsOf("IHostCanvas.LineTo", lines).size(), 3U);
+}
+
 }  // namespace
 }  // namespace Meridax::VisualControls::Rotavue

@@ -119,9 +119,12 @@ TEST_F(ShaftCenter, TellsTheThirdValueOfItsMatch) {
 
 TEST_F(ShaftCenter, KnowsNoGuardInside) {
     layOut(100000, 100000);
-    // 50000 + 49940 * 0.5: (100000 - 120) / 2 is the half width.
-    EXPECT_EQ(callsOf("IHostCanvas.MoveTo", curve({{0.5, 0, 1}})),
-              (Lines{"IHostCanvas.MoveTo(74970, 50000)"}));
+    // 50000 + 49940 * 0.5: (100000 - 120) / 2 is the half width. The labels do know it.
+    EXPECT_EQ(callsOf("IHostCanvas.", curve({{0.25, 0, 1}, {0.5, 0, 2}})),
+              (Lines{"IHostCanvas.MoveTo(74970, 50000)",
+                     "IHostCanvas.Ellipse(74967, 50003, 74973, 49997)",
+                     "IHostCanvas.LineTo(62485, 50000)",
+                     "IHostCanvas.Ellipse(62482, 50003, 62488, 49997)"}));
 }
 
 TEST_F(ShaftCenter, StopsLabellingWhereNobodyCouldReadOn) {
@@ -135,6 +138,33 @@ TEST_F(ShaftCenter, StopsLabellingWhereNobodyCouldReadOn) {
     const Lines lines = curve(samples);
     EXPECT_EQ(callsOf("IHostCanvas.Ellipse", lines).size(), 5000U);
     EXPECT_EQ(callsOf("IHostCanvas.TextRect", lines).size(), 4096U);
+}
+
+TEST_F(ShaftCenter, DropsTheMoveToASampleOutsideBeyondTheGuard) {
+    layOut(100000, 100000);
+    EXPECT_TRUE(callsOf("IHostCanvas.", curve({{2, 0, 1}})).empty());
+}
+
+TEST_F(ShaftCenter, CountsALabelAsPlacedThatTheGuardDrops) {
+    layOut(100000, 100000);
+    EXPECT_TRUE(labels({{0.25, 0, 1}, {0.5, 0, 2}}).empty());
+    // 74973 + 5 and 62488 + 5, in the order of the walk; 8 above and below 49997.
+    EXPECT_EQ(graph.state().placedLabels,
+              (std::vector<Rectangle>{{74978, 49989, 74986, 50005}, {62493, 49989, 62501, 50005}}));
+}
+
+TEST_F(ShaftCenter, IsNotSearchedOutside) {
+    graph.setPointer({240, 150});
+    curve({{2, 0, 5}, {0, 0, 7}});
+    EXPECT_EQ(graph.nearest().x, 0);
+    EXPECT_EQ(graph.nearest().extra, 7);
+}
+
+TEST_F(ShaftCenter, MeasuresADigitAndALineBeforeItDraws) {
+    canvas.recordMeasures();
+    const Lines lines = curve({});
+    EXPECT_EQ(Lines(lines.end() - 2, lines.end()),
+              (Lines{"IHostCanvas.TextWidth(\"0\") -> 8", "IHostCanvas.TextHeight(\"Aj\") -> 16"}));
 }
 
 }  // namespace

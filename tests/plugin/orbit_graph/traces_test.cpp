@@ -1,4 +1,5 @@
 #include "tests/plugin/orbit_graph/graph_fixture.h"
+#include "tests/plugin/orbit_graph/reentrant_host.h"
 
 #include <gtest/gtest.h>
 
@@ -75,6 +76,31 @@ TEST_F(Traces, SearchAcrossAllCurves) {
 
 TEST_F(Traces, WithoutACurveDrawNothing) {
     EXPECT_TRUE(traces({}).empty());
+}
+
+TEST_F(Traces, WithoutARangeKeepTheLabelsOfTheLastFrame) {
+    traces({sampledCurve(OrbitKind::ShaftCenter, {{0, 0, 1}})});
+    setLimits({0, 0, 0, 0});
+    traces({sampledCurve(OrbitKind::ShaftCenter, {{0, 0, 1}})});
+    EXPECT_EQ(graph.state().placedLabels.size(), 1U);
+    setLimits({-1, 1, -1, 1});
+    traces({});
+    EXPECT_TRUE(graph.state().placedLabels.empty());
+}
+
+TEST_F(Traces, TellTheCurveOfTheirMatchWhenAHostDrawsOthersFromInsideACall) {
+    OrbitCurve outer = rawCurve({{0.9, 0}, {0.8, 0}, {0.1, 0}});
+    outer.info.name = L"outer";
+    OrbitCurve inner = rawCurve({{0.5, 0.5}});
+    inner.info.name = L"inner";
+    RecordingCanvas another;
+    ReentrantHost host(HostKit::operation("IHostCanvas.LineTo"),
+                       [&] { graph.drawTraces(another.ref(), {inner}); });
+    canvas.host.gate.watch(&host, HostKit::groups({HostKit::CallGroup::Draw}));
+    graph.setPointer({150, 150});
+    graph.drawTraces(canvas.ref(), {outer});
+    EXPECT_EQ(graph.nearest().x, 0.1);
+    EXPECT_EQ(graph.nearest().info.name, L"outer");
 }
 
 }  // namespace

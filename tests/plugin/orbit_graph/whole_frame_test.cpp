@@ -6,8 +6,8 @@ namespace Meridax::VisualControls::Rotavue {
 namespace {
 
 // One raw orbit on a dark canvas of 300 by 300 pixels with texts of 8 pixels per character and 16
-// per line. The plot: 300 - 2 * 40 = 220, less one margin of 40: 180, so 60 to 240 with its centre
-// at 150 and a half width of 90.
+// per line, in a font of 21. The plot: 300 - 2 * 40 = 220, less one margin of 40: 180, so 60 to 240
+// with its centre at 150 and a half width of 90.
 constexpr Color Background = 0;
 constexpr Color Grid = 3815994;
 constexpr Color Text = 12632256;
@@ -93,19 +93,19 @@ TEST_F(WholeFrame, LabelsTicksAndLimits) {
     graph_.drawScaleLabels(canvas_.ref());
     expectLines({
         "IHostBrush.SetStyle(1)",
-        // The middle tick: 8 pixels wide, centred on 150, below the plot; 16 * 0.8 = 12.8.
-        "IHostFont.SetHeight(13)",
+        // The middle tick: 8 pixels wide, centred on 150, below the plot; 21 * 0.8 = 16.8.
+        "IHostFont.SetHeight(17)",
         "IHostBrush.SetStyle(1)",
         "IHostFont.SetColor(12632256)",
         "IHostCanvas.TextRect(146, 240, 154, 256, \"0\", 256)",
-        "IHostFont.SetHeight(16)",
-        "IHostFont.SetHeight(13)",
+        "IHostFont.SetHeight(21)",
+        "IHostFont.SetHeight(17)",
         "IHostBrush.SetStyle(1)",
         "IHostFont.SetColor(12632256)",
         "IHostFont.SetOrientation(900)",
         "IHostCanvas.TextOut(44, 154, \"0\")",
         "IHostFont.SetOrientation(0)",
-        "IHostFont.SetHeight(16)",
+        "IHostFont.SetHeight(21)",
         // The limits at the corners.
         "IHostBrush.SetStyle(0)",
         "IHostBrush.SetColor(3815994)",
@@ -157,30 +157,30 @@ TEST_F(WholeFrame, DrawsTheOrbit) {
 TEST_F(WholeFrame, EndsWithBadgesAndLegend) {
     graph_.drawSensorBadges(canvas_.ref());
     graph_.drawLegendRow(canvas_.ref(), curves_);
-    // 11.2 pixels round 240 150 and, twice, round 150 60. "Shaft (um)" is 80 pixels: 150 + 40;
+    // 14.7 pixels round 240 150 and, twice, round 150 60. "Shaft (um)" is 80 pixels: 150 + 40;
     // 60 - 3 * 16 = 12.
     expectLines({
         "IHostPen.SetStyle(0)",
         "IHostPen.SetColor(0)",
         "IHostBrush.SetStyle(0)",
         "IHostBrush.SetColor(12632256)",
-        "IHostCanvas.Rectangle(228, 138, 251, 161)",
+        "IHostCanvas.Rectangle(225, 135, 254, 164)",
         "IHostFont.SetColor(0)",
-        "IHostCanvas.TextRect(228, 138, 251, 161, \"X\", 81924)",
+        "IHostCanvas.TextRect(225, 135, 254, 164, \"X\", 81924)",
         "IHostPen.SetStyle(0)",
         "IHostPen.SetColor(0)",
         "IHostBrush.SetStyle(0)",
         "IHostBrush.SetColor(12632256)",
-        "IHostCanvas.Rectangle(138, 48, 161, 71)",
+        "IHostCanvas.Rectangle(135, 45, 164, 74)",
         "IHostFont.SetColor(0)",
-        "IHostCanvas.TextRect(138, 48, 161, 71, \"Y\", 81924)",
+        "IHostCanvas.TextRect(135, 45, 164, 74, \"Y\", 81924)",
         "IHostPen.SetStyle(0)",
         "IHostPen.SetColor(0)",
         "IHostBrush.SetStyle(0)",
         "IHostBrush.SetColor(12632256)",
-        "IHostCanvas.Rectangle(138, 48, 161, 71)",
+        "IHostCanvas.Rectangle(135, 45, 164, 74)",
         "IHostFont.SetColor(0)",
-        "IHostCanvas.TextRect(138, 48, 161, 71, \"T\", 81924)",
+        "IHostCanvas.TextRect(135, 45, 164, 74, \"T\", 81924)",
         "IHostBrush.SetColor(0)",
         "IHostFont.SetColor(255)",
         "IHostFont.SetOrientation(900)",
