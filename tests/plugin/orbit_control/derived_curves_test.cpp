@@ -238,16 +238,28 @@ double sinOfDegrees(double degrees) {
 TEST_F(HarmonicCurve, ExtentIsThatOf340StepsOfTheEllipse) {
     // X at 90 degrees and Y at 0: y runs as 2 sin(d + phase), x as 3 sin(d + phase).
     // The Y phasor lies at 0 degrees: it reaches its peak at d = 90 and its trough at d = 270.
-    // The X phasor lies at -80 degrees: the peak is at 170, and the trough would be at 350, which
-    // is left out; at 339 the value is 3 sin(259), at 0 it is 3 sin(-80).
-    describe({2.0, 3.0 * sinOfDegrees(10.0)}, {0.0, -3.0 * sinOfDegrees(80.0)});
+    // The X phasor lies at -70 degrees: its peak is at d = 160, and its trough would be at 340, the
+    // first step that is left out. The last one, 339, gives 3 sin(269).
+    describe({2.0, 3.0 * sinOfDegrees(20.0)}, {0.0, -3.0 * sinOfDegrees(70.0)});
     key.readHarmonicCurve(*ref);
     const Range extents = key.dataExtents.range();
     EXPECT_NEAR(extents.yMax, 2.0, 1e-12);
     EXPECT_NEAR(extents.yMin, -2.0, 1e-12);
     EXPECT_NEAR(extents.xMax, 3.0, 1e-12);
-    EXPECT_NEAR(extents.xMin, 3.0 * sinOfDegrees(-80.0), 1e-12);
-    EXPECT_GT(extents.xMin, -2.96) << "a whole turn would reach -3";
+    EXPECT_NEAR(extents.xMin, 3.0 * sinOfDegrees(269.0), 1e-12);
+    EXPECT_GT(extents.xMin, -2.9996) << "a step more would reach -3";
+}
+
+TEST_F(HarmonicCurve, ExtentIsTurnedByTheSensors) {
+    // Both sensors upward: y is the sum of two ellipses in phase, 2 + 3, and x stays 0.
+    key.graph.setXAngle(0.0);
+    describe({2.0, 3.0}, {0.0, 0.0});
+    key.readHarmonicCurve(*ref);
+    const Range extents = key.dataExtents.range();
+    EXPECT_EQ(extents.xMin, 0.0);
+    EXPECT_EQ(extents.xMax, 0.0);
+    EXPECT_NEAR(extents.yMax, 5.0, 1e-12);
+    EXPECT_NEAR(extents.yMin, -5.0, 1e-12);
 }
 
 TEST_F(HarmonicCurve, OrdersAreNotSummed) {

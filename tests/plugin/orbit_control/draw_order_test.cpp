@@ -79,6 +79,19 @@ TEST_F(DrawOrder, MismatchIsToldBeforeTheFrameAndNothingIsRead) {
         EXPECT_FALSE(holds(lines, unasked)) << unasked;
 }
 
+TEST_F(DrawOrder, LimitsAreMeasuredBeforeTheFrameAndTheStripsAfterIt) {
+    assignOrbit();  // limits of 1.1 * 10
+    const Lines lines = frame();
+    const std::ptrdiff_t limit = placeOf(lines, R"(IHostCanvas.TextWidth("-11"))");
+    const std::ptrdiff_t background = placeOf(lines, "IHostCanvas.Rectangle(60, 60, 240, 240)");
+    const std::ptrdiff_t strips = placeOf(lines, R"(IHostCanvas.TextHeight("Aj"))");
+    const std::ptrdiff_t label = placeOf(lines, R"("-11", 256))");
+    ASSERT_LT(label, std::ssize(lines));
+    EXPECT_LT(limit, background);
+    EXPECT_LT(background, strips);
+    EXPECT_LT(strips, label) << "before the scale is drawn";
+}
+
 TEST_F(DrawOrder, FaultOfAGroupIsToldBetweenGroupsAndChannels) {
     assignGroup({});
     assignOrbit();

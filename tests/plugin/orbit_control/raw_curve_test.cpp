@@ -202,6 +202,19 @@ TEST_F(RawCurve, ClearanceWidensTheExtents) {
     }
 }
 
+TEST_F(RawCurve, ClearanceOfZeroTakesTheOriginIn) {
+    key.graph.setDrawClearance(true);
+    read({"orbit"});
+    EXPECT_EQ(key.dataExtents.range(), (Range{0.0, 4.0, -6.0, 8.0})) << "x alone runs from 2 to 4";
+}
+
+TEST_F(RawCurve, ClearanceOfOneZeroIsThatOfTheOther) {
+    key.graph.setDrawClearance(true);
+    channel("orbit").properties[L"Orbit Clearance Height"] = L"20";
+    read({"orbit"});
+    EXPECT_EQ(key.dataExtents.range(), (Range{-10.0, 10.0, -10.0, 10.0}));
+}
+
 TEST_F(RawCurve, ClearanceStandsWithoutAnyPoint) {
     key.graph.setDrawClearance(true);
     key.displayTime = 0.0;

@@ -24,13 +24,13 @@ public:
 
     void onReturn(const HostKit::Call& call) override {
         if (operation_ && call.operation != *operation_) return;
-        lines.push_back(toText(call));
+        if (operation_) lines.push_back(toText(call));
         if (--left_ == 0) act_();
     }
 
     bool happened() const { return left_ <= 0; }
 
-    Lines lines;  ///< the calls that were counted
+    Lines lines;  ///< the calls of the operation
 
 private:
     std::int64_t left_;
@@ -45,7 +45,10 @@ protected:
     /// A frame that is interrupted after its n-th call. It ends whole, or at an object that has
     /// gone.
     void drawInterrupted(std::int64_t n, const std::function<void()>& act) {
-        Interruption interruption(n, act);
+        Interruption interruption(n, [&] {
+            host.gate.watch(nullptr, {});
+            act();
+        });
         watch(interruption);
         try {
             draw();
