@@ -15,6 +15,7 @@ constexpr std::int32_t PlainComponent = 0;
 constexpr std::int32_t RealComponent = 4;
 constexpr std::int32_t ImaginaryComponent = 5;
 constexpr std::int32_t ShaftCenterElements = 4;
+constexpr std::int32_t PlainSlot = 0;
 
 // A channel of the kind that "OrbitType" names; the shaft centre's kind is the empty text.
 ChannelDescription channelOf(const Recording& recording, const ChannelStyle& style,
@@ -126,6 +127,13 @@ ChannelDescription shaftCenterChannel(const ShaftCenterHistory& history, const R
             values.push_back(value);
     }
     return channel;
+}
+
+void assignDerived(HostKit::HostDescription& host, ChannelDescription channel) {
+    const std::string id = "derived" + std::to_string(host.assigned.channels.size() + 1);
+    host.channels[id] = std::move(channel);
+    host.assigned.channels.emplace_back(id);
+    if (host.assigned.slots.empty()) host.assigned.slots = {{PlainSlot}};
 }
 
 }  // namespace Rotavue::Workbench

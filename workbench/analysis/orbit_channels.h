@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "host_kit/memory/channel_description.h"
+#include "host_kit/memory/description.h"
 #include "workbench/analysis/averaged_orbit.h"
 #include "workbench/analysis/field_vector.h"
 #include "workbench/analysis/harmonics.h"
@@ -52,5 +52,9 @@ HostKit::ChannelDescription subSyncChannel(const SubSyncOrbit& orbit, const Reco
 HostKit::ChannelDescription shaftCenterChannel(const ShaftCenterHistory& history,
                                                const Recording& recording,
                                                const ChannelStyle& style);
+
+// Assigns the channel to the control as one more plain channel. The control draws it only if it
+// agrees with all others in all that they say about the bearing.
+void assignDerived(HostKit::HostDescription& host, HostKit::ChannelDescription channel);
 
 }  // namespace Rotavue::Workbench

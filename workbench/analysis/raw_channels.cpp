@@ -92,10 +92,13 @@ void assignRawOrbit(HostDescription& host, RawOrbit orbit) {
 }
 
 void setAxisDecimals(HostDescription& host, std::int32_t decimals) {
-    ChannelDescription& digits = host.channels["digits"];
-    digits.decimals = decimals;
-    digits.properties = host.channels[*host.assigned.groups.at(0).channels.at(0)].properties;
-    host.assigned.channels = {"digits"};
+    if (host.assigned.channels.empty()) {
+        host.channels["digits"].properties =
+            host.channels[*host.assigned.groups.at(0).channels.at(0)].properties;
+        host.assigned.channels = {"digits"};
+    }
+    for (const HostKit::ChannelItem& id : host.assigned.channels)
+        if (id) host.channels[*id].decimals = decimals;
 }
 
 void showStored(HostDescription& host, double sampleRate, std::size_t position) {

@@ -35,10 +35,10 @@ RawOrbit rawOrbit(Recording recording, const RawOrbitStyle& style);
 // in all that they say about the bearing.
 void assignRawOrbit(HostKit::HostDescription& host, RawOrbit orbit);
 
-// The digits behind the point of the graph's axis numbers. The control looks for them in plain
-// channels alone and would take 0 for a host with nothing but groups. So a plain channel is
-// assigned that says so much and the bearing of the first group; being of the kind of a raw orbit,
-// which only groups have, it draws nothing.
+// The digits behind the point of the graph's numbers. The control looks for them in plain channels
+// alone: those that are assigned get them. Where there is none, and the control would take 0, a
+// plain channel is assigned that says so much and the bearing of the first group; being of the kind
+// of a raw orbit, which only groups have, it draws nothing.
 void setAxisDecimals(HostKit::HostDescription& host, std::int32_t decimals);
 
 // The host analyses stored data, with its cursor on that sample; the channels' samples are given by

@@ -1,4 +1,5 @@
 #include "workbench/analysis/raw_channels.h"
+#include "workbench/analysis/orbit_channels.h"
 
 #include <cmath>
 #include <limits>
@@ -134,6 +135,18 @@ TEST(AcquiredChannels, AFullRingGoesOnAtItsBegin) {
     showAcquired(host.description, 10.0, 4);
     EXPECT_EQ(host.channel("orbit1")->getWritePosition(), 0);
     EXPECT_EQ(host.channel("orbit1")->getSampleCount(), 5);
+}
+
+TEST(AxisDecimals, ComeFromThePlainChannelsThatAreThere) {
+    HostKit::MemoryHost host;
+    offer(host);
+    assignDerived(host.description, {});
+    assignDerived(host.description, {});
+    setAxisDecimals(host.description, 3);
+    const auto channels = host.control()->getChannels();
+    ASSERT_EQ(channels->getCount(), 2);
+    EXPECT_EQ(channels->getItem(0)->getDecimals(), 3);
+    EXPECT_EQ(channels->getItem(1)->getDecimals(), 3);
 }
 
 TEST(AxisDecimals, ComeFromAPlainChannelOfTheSameBearing) {
