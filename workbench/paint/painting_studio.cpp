@@ -41,10 +41,11 @@ int textHeightOf(const PictureOrder& order) {
 constexpr double BadgeReach = 0.7;
 
 /// The pixels that a strip takes from the plug-in's area. Most of it lies over the margin above the
-/// plot, where the plug-in paints nothing but the badges, and its messages and the readout, which a
-/// picture of a sound assignment without a pointer does not have.
-int takenBy(const HeaderStrip& strip, int textHeight) {
+/// plot, where the plug-in paints nothing but the badges, its messages, which a picture of a sound
+/// assignment does not have, and the readout, which must stay clear.
+int takenBy(const HeaderStrip& strip, int textHeight, bool readout) {
     constexpr int Clear = 2;
+    if (readout) return strip.height();
     const int badges = static_cast<int>(std::ceil(BadgeReach * textHeight));
     return std::max(0, strip.height() - (PlotMargin - badges - Clear));
 }
@@ -93,7 +94,7 @@ private:
 PictureArea PaintingStudio::areaOf(const PictureOrder& order, const PictureHeader& header) {
     const int textHeight = textHeightOf(order);
     return {.width = order.width,
-            .height = order.height - takenBy(stripOf(order, header), textHeight),
+            .height = order.height - takenBy(stripOf(order, header), textHeight, order.readout),
             .textHeight = textHeight};
 }
 

@@ -26,7 +26,7 @@ struct PictureColors {
 };
 
 /// What stands in a strip at the upper edge, over the margin that the plug-in keeps free above its
-/// plot as far as that goes. Empty for no strip.
+/// plot as far as that goes, or above the area for a picture with a readout. Empty for no strip.
 struct PictureHeader {
     std::string title;               ///< UTF-8
     std::vector<std::string> facts;  ///< short ones, in the order of their weight
@@ -34,10 +34,11 @@ struct PictureHeader {
 
 struct PictureOrder {
     PictureFormat format = PictureFormat::Png;
-    int width = 800;     ///< pixels, with the strip
-    int height = 600;    ///< likewise
-    int scale = 1;       ///< pixels of a PNG file for each of those, each way
-    int textHeight = 0;  ///< pixels; 0: what suits the size
+    int width = 800;       ///< pixels, with the strip
+    int height = 600;      ///< likewise
+    int scale = 1;         ///< pixels of a PNG file for each of those, each way
+    int textHeight = 0;    ///< pixels; 0: what suits the size
+    bool readout = false;  ///< the plug-in will write at the upper edge of its area
     PictureColors colors = {};
 };
 

@@ -54,6 +54,15 @@ TEST(PictureStudio, TheStripLeavesTheBadgesRoom) {
     }
 }
 
+TEST(PictureStudio, TheStripStaysOffAReadout) {
+    // The plug-in writes it half a text height below the area's edge.
+    PaintingStudio studio;
+    const PictureOrder order{.width = 640, .height = 480, .readout = true};
+    const PictureArea area = studio.areaOf(order, Header);
+    EXPECT_EQ(area.height, 480 - HeaderStrip(Header, order, area.textHeight).height());
+    EXPECT_EQ(studio.areaOf(order, {}).height, 480);
+}
+
 TEST(PictureStudio, TheBackgroundIsTheHosts) {
     PaintingStudio studio;
     PictureOrder order{.width = 60, .height = 50};
