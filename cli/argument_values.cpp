@@ -3,6 +3,7 @@
 #include "cli/usage_error.h"
 #include "workbench/recording/option_items.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -71,6 +72,26 @@ PixelSize pixelSize(std::string_view option, const std::string& text, int larges
     }
     throw UsageError(option, text,
                      "WIDTHxHEIGHT, each from 1 to " + std::to_string(largest) + " pixels");
+}
+
+PicturePoint pointIn(std::string_view option, const std::string& text, const PixelSize& size) {
+    const std::size_t comma = std::min(text.find(','), text.size());
+    const auto x = wholeNumberIn(text.substr(0, comma));
+    const auto y = wholeNumberIn(text.substr(std::min(comma + 1, text.size())));
+    if (x && y && *x >= 0 && *x < size.width && *y >= 0 && *y < size.height) {
+        return {static_cast<int>(*x), static_cast<int>(*y)};
+    }
+    throw UsageError(option, text,
+                     "X,Y in the picture, from 0,0 to " + std::to_string(size.width - 1) + ',' +
+                         std::to_string(size.height - 1));
+}
+
+Workbench::TimeSpan secondsIn(std::string_view option, const std::string& text) {
+    const std::size_t dash = std::min(text.find('-'), text.size());
+    const auto from = numberIn(text.substr(0, dash));
+    const auto to = numberIn(text.substr(std::min(dash + 1, text.size())));
+    if (from && to && *from >= 0.0 && *to > *from) return {*from, *to};
+    throw UsageError(option, text, "FROM-TO in seconds after the first sample, such as 0-1.5");
 }
 
 }  // namespace Rotavue::Cli

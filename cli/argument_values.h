@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/analysis/time_span.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -32,5 +34,17 @@ struct PixelSize {
 
 /// WIDTHxHEIGHT in pixels.
 PixelSize pixelSize(std::string_view option, const std::string& text, int largest);
+
+/// A pixel by its distance from the upper left corner.
+struct PicturePoint {
+    int x = 0;
+    int y = 0;
+};
+
+/// X,Y of a pixel in a picture of that size.
+PicturePoint pointIn(std::string_view option, const std::string& text, const PixelSize& size);
+
+/// FROM-TO in seconds, both from 0 and the second one larger.
+Workbench::TimeSpan secondsIn(std::string_view option, const std::string& text);
 
 }  // namespace Rotavue::Cli

@@ -1,5 +1,6 @@
 #include "cli/command_line.h"
 
+#include "cli/analyze_command.h"
 #include "cli/help_formatter.h"
 #include "cli/info_command.h"
 #include "cli/play_command.h"
@@ -21,6 +22,7 @@ constexpr const char* Help =
     "Examples:\n"
     "  rotavue render unbalance.csv -o unbalance.png\n"
     "  rotavue info unbalance.csv\n"
+    "  rotavue analyze unbalance.csv\n"
     "  rotavue register --user\n"
     "  rotavue play raw-orbit.json\n\n"
     "Exit status: 0 done, 1 failed, 2 wrong use (play also: 3 no plug-in).\n";
@@ -40,6 +42,7 @@ CommandLine::CommandLine() : app_(Help, "rotavue") {
     app_.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     add(std::make_unique<RenderCommand>());
     add(std::make_unique<InfoCommand>());
+    add(std::make_unique<AnalyzeCommand>());
     add(std::make_unique<PlayCommand>());
     add(std::make_unique<RegisterCommand>());
     add(std::make_unique<UnregisterCommand>());

@@ -8,7 +8,8 @@ namespace Rotavue::Cli {
 
 namespace {
 
-const std::vector<std::string> Commands{"render", "info", "play", "register", "unregister"};
+const std::vector<std::string> Commands{"render", "info",     "analyze",
+                                        "play",   "register", "unregister"};
 
 class HelpTest : public CommandTest {};
 
