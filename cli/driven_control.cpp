@@ -64,4 +64,10 @@ void DrivenControl::draw(Meridax::Host::Ref<Meridax::Host::IHostCanvas> canvas, 
     send(MessageCode::Draw, {std::move(canvas), 0, 0, width, height, NotRead, NotRead, scheme});
 }
 
+void DrivenControl::movePointer(std::int32_t x, std::int32_t y) {
+    constexpr std::int32_t NoKeys = 0;
+    send(MessageCode::PointerEntered, {});
+    send(MessageCode::PointerMoved, {NoKeys, x, y});
+}
+
 }  // namespace Rotavue::Cli

@@ -32,6 +32,9 @@ public:
     void draw(Meridax::Host::Ref<Meridax::Host::IHostCanvas> canvas, std::int32_t width,
               std::int32_t height, std::int32_t scheme);
 
+    /// Puts the pointer on a place of the area, as a user does who comes from outside.
+    void movePointer(std::int32_t x, std::int32_t y);
+
 private:
     void send(Meridax::VisualControls::Api::MessageCode code, const HostKit::MessageList& list);
 

@@ -2,6 +2,7 @@
 
 #include "cli/picture_facts.h"
 #include "cli/setup_texts.h"
+#include "cli/usage_error.h"
 #include "workbench/analysis/raw_channels.h"
 
 #include <algorithm>
@@ -32,9 +33,18 @@ PictureArea OrbitPicture::areaWith(const PictureHeader& header) const {
 }
 
 double OrbitPicture::automaticLimit(DrivenControl& control, const PictureArea& area) {
-    control.load(settingsFor(options_, scene_.span(), UsualTicks.front(), std::nullopt));
+    control.load(settingsFor(options_, scene_, {.ticks = UsualTicks.front(), .limit = {}}));
     control.draw(scene_.host().canvas(), area.width, area.height, options_.scheme);
     return limitIn(control.save());
+}
+
+bool OrbitPicture::namesFit(const PictureArea& area) const {
+    constexpr double CharacterWidth = 0.6;  // of the text height
+    constexpr std::size_t Between = 5;      // the unit's brackets, comma and blanks
+    std::size_t characters = 0;
+    for (const std::string& name : scene_.curveNames())
+        characters += name.size() + scene_.machine().unit.size() + Between;
+    return static_cast<double>(characters) * CharacterWidth * area.textHeight <= area.height;
 }
 
 GraphScale OrbitPicture::scaleFor(DrivenControl& control, const PictureArea& area) {
@@ -45,9 +55,12 @@ GraphScale OrbitPicture::scaleFor(DrivenControl& control, const PictureArea& are
                          .textHeight = area.textHeight};
     const auto scaleWith = [&](std::int32_t ticks) {
         if (limit <= 0.0) return GraphScale{.ticks = ticks};
-        return options_.limits == LimitChoice::Round
-                   ? roundScale(limit / AutomaticHeadroom, room.background, ticks)
-                   : plainScale(limit, room.background, ticks);
+        const GraphScale plain = plainScale(limit, room.background, ticks);
+        if (options_.limits != LimitChoice::Round) return plain;
+        GraphScale round = roundScale(limit / AutomaticHeadroom, room.background, ticks);
+        // The readout has as many digits as the axes.
+        if (options_.pointer) round.decimals = std::max(round.decimals, plain.decimals);
+        return round;
     };
     if (options_.ticks) return scaleWith(*options_.ticks);
     const auto ticks =
@@ -66,15 +79,39 @@ std::string OrbitPicture::paint() {
     const GraphScale scale = scaleFor(control, roughly);
     const bool known = scale.limit > 0.0;
     const PictureHeader header = pictureHeader(scene_, known ? std::optional(scale) : std::nullopt);
-    const PictureArea area = areaWith(header);
-
     const bool manual = known && options_.limits != LimitChoice::Auto;
     setAxisDecimals(scene_.host().description, scale.decimals);
-    control.load(settingsFor(options_, scene_.span(), scale.ticks,
-                             manual ? std::optional(scale.limit) : std::nullopt));
-    const auto picture = studio_.open(options_.picture, options_.header ? header : PictureHeader{});
-    control.draw(picture->canvas(), area.width, area.height, options_.scheme);
+    control.load(settingsFor(options_, scene_,
+                             {.ticks = scale.ticks,
+                              .limit = manual ? std::optional(scale.limit) : std::nullopt,
+                              .legendInRow = namesFit(areaWith(header))}));
+    return drawn(control, header);
+}
+
+std::string OrbitPicture::drawn(DrivenControl& control, const PictureHeader& header) {
+    const PictureArea area = areaWith(header);
+    const auto frame = [&] {
+        auto picture = studio_.open(options_.picture, options_.header ? header : PictureHeader{});
+        control.draw(picture->canvas(), area.width, area.height, options_.scheme);
+        return picture;
+    };
+    auto picture = frame();
+    if (options_.pointer) {
+        // The first frame has laid out what the pointer can be on.
+        const PicturePoint place = pointerIn(area);
+        control.movePointer(place.x, place.y);
+        picture.reset();
+        picture = frame();
+    }
     return picture->finish();
+}
+
+PicturePoint OrbitPicture::pointerIn(const PictureArea& area) const {
+    const PicturePoint place = *options_.pointer;
+    const int top = options_.picture.height - area.height;
+    if (place.y >= top) return {place.x, place.y - top};
+    throw UsageError("--pointer", std::to_string(place.x) + ',' + std::to_string(place.y),
+                     "a place below the strip, Y from " + std::to_string(top) + ", or --no-header");
 }
 
 }  // namespace Rotavue::Cli

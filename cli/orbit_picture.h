@@ -26,6 +26,16 @@ private:
 
     Workbench::PictureArea areaWith(const Workbench::PictureHeader& header) const;
 
+    /// Whether the names of all curves have room in one line along the height of the area.
+    bool namesFit(const Workbench::PictureArea& area) const;
+
+    /// Draws with the settings as they are loaded, and once more with the pointer where it is
+    /// given.
+    std::string drawn(DrivenControl& control, const Workbench::PictureHeader& header);
+
+    /// What the pointer's place is in the area. Raises `UsageError` for a place above it.
+    PicturePoint pointerIn(const Workbench::PictureArea& area) const;
+
     const RenderOptions& options_;
     OrbitScene& scene_;
     Workbench::PictureStudio& studio_;

@@ -1,8 +1,11 @@
 #include "cli/orbit_scene.h"
 
+#include "cli/derived_curves.h"
 #include "cli/fact_words.h"
+#include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/bearing_properties.h"
 #include "workbench/analysis/raw_channels.h"
+#include "workbench/analysis/signal_check.h"
 #include "workbench/analysis/turn_window.h"
 
 #include <algorithm>
@@ -22,8 +25,10 @@ constexpr int UsualTurns = 8;
 constexpr double UsualMilliseconds = 100.0;
 
 /// Told apart by people who see colours differently, and from the clearance's orange.
-constexpr std::array<std::uint32_t, 4> ColorsOnLight{0x0072B2, 0xB8336A, 0x009E73, 0x7A5195};
-constexpr std::array<std::uint32_t, 4> ColorsOnDark{0x56B4E9, 0xF781BF, 0x2FD6A3, 0xC9A0FF};
+constexpr std::array<std::uint32_t, 6> ColorsOnLight{0x0072B2, 0xB8336A, 0x009E73,
+                                                     0x7A5195, 0x555555, 0x8C510A};
+constexpr std::array<std::uint32_t, 6> ColorsOnDark{0x56B4E9, 0xF781BF, 0x2FD6A3,
+                                                    0xC9A0FF, 0xB0B0B0, 0xE3D26F};
 
 std::uint32_t colorOf(std::size_t index, const RenderOptions& options) {
     if (index < options.colors.size()) return options.colors[index];
@@ -52,6 +57,11 @@ std::string nameOf(const Recording& recording, bool alone) {
     return alone && !point.empty() ? point : recording.file.stem().string();
 }
 
+bool hasAny(const std::vector<CurveRequest>& requests, CurveKind kind) {
+    return std::any_of(requests.begin(), requests.end(),
+                       [&](const CurveRequest& one) { return one.kind == kind; });
+}
+
 [[noreturn]] void refuse(const Recording& recording, const std::string& why) {
     throw std::runtime_error(recording.file.string() + ": " + why);
 }
@@ -73,25 +83,32 @@ std::size_t positionIn(std::span<const Recording> recordings, const RenderOption
 
 }  // namespace
 
-OrbitScene::OrbitScene(const RenderOptions& options) {
+OrbitScene::OrbitScene(const RenderOptions& options) : show_(options.show) {
     std::vector<Recording> recordings = readAll(options);
     checkAgreement(recordings);
     machine_ = recordings.front().machine;
     coupling_ = recordings.front().coupling;
+    hasSpeed_ = recordings.front().hasTacho();
     if (options.clearance && machine_.clearanceWidth <= 0.0) {
         refuse(recordings.front(), "no clearance is known: --clearance-width tells it");
     }
     for (const Recording& recording : recordings) {
         names_.push_back(nameOf(recording, recordings.size() == 1));
-        for (const std::string& note : recording.notes)
-            notes_.push_back(recording.file.string() + ": " + note);
+        note(recording, recording.notes);
+        note(recording, checkProbes(recording));
     }
     chooseSpan(recordings, options);
     const std::size_t position = positionIn(recordings, options);
     measureSpan(recordings.front(), position);
     const double sampleRate = recordings.front().sampleRate;
-    assign(std::move(recordings), options);
+    addDerived(recordings, options);
+    if (hasAny(show_, CurveKind::Raw)) addRaw(std::move(recordings), options);
     showStored(host_.description, sampleRate, position);
+}
+
+void OrbitScene::note(const Recording& recording, const std::vector<std::string>& notes) {
+    for (const std::string& note : notes)
+        notes_.push_back(recording.file.string() + ": " + note);
 }
 
 void OrbitScene::checkAgreement(const std::vector<Recording>& recordings) const {
@@ -119,32 +136,77 @@ void OrbitScene::chooseSpan(const std::vector<Recording>& recordings,
     span_.milliseconds = options.milliseconds.value_or(UsualMilliseconds);
 }
 
+void OrbitScene::refuseGap(const Recording& recording, std::size_t first, std::size_t last) const {
+    if (!hasAny(show_, CurveKind::Raw) && !hasAny(show_, CurveKind::SubSync)) return;
+    for (std::size_t i = first; i <= last; ++i)
+        if (std::isfinite(recording.x[i] + recording.y[i])) return;
+    refuse(recording, "there is no value of both probes from " +
+                          shortNumber(static_cast<double>(first) / recording.sampleRate, 6) +
+                          " to " +
+                          shortNumber(static_cast<double>(last) / recording.sampleRate, 6) + " s");
+}
+
 void OrbitScene::measureSpan(const Recording& recording, std::size_t position) {
     span_.time = static_cast<double>(position) / recording.sampleRate;
-    if (!recording.hasTacho()) return;
     if (!span_.byTurns) {
         const auto count =
             static_cast<std::size_t>(span_.milliseconds / 1000.0 * recording.sampleRate);
         const std::size_t first = position - std::min(position, count);
-        span_.speed = meanSpeed(recording.angle, recording.sampleRate, first, position);
+        refuseGap(recording, first, position);
+        if (recording.hasTacho())
+            span_.speed = meanSpeed(recording.angle, recording.sampleRate, first, position);
         return;
     }
     const TurnWindow window =
         turnWindow(recording.angle, recording.sampleRate, position, span_.turns);
     span_.turnsThere = window.turns;
     span_.speed = window.speed;
-    if (window.turns < span_.turns) {
-        notes_.push_back(recording.file.string() + ": " + std::to_string(window.turns) +
-                         " whole turns lie before " + shortNumber(span_.time, 6) + " s, " +
-                         std::to_string(span_.turns) + " were to be shown");
+    refuseGap(recording, window.first, window.last);
+    const bool asked = std::any_of(show_.begin(), show_.end(), [](const CurveRequest& request) {
+        return isOfShownTurns(request.kind);
+    });
+    if (asked && window.turns < span_.turns) {
+        note(recording, {std::to_string(window.turns) + " whole turns lie before " +
+                         shortNumber(span_.time, 6) + " s, " + std::to_string(span_.turns) +
+                         " were to be shown"});
     }
 }
 
-void OrbitScene::assign(std::vector<Recording> recordings, const RenderOptions& options) {
+std::string OrbitScene::curveName(std::size_t recording, const CurveRequest& request) const {
+    if (show_.size() == 1 && request.kind != CurveKind::Reference) return names_[recording];
+    if (names_.size() == 1 || request.kind == CurveKind::Reference) return wordsOf(request);
+    return names_[recording] + ' ' + wordsOf(request);
+}
+
+void OrbitScene::addDerived(const std::vector<Recording>& recordings,
+                            const RenderOptions& options) {
+    if (show_ == std::vector{CurveRequest{}}) return;
+    std::size_t color = hasAny(show_, CurveKind::Raw) ? recordings.size() : 0;
     for (std::size_t i = 0; i < recordings.size(); ++i) {
-        const RawOrbitStyle style{names_[i], colorOf(i, options)};
+        DerivedCurves derived(recordings[i], span_, options);
+        for (const CurveRequest& request : show_) {
+            const bool drawnBefore = request.kind == CurveKind::Reference && i > 0;
+            if (request.kind == CurveKind::Raw || drawnBefore) continue;
+            const ChannelStyle style{curveName(i, request), colorOf(color++, options)};
+            try {
+                assignDerived(host_.description, derived.make(request, style));
+            } catch (const AnalysisError& error) {
+                refuse(recordings[i], error.what());
+            }
+            curveNames_.push_back(style.name);
+        }
+        note(recordings[i], derived.notes());
+    }
+}
+
+void OrbitScene::addRaw(std::vector<Recording> recordings, const RenderOptions& options) {
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < recordings.size(); ++i) {
+        names.push_back(curveName(i, {}));
+        const RawOrbitStyle style{names.back(), colorOf(i, options)};
         assignRawOrbit(host_.description, rawOrbit(std::move(recordings[i]), style));
     }
+    curveNames_.insert(curveNames_.begin(), names.begin(), names.end());
 }
 
 }  // namespace Rotavue::Cli

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/render_options.h"
+#include "cli/shown_span.h"
 #include "host_kit/memory/memory_host.h"
 #include "workbench/recording/recording.h"
 
@@ -10,17 +11,8 @@
 
 namespace Rotavue::Cli {
 
-/// What of the recordings is on show.
-struct ShownSpan {
-    bool byTurns = false;
-    int turns = 0;              ///< asked for
-    int turnsThere = 0;         ///< whole ones in the first recording
-    double milliseconds = 0.0;  ///< where not by turns
-    double time = 0.0;          ///< s after the first sample, of the newest one
-    double speed = 0.0;         ///< rpm, the mean over the span; 0: not known
-};
-
-/// Recordings as a host that analyses them shows them to one control: a group each.
+/// Recordings as a host that analyses them shows them to one control: a group for each raw orbit, a
+/// channel for each derived curve.
 class OrbitScene {
 public:
     /// Reads the recordings. Raises `RecordingError`, and `std::runtime_error` where they cannot be
@@ -32,7 +24,16 @@ public:
     Workbench::Coupling coupling() const { return coupling_; }
     const ShownSpan& span() const { return span_; }
 
-    /// The recordings' names, as in the legend.
+    /// Whether the first recording tells the shaft's speed.
+    bool hasSpeed() const { return hasSpeed_; }
+
+    /// What is shown of each recording.
+    const std::vector<CurveRequest>& show() const { return show_; }
+
+    /// The curves, as in the legend.
+    const std::vector<std::string>& curveNames() const { return curveNames_; }
+
+    /// The recordings' names.
     const std::vector<std::string>& names() const { return names_; }
 
     /// What a person should know of the recordings and of what is shown, one line each.
@@ -43,13 +44,26 @@ private:
     void chooseSpan(const std::vector<Workbench::Recording>& recordings,
                     const RenderOptions& options);
     void measureSpan(const Workbench::Recording& recording, std::size_t position);
-    void assign(std::vector<Workbench::Recording> recordings, const RenderOptions& options);
+
+    /// Raises `std::runtime_error` for samples to be drawn that are all gaps: a gap holds the
+    /// values before it, and would show a shaft that stands.
+    void refuseGap(const Workbench::Recording& recording, std::size_t first,
+                   std::size_t last) const;
+
+    void note(const Workbench::Recording& recording, const std::vector<std::string>& notes);
+    void addDerived(const std::vector<Workbench::Recording>& recordings,
+                    const RenderOptions& options);
+    void addRaw(std::vector<Workbench::Recording> recordings, const RenderOptions& options);
+    std::string curveName(std::size_t recording, const CurveRequest& request) const;
 
     HostKit::MemoryHost host_;
     Workbench::MachineFacts machine_;
     Workbench::Coupling coupling_ = Workbench::Coupling::Dc;
     ShownSpan span_;
+    bool hasSpeed_ = false;
+    std::vector<CurveRequest> show_;
     std::vector<std::string> names_;
+    std::vector<std::string> curveNames_;
     std::vector<std::string> notes_;
 };
 

@@ -2,6 +2,8 @@
 
 #include "cli/fact_words.h"
 
+#include <algorithm>
+
 namespace Rotavue::Cli {
 
 namespace {
@@ -15,13 +17,36 @@ std::string titleOf(const OrbitScene& scene) {
     return title.empty() ? scene.names().front() : title;
 }
 
-std::string modeText(const OrbitScene& scene) {
+/// Which curves there are: "direct + average", as the field calls them.
+std::string curvesText(const OrbitScene& scene) {
+    std::string words;
+    for (const CurveRequest& request : scene.show()) {
+        if (!words.empty()) words += " + ";
+        words += request.kind == CurveKind::Raw ? "direct" : wordsOf(request);
+    }
+    return scene.coupling() == Coupling::Ac ? words + ", AC" : words;
+}
+
+/// How much of the recording they show; empty where that is told by none of them.
+std::string amountText(const OrbitScene& scene) {
+    // What the plug-in shows of such a curve where the others are shown by turns.
+    constexpr double SubSyncMilliseconds = 100.0;
     const ShownSpan& span = scene.span();
-    const std::string amount = span.byTurns ? std::to_string(span.turnsThere) : std::string();
-    const std::string turns = span.turnsThere == 1 ? " turn" : " turns";
-    const std::string shown =
-        span.byTurns ? amount + turns : shortNumber(span.milliseconds) + " ms";
-    return std::string(scene.coupling() == Coupling::Ac ? "direct, AC" : "direct") + ", " + shown;
+    const auto showsAny = [&](auto&& test) {
+        return std::any_of(scene.show().begin(), scene.show().end(),
+                           [&](const CurveRequest& request) { return test(request.kind); });
+    };
+    if (!showsAny(isOfShownTurns)) {
+        if (!showsAny([](CurveKind kind) { return kind == CurveKind::SubSync; })) return {};
+        return shortNumber(span.byTurns ? SubSyncMilliseconds : span.milliseconds) + " ms";
+    }
+    if (!span.byTurns) return shortNumber(span.milliseconds) + " ms";
+    return std::to_string(span.turnsThere) + (span.turnsThere == 1 ? " turn" : " turns");
+}
+
+std::string modeText(const OrbitScene& scene) {
+    const std::string amount = amountText(scene);
+    return curvesText(scene) + (amount.empty() ? "" : ", ") + amount;
 }
 
 std::string rotationText(const MachineFacts& machine) {

@@ -9,6 +9,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <iostream>
 
 namespace Rotavue::Cli {
@@ -21,7 +22,11 @@ constexpr const char* Help =
     "  rotavue render unbalance.csv -o unbalance.png\n"
     "  rotavue render unbalance.csv -o report.pdf --circle --clearance --revolutions 1\n"
     "  rotavue render raw.csv -o raw.svg --time 50 --x-angle '45 R' --y-angle '45 L'\n"
-    "  rotavue render before.csv after.csv -o both.png --size 1600x1200 --dark\n";
+    "  rotavue render before.csv after.csv -o both.png --size 1600x1200 --dark\n"
+    "  rotavue render pump.csv -o pump.png --show "
+    "raw,average,harmonic:1+2,reference:slow-roll.csv\n"
+    "  rotavue render run-up.csv -o center.png --show shaft-center --clearance\n"
+    "  rotavue render pump.csv -o value.png --show average --pointer 500,200\n";
 
 constexpr const char* PictureGroup = "The picture";
 constexpr const char* OrbitGroup = "What is shown";
@@ -46,6 +51,7 @@ CLI::App* RenderCommand::declare(CLI::App& program) {
     declarePicture(*command);
     declareOrbit(*command);
     declareScale(*command);
+    curves_.declare(*command);
     recordingArguments_.declare(*command);
     command
         ->add_option("--module", module_,
@@ -73,13 +79,19 @@ void RenderCommand::declarePicture(CLI::App& command) {
     command.add_option("--text-height", textHeight_, "pixels (what suits the size)")
         ->type_name("N")
         ->group(PictureGroup);
-    CLI::Option* dark = command.add_flag("--dark", dark_, "light lines on black");
+    CLI::Option* dark =
+        command.add_flag("--dark", dark_, "light lines on black; so it is with shaft-center");
     CLI::Option* light =
-        command.add_flag("--light", light_, "dark lines on white; so it is unless --dark");
+        command.add_flag("--light", light_, "dark lines on white; so it is without shaft-center");
     dark->group(PictureGroup);
     light->group(PictureGroup)->excludes(dark);
     command
         .add_flag("--no-header", noHeader_, "leave out the strip with machine, probes and scale")
+        ->group(PictureGroup);
+    command
+        .add_option("--pointer", pointer_,
+                    "read out the curve next to this place: pixels of --size from the upper left")
+        ->type_name("X,Y")
         ->group(PictureGroup);
 }
 
@@ -127,6 +139,9 @@ RenderOptions RenderCommand::options() const {
     readPicture(options);
     readOrbit(options);
     readScale(options);
+    readPointer(options);
+    curves_.read(options);
+    readScheme(options);
     return options;
 }
 
@@ -142,8 +157,6 @@ void RenderCommand::readPicture(RenderOptions& options) const {
     if (textHeight_) {
         picture.textHeight = wholeNumber("--text-height", *textHeight_, 1, LargestTextHeight);
     }
-    options.scheme = dark_ ? DarkNumber : LightNumber;
-    picture.colors = colorsOf(options.scheme);
     options.header = !noHeader_;
 }
 
@@ -171,6 +184,22 @@ void RenderCommand::readScale(RenderOptions& options) const {
         throw UsageError("--limits", *limits_, "round, auto or a number from 1e-06 to 1e+12");
     }
     options.limit = *value;
+}
+
+void RenderCommand::readScheme(RenderOptions& options) const {
+    // The newest position is a white dot.
+    const bool whiteDot = std::any_of(
+        options.show.begin(), options.show.end(),
+        [](const CurveRequest& request) { return request.kind == CurveKind::ShaftCenter; });
+    options.scheme = dark_ || (whiteDot && !light_) ? DarkNumber : LightNumber;
+    options.picture.colors = colorsOf(options.scheme);
+}
+
+void RenderCommand::readPointer(RenderOptions& options) const {
+    if (!pointer_) return;
+    const Workbench::PictureOrder& picture = options.picture;
+    options.pointer = pointIn("--pointer", *pointer_, {picture.width, picture.height});
+    options.picture.readout = true;
 }
 
 int RenderCommand::run() {

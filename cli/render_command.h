@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/command.h"
+#include "cli/curve_arguments.h"
 #include "cli/recording_arguments.h"
 #include "cli/render_options.h"
 
@@ -26,8 +27,11 @@ private:
     void readPicture(RenderOptions& options) const;
     void readOrbit(RenderOptions& options) const;
     void readScale(RenderOptions& options) const;
+    void readPointer(RenderOptions& options) const;
+    void readScheme(RenderOptions& options) const;
 
     std::vector<std::string> recordings_;
+    CurveArguments curves_;
     RecordingArguments recordingArguments_;
 
     std::string output_;
@@ -39,11 +43,12 @@ private:
     std::optional<std::string> scale_;
     std::optional<std::string> textHeight_;
     bool dark_ = false;
-    bool light_ = false;  ///< says what holds without it
+    bool light_ = false;
     bool noHeader_ = false;
+    std::optional<std::string> pointer_;
 
     bool circle_ = false;
-    bool grid_ = false;  ///< likewise
+    bool grid_ = false;  ///< says what holds without it
     std::optional<std::string> revolutions_;
     std::optional<std::string> milliseconds_;
     std::optional<std::string> at_;

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "cli/argument_values.h"
+#include "cli/curve_request.h"
 #include "cli/graph_scale.h"
+#include "workbench/analysis/shaft_center.h"
+#include "workbench/analysis/time_span.h"
 #include "workbench/paint/picture_studio.h"
 #include "workbench/recording/recording.h"
 
@@ -18,6 +22,17 @@ enum class LimitChoice : std::uint8_t {
     Fixed,  ///< as given
 };
 
+/// What stands beside the positions of the shaft's centre.
+enum class PositionLabels : std::uint8_t { Speed, Time };
+
+/// How the history of the shaft's centre is made and told.
+struct ShaftCenterChoice {
+    std::optional<double> interval;  ///< s for each position; unset: what suits the recording
+    Workbench::RestPosition rest = Workbench::RestPosition::Centre;
+    std::optional<Workbench::TimeSpan> restSpan;
+    std::optional<PositionLabels> labels;  ///< unset: the speed where it is known
+};
+
 /// What `render` was asked for, every value checked.
 struct RenderOptions {
     std::vector<std::string> recordings;
@@ -26,9 +41,13 @@ struct RenderOptions {
     std::int32_t scheme = 0;
     bool header = true;
     Background background = Background::Grid;
+    std::vector<CurveRequest> show{CurveRequest{}};
     std::optional<int> revolutions;
     std::optional<double> milliseconds;
-    std::optional<double> at;  ///< s after the first sample; unset: the end
+    std::optional<double> at;     ///< s after the first sample; unset: the end
+    std::optional<double> speed;  ///< rpm, of a recording without keyphasor
+    ShaftCenterChoice shaftCenter;
+    std::optional<PicturePoint> pointer;  ///< in pixels of the size asked for
     bool clearance = false;
     std::optional<std::int32_t> ticks;
     LimitChoice limits = LimitChoice::Round;

@@ -36,22 +36,26 @@ double limit(const DrivenControl::Settings& saved, const wchar_t* key) {
 
 }  // namespace
 
-DrivenControl::Settings settingsFor(const RenderOptions& options, const ShownSpan& span,
-                                    std::int32_t ticks, std::optional<double> limit) {
+DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitScene& scene,
+                                    const PlotLayout& layout) {
+    const ShownSpan& span = scene.span();
+    const PositionLabels usual = scene.hasSpeed() ? PositionLabels::Speed : PositionLabels::Time;
+    const PositionLabels labels = options.shaftCenter.labels.value_or(usual);
     DrivenControl::Settings settings{
-        {L"useManualMagnitudeLimits", text(limit.has_value())},
+        {L"useManualMagnitudeLimits", text(layout.limit.has_value())},
         {L"drawClearance", text(options.clearance)},
         {L"clearanceColor", text(static_cast<int>(ClearanceColor))},
         {L"displayTime", text(span.milliseconds)},
         {L"revolutions", text(span.turns)},
-        {L"tickCount", text(ticks)},
-        {L"singleAxis", text(true)},
+        {L"tickCount", text(layout.ticks)},
+        {L"singleAxis", text(layout.legendInRow)},
+        {L"displayType", text(labels == PositionLabels::Time ? 1 : 0)},
         {L"graphType", text(options.background == Background::Circle ? 1 : 0)},
         {L"historyType", text(span.byTurns ? 0 : 1)},
     };
-    if (limit) {
-        settings[L"minXValue"] = settings[L"minYValue"] = text(-*limit);
-        settings[L"maxXValue"] = settings[L"maxYValue"] = text(*limit);
+    if (layout.limit) {
+        settings[L"minXValue"] = settings[L"minYValue"] = text(-*layout.limit);
+        settings[L"maxXValue"] = settings[L"maxYValue"] = text(*layout.limit);
     }
     return settings;
 }

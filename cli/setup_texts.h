@@ -10,9 +10,16 @@
 /// What `render` asked for as the texts of a setup document, and what a control saved there.
 namespace Rotavue::Cli {
 
-/// Every setting that matters to a raw orbit. Without `limit` the plug-in finds its limits itself.
-DrivenControl::Settings settingsFor(const RenderOptions& options, const ShownSpan& span,
-                                    std::int32_t ticks, std::optional<double> limit);
+/// How the plot is laid out.
+struct PlotLayout {
+    std::int32_t ticks = 5;
+    std::optional<double> limit;  ///< unset: the plug-in finds its limits itself
+    bool legendInRow = true;      ///< all names in one line, or a line each
+};
+
+/// Every setting that matters to the scene.
+DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitScene& scene,
+                                    const PlotLayout& layout);
 
 /// The larger of the x limits' amounts in saved settings.
 double limitIn(const DrivenControl::Settings& saved);

@@ -1,0 +1,131 @@
+#include "cli/derived_curves.h"
+
+#include "workbench/analysis/analysis_error.h"
+#include "workbench/analysis/averaged_orbit.h"
+#include "workbench/analysis/harmonics.h"
+#include "workbench/analysis/reference_orbit.h"
+#include "workbench/analysis/shaft_center.h"
+#include "workbench/analysis/sub_synchronous.h"
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <stdexcept>
+
+namespace Rotavue::Cli {
+
+namespace {
+
+using namespace Workbench;
+using HostKit::ChannelDescription;
+
+/// The smallest number of 1, 2 or 5 times a power of ten that is not below.
+double roundInterval(double value) {
+    const double power = std::pow(10.0, std::floor(std::log10(value)));
+    for (const double step : {1.0, 2.0, 5.0})
+        if (step * power >= value) return step * power;
+    return 10.0 * power;
+}
+
+ReferenceOrbit stored(const std::filesystem::path& file) {
+    try {
+        return loadReference(file);
+    } catch (const AnalysisError& error) {
+        throw std::runtime_error(error.what());  // which names the file
+    }
+}
+
+/// The mean over all turns of a recording.
+ReferenceOrbit averaged(const std::filesystem::path& file, const RecordingOptions& options) {
+    const Recording recording = readRecording(file, options);
+    try {
+        return referenceFrom(averageOrbit(recording, ShaftTrack(recording)), recording);
+    } catch (const AnalysisError& error) {
+        throw std::runtime_error(file.string() + ": " + error.what());
+    }
+}
+
+ReferenceOrbit readReference(const std::filesystem::path& file, const RecordingOptions& options) {
+    return file.extension() == ".json" ? stored(file) : averaged(file, options);
+}
+
+}  // namespace
+
+double usualInterval(double length, double speed, double sampleRate) {
+    constexpr double Positions = 30.0;
+    constexpr double Turns = 2.0;
+    constexpr double SecondsPerMinute = 60.0;
+    const double turning = speed > 0.0 ? Turns * SecondsPerMinute / speed : 0.0;
+    return roundInterval(std::max({length / Positions, turning, 1.0 / sampleRate}));
+}
+
+DerivedCurves::DerivedCurves(const Recording& recording, const ShownSpan& span,
+                             const RenderOptions& options)
+    : recording_(recording), span_(span), options_(options), track_(recording) {
+    note(track_.notes());
+}
+
+void DerivedCurves::note(const std::vector<std::string>& notes) {
+    notes_.insert(notes_.end(), notes.begin(), notes.end());
+}
+
+ChannelDescription DerivedCurves::make(const CurveRequest& request, const ChannelStyle& style) {
+    switch (request.kind) {
+        case CurveKind::Average:
+            return average(style);
+        case CurveKind::Harmonic:
+            return harmonic(request, style);
+        case CurveKind::SubSync:
+            return subSync(style);
+        case CurveKind::Reference:
+            return reference(request, style);
+        case CurveKind::ShaftCenter:
+            return shaftCenter(style);
+        case CurveKind::Raw:
+            break;
+    }
+    throw std::logic_error("a raw orbit is no derived curve");
+}
+
+ChannelDescription DerivedCurves::average(const ChannelStyle& style) const {
+    const AverageOptions options{.span = stretchOf(span_, track_)};
+    return averageChannel(averageOrbit(recording_, track_, options), recording_, style);
+}
+
+ChannelDescription DerivedCurves::harmonic(const CurveRequest& request,
+                                           const ChannelStyle& style) const {
+    const Harmonics found =
+        findHarmonics(recording_, track_, request.orders, stretchOf(span_, track_));
+    return harmonicChannel(found, recording_, style);
+}
+
+ChannelDescription DerivedCurves::subSync(const ChannelStyle& style) {
+    const SubSyncOrbit orbit =
+        subSynchronousOrbit(recording_, track_, {.band = {}, .speed = options_.speed});
+    note(orbit.notes);
+    return subSyncChannel(orbit, recording_, style);
+}
+
+ChannelDescription DerivedCurves::reference(const CurveRequest& request,
+                                            const ChannelStyle& style) const {
+    const ReferenceOrbit orbit = readReference(request.file, options_.recording);
+    checkComparable(orbit, recording_);
+    return referenceChannel(orbit, recording_, style);
+}
+
+ChannelDescription DerivedCurves::shaftCenter(const ChannelStyle& style) {
+    const ShaftCenterChoice& choice = options_.shaftCenter;
+    // With the newest sample itself.
+    const double end = span_.time + 1.0 / recording_.sampleRate;
+    const double usual = usualInterval(end, recording_.meanSpeed, recording_.sampleRate);
+    const ShaftCenterHistory history =
+        shaftCenterHistory(recording_, track_,
+                           {.span = {0.0, end},
+                            .interval = choice.interval.value_or(usual),
+                            .rest = choice.rest,
+                            .restSpan = choice.restSpan});
+    note(history.notes);
+    return shaftCenterChannel(history, recording_, style);
+}
+
+}  // namespace Rotavue::Cli

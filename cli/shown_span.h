@@ -1,0 +1,23 @@
+#pragma once
+
+#include "workbench/analysis/shaft_track.h"
+#include "workbench/analysis/time_span.h"
+
+namespace Rotavue::Cli {
+
+/// What of the recordings is on show.
+struct ShownSpan {
+    bool byTurns = false;
+    int turns = 0;              ///< asked for
+    int turnsThere = 0;         ///< whole ones in the first recording
+    double milliseconds = 0.0;  ///< where not by turns
+    double time = 0.0;          ///< s after the first sample, of the newest one
+    double speed = 0.0;         ///< rpm, the mean over the span; 0: not known
+};
+
+/// The same as a stretch of one recording, for what is computed from whole turns: by turns it
+/// begins and ends with a passing of the keyphasor, as many turns apart as there are. Where no turn
+/// is to be had it reaches back to the first sample.
+Workbench::TimeSpan stretchOf(const ShownSpan& span, const Workbench::ShaftTrack& track);
+
+}  // namespace Rotavue::Cli
