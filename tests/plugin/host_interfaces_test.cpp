@@ -30,6 +30,10 @@ struct Interface {
     std::vector<Place> places;
 };
 
+void PrintTo(const Interface& one, std::ostream* out) {
+    *out << one.name;
+}
+
 /// The whole of a file as one text.
 std::string textOf(const SourceFile& file) {
     std::string text;
