@@ -7,6 +7,7 @@
 #include <algorithm>
 
 namespace Meridax::VisualControls::Rotavue {
+
 OrbitCurve RotavueVisualControl::readRawCurve(Host::IHostChannelList& group) {
     const Host::Ref<Host::IHostChannel> channel = group.getItem(0);
     applyBearingConfig(*channel);

@@ -99,6 +99,15 @@ TEST_F(ChannelChecks, HistoryByTimeStaysAndNothingIsShownAgain) {
     EXPECT_TRUE(linesOf(calls, "IHostVisualControl.refreshSetup").empty());
 }
 
+TEST_F(ChannelChecks, OnlyHistoryByRevolutionsIsMoved) {
+    assignTwoGroups();
+    host.description.assigned.groups[0].channels.pop_back();
+    key.graph.setHistoryType(2);  // a number of a damaged setup
+    control.onChannelsChanged(1);
+    EXPECT_TRUE(key.tachoMissing);
+    EXPECT_EQ(key.graph.historyType(), 2);
+}
+
 TEST_F(ChannelChecks, TachoChannelsThatAreBackEndTheFaultButNotTheHistoryByTime) {
     assignTwoGroups();
     host.description.assigned.groups[0].channels.push_back("third");

@@ -27,6 +27,14 @@ TEST_F(SubSyncCurve, ShowsATenthOfASecondByRevolutions) {
     EXPECT_EQ(key.dataExtents.range(), (Range{3.0, 4.0, 7.0, 8.0}));
 }
 
+TEST_F(SubSyncCurve, AnyHistoryTypeButTimeShowsATenthOfASecond) {
+    key.displayTime = 150.0;
+    for (const std::int32_t type : {0, 2, -1}) {
+        key.graph.setHistoryType(type);
+        EXPECT_EQ(read().points.size(), 2U) << type;
+    }
+}
+
 TEST_F(SubSyncCurve, ShowsTheDisplayTimeByTime) {
     key.graph.setHistoryType(1);
     key.displayTime = 50.0;

@@ -102,6 +102,15 @@ TEST_F(Pointer, FlagsStayAfterASwitchToAutoScale) {
     EXPECT_EQ(answer(L"5"), Lines{}) << "and do no harm";
 }
 
+TEST_F(Pointer, HoverNeedsAOneAndAReleaseAnythingButZero) {
+    moveTo(65, 245);
+    key.graph.setManualLimits(2);
+    moveTo(50, 65);
+    EXPECT_EQ(hovered(), (std::vector<bool>{true, false, false, false})) << "as it was";
+    answer(L"-4");
+    EXPECT_EQ(limits(), (Range{-4, 4, -4, 4}));
+}
+
 TEST_F(Pointer, LabelIsEditedInPlaceAtThePointOfTheClick) {
     moveTo(65, 245);
     EXPECT_EQ(answer(L"-4"), Lines{R"(IHostVisualControl.editText(5, 6, "-1") -> [true, "-4"])"});

@@ -308,6 +308,13 @@ TEST_F(StampedSample, BeforeTheFirstOneIsZeroWithoutAsking) {
     EXPECT_EQ(calls.back(), "IHostChannel.isAsynchronous[c]() -> true");
 }
 
+TEST_F(StampedSample, CursorOfAnotherNegativeNumberIsNotSearchedFor) {
+    control.sampleCursor = -2;  // as a host may leave it
+    const Lines calls = callsOf([&] { EXPECT_EQ(sample(0), 0.0); });
+    EXPECT_EQ(calls.back(), "IHostChannel.isAsynchronous[c]() -> true");
+    EXPECT_EQ(control.sampleCursor, -2);
+}
+
 TEST_F(StampedSample, SearchInVainIsTriedAgainByTheNextSample) {
     host.description.host.currentPosition = {0, 0};
     control.sampleCursor = -1;
