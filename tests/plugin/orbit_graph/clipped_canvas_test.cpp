@@ -1,6 +1,7 @@
 #include "plugin/orbit_graph/clipped_canvas.h"
 
 #include "tests/plugin/orbit_graph/recording_canvas.h"
+#include "tests/plugin/setup_document/exhausted_memory.h"
 
 #include <gtest/gtest.h>
 
@@ -76,6 +77,16 @@ TEST_F(ClippedCanvasTest, TextIsDroppedWithItsBox) {
     clipped_.textRect({1, 2, 3, 4}, L"in", 0x100);
     clipped_.textRect({40000, 2, 50000, 4}, L"out", 0x100);
     EXPECT_EQ(canvas_.taken(), (Lines{"IHostCanvas.TextRect(1, 2, 3, 4, \"in\", 256)"}));
+}
+
+TEST_F(ClippedCanvasTest, TextIsCopiedBeforeItsBoxIsTested) {
+    // Where the copy gets no memory, a box that would be dropped raises as well.
+    const std::wstring text(100, L'A');
+    for (const double left : {0.0, 40000.0}) {
+        const auto draw = [&] { clipped_.textRect({left, 0, left, 0}, text, 0x100); };
+        EXPECT_EQ(Meridax::Tests::statusWithMemoryFor(0, draw), Host::Status::OutOfMemory) << left;
+    }
+    EXPECT_TRUE(canvas_.taken().empty());
 }
 
 TEST_F(ClippedCanvasTest, PolygonLeavesOutThePointsBeyond) {
