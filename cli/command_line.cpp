@@ -6,11 +6,13 @@
 #include "cli/play_command.h"
 #include "cli/register_command.h"
 #include "cli/render_command.h"
+#include "cli/setup_command.h"
 #include "workbench/recording/nearest_name.h"
 #include "workbench/recording/recording_error.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <iostream>
 
 namespace Rotavue::Cli {
@@ -43,6 +45,7 @@ CommandLine::CommandLine() : app_(Help, "rotavue") {
     add(std::make_unique<RenderCommand>());
     add(std::make_unique<InfoCommand>());
     add(std::make_unique<AnalyzeCommand>());
+    add(std::make_unique<SetupCommand>());
     add(std::make_unique<PlayCommand>());
     add(std::make_unique<RegisterCommand>());
     add(std::make_unique<UnregisterCommand>());
@@ -63,22 +66,34 @@ void CommandLine::checkCommandName(int count, const char* const* arguments) cons
     throw UsageError(withNearest("there is no command ", word, names));
 }
 
+std::vector<const CLI::App*> CommandLine::named() const {
+    std::vector<const CLI::App*> chain{&app_};
+    while (!chain.back()->get_subcommands().empty())
+        chain.push_back(chain.back()->get_subcommands().front());
+    return chain;
+}
+
 std::string CommandLine::unknownOption(const std::string& option) const {
     std::vector<std::string> names;
-    for (const auto& [declared, command] : commands_) {
-        if (!declared->parsed()) continue;
-        for (const CLI::Option* known : declared->get_options())
-            for (const std::string& name : known->get_lnames())
-                names.push_back("--" + name);
-    }
-    if (names.empty()) names = {"--help", "--version"};
+    for (const CLI::Option* known : named().back()->get_options())
+        for (const std::string& name : known->get_lnames())
+            names.push_back("--" + name);
     return withNearest("there is no option ", option.substr(0, option.find('=')), names);
 }
 
+std::string CommandLine::unknownWord(const std::string& word) const {
+    std::vector<std::string> names;
+    for (const CLI::App* known : named().back()->get_subcommands({}))
+        names.push_back(known->get_name());
+    if (names.empty()) return "found " + Workbench::inQuotes(word) + ", allowed: nothing more";
+    return withNearest("there is no command ", word, names);
+}
+
 std::string CommandLine::nameForErrors() const {
-    for (const auto& [declared, command] : commands_)
-        if (declared->parsed()) return "rotavue " + declared->get_name();
-    return "rotavue";
+    std::string text;
+    for (const CLI::App* command : named())
+        text += (text.empty() ? "" : " ") + command->get_name();
+    return text;
 }
 
 void CommandLine::parse(int count, const char* const* arguments) {
@@ -88,8 +103,12 @@ void CommandLine::parse(int count, const char* const* arguments) {
     } catch (const CLI::Success&) {
         throw;
     } catch (const CLI::ParseError& error) {
-        for (const std::string& left : app_.remaining(true))
-            if (left.size() > 1 && left[0] == '-') throw UsageError(unknownOption(left));
+        const std::vector<std::string> left = app_.remaining(true);
+        const auto option = std::find_if(left.begin(), left.end(), [](const std::string& word) {
+            return word.size() > 1 && word[0] == '-';
+        });
+        if (option != left.end()) throw UsageError(unknownOption(*option));
+        if (!left.empty()) throw UsageError(unknownWord(left.front()));
         throw UsageError(error.what());
     }
 }

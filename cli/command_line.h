@@ -28,8 +28,12 @@ private:
     /// Raises `UsageError` for a first word that is no sub-command, with the nearest one.
     void checkCommandName(int count, const char* const* arguments) const;
 
-    /// What is wrong with an option that nobody takes.
+    /// The program and the sub-commands that were named, each below the one before.
+    std::vector<const CLI::App*> named() const;
+
+    /// What is wrong with an option, or another word, that nobody takes.
     std::string unknownOption(const std::string& option) const;
+    std::string unknownWord(const std::string& word) const;
 
     /// "rotavue render" where that sub-command was named.
     std::string nameForErrors() const;

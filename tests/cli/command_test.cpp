@@ -42,11 +42,10 @@ CommandTest::~CommandTest() {
 }
 
 ProcessOrder CommandTest::order(const std::vector<std::string>& arguments) const {
-    ProcessOrder order{.arguments = {programFile()},
-                       .folder = folder_,
-                       .environment = environment_,
-                       .user = {},
-                       .largestFile = {}};
+    ProcessOrder order;
+    order.arguments = {programFile()};
+    order.folder = folder_;
+    order.environment = environment_;
     order.arguments.insert(order.arguments.end(), arguments.begin(), arguments.end());
     return order;
 }

@@ -34,10 +34,11 @@ struct Pipe {
     }
 };
 
-void limitFiles(std::size_t bytes) {
+/// Ignored, the signal leaves it to the write to fail, as one on a full disk does.
+void limitFiles(std::size_t bytes, bool endThere) {
     const ::rlimit limit{bytes, bytes};
     ::setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, SIG_IGN);  // the write itself fails, as one on a full disk does
+    std::signal(SIGXFSZ, endThere ? SIG_DFL : SIG_IGN);
 }
 
 bool becomeUser(unsigned user) {
@@ -48,7 +49,7 @@ void takeConditions(const ProcessOrder& order) {
     if (::chdir(order.folder.c_str()) != 0) ::_exit(NotStarted);
     for (const auto& [name, value] : order.environment)
         value.empty() ? ::unsetenv(name.c_str()) : ::setenv(name.c_str(), value.c_str(), 1);
-    if (order.largestFile) limitFiles(*order.largestFile);
+    if (order.largestFile) limitFiles(*order.largestFile, order.endAtLargest);
     if (order.user && !becomeUser(*order.user)) ::_exit(NotStarted);
 }
 

@@ -15,7 +15,8 @@ struct ProcessOrder {
     std::filesystem::path folder;                    ///< the working folder
     std::map<std::string, std::string> environment;  ///< beside what is inherited; "" takes it away
     std::optional<unsigned> user;                    ///< an id to run as; root alone may ask
-    std::optional<std::size_t> largestFile;  ///< bytes: what goes beyond fails as on a full disk
+    std::optional<std::size_t> largestFile;  ///< bytes; what goes beyond fails as on a full disk
+    bool endAtLargest = false;               ///< it ends the program at that byte instead
 };
 
 /// How a program ended and what it said.
