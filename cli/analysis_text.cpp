@@ -78,10 +78,13 @@ std::string spanText(const OrbitSummary& window) {
     return shortNumber(window.span.from, 6) + " to " + shortNumber(window.span.to, 6) + " s";
 }
 
+/// The speeds at the ends stand beside the mean where they differ by more than single turns do.
 std::string blockSpeed(const OrbitSummary& window) {
+    constexpr double Even = 0.005;
     if (!window.speed) return "not known";
-    return fixed(*window.speed, 1) + " rpm, from " + fixed(*window.speedFirst, 1) + " to " +
-           fixed(*window.speedLast, 1);
+    const std::string mean = fixed(*window.speed, 1) + " rpm";
+    if (std::abs(*window.speedLast - *window.speedFirst) <= Even * *window.speed) return mean;
+    return mean + ", from " + fixed(*window.speedFirst, 1) + " to " + fixed(*window.speedLast, 1);
 }
 
 std::string gapText(const AnalysisReport& report, const OrbitSummary& window) {
@@ -124,7 +127,7 @@ std::string orderTable(const AnalysisReport& report, const OrbitSummary& window)
         addVector(line, text, vectors.x, factor);
         addVector(line, text, vectors.y, factor);
         line.push_back(text(ellipse.semiMajor) + " x " + text(ellipse.semiMinor));
-        line.emplace_back(toText(ellipse.precession));
+        line.emplace_back(text.isZero(ellipse.semiMajor) ? Unknown : toText(ellipse.precession));
         table.add(std::move(line));
     }
     return table.text();

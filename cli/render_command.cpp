@@ -50,8 +50,8 @@ CLI::App* RenderCommand::declare(CLI::App& program) {
         ->type_name("");
     declarePicture(*command);
     declareOrbit(*command);
-    declareScale(*command);
     curves_.declare(*command);
+    declareScale(*command);
     recordingArguments_.declare(*command);
     command
         ->add_option("--module", module_,

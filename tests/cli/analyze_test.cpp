@@ -46,14 +46,14 @@ TEST_F(AnalyzeTest, TellsSpeedOrdersAndGapInLines) {
               "file         rotor.csv\n"
               "probes       X 90\u00b0 R, Y 0\u00b0\n"
               "span         0 to 2 s\n"
-              "speed        1200.0 rpm, from 1200.0 to 1200.0\n"
+              "speed        1200.0 rpm\n"
               "gap          X 0.00 um, Y 0.00 um; centre 0.00 um right, 0.00 um up\n"
               "direct       X 60.00 um pp, Y 39.92 um pp, Smax 30.00 um\n"
               "orders       lag: degrees from the pulse to the next positive peak\n"
               "\n"
               "order  X um peak  X lag  Y um peak  Y lag   half axes um  precession\n"
               "1X         30.00    3.6      20.00   93.6  30.00 x 20.00     unknown\n"
-              "2X          0.00      -       0.00      -    0.00 x 0.00     unknown\n");
+              "2X          0.00      -       0.00      -    0.00 x 0.00           -\n");
 }
 
 TEST_F(AnalyzeTest, TellsTheSameToPrograms) {
@@ -68,6 +68,27 @@ TEST_F(AnalyzeTest, TellsTheSameToPrograms) {
     EXPECT_NEAR(first.at("y").at("lag").get<double>(), 93.6, 1e-3);
     EXPECT_EQ(facts.at("units").at("amplitude"), "um peak");
     EXPECT_EQ(facts.at("units").at("speed"), "rpm");
+}
+
+TEST_F(AnalyzeTest, SpeedThatChangesIsToldFromEndToEnd) {
+    // The angle of a shaft that gains 20 turns a second in each of two seconds, 10 t^2 turns.
+    std::string text = "t,x,y,phi\n";
+    for (int i = 0; i < 2000; ++i) {
+        char line[80];
+        const double time = i / 1000.0;
+        std::snprintf(line, sizeof line, "%.3f,%.3f,0,%.4f\n", time,
+                      std::cos(2.0 * M_PI * 10.0 * time * time),
+                      360.0 * std::fmod(10.0 * time * time, 1.0));
+        text += line;
+    }
+    write("ramp.csv", text);
+    const ProcessEnd end = rotavue({"analyze", "ramp.csv", "--time", "1-2"});
+    // Turn 10 begins at 1 s, at 20 turns a second; of turn 40 the last sample misses a part, and
+    // turn 39 begins at sqrt(3.9) = 1.97484 s, at 39.4968 turns a second: 29 turns in between.
+    EXPECT_NE(end.out.find("\nspeed        1784.9 rpm, from 1200.0 to 2369.8\n"), std::string::npos)
+        << end.out;
+    EXPECT_NE(end.out.find("note         the speed runs from 1200 to 2370 rpm"), std::string::npos)
+        << end.out;
 }
 
 TEST_F(AnalyzeTest, RotationTellsThePrecession) {
