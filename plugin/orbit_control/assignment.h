@@ -5,16 +5,21 @@
 #include "plugin/framework/host/data/host_visual_control.h"
 #include "plugin/framework/host/ref.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace Meridax::VisualControls::Rotavue {
+
+/// How many channels, groups or members of a group are walked through at most: far more than a
+/// machine has bearings, and few enough for a host that claims to have any number of them.
+inline constexpr std::int32_t MostAssigned = 4096;
 
 /// Calls `use` with each plain channel of the control, in order. The collection is fetched anew; a
 /// null channel raises 0x80004003 when its turn comes.
 template <class Use>
 void forEachChannel(const Host::Ref<Host::IHostVisualControl>& control, Use use) {
     const auto channels = control->getChannels();
-    const std::int32_t count = channels->getCount();
+    const std::int32_t count = std::min(channels->getCount(), MostAssigned);
     for (std::int32_t i = 0; i < count; ++i)
         use(*channels->getItem(i));
 }
@@ -24,7 +29,7 @@ void forEachChannel(const Host::Ref<Host::IHostVisualControl>& control, Use use)
 template <class Use>
 void forEachGroup(const Host::Ref<Host::IHostVisualControl>& control, Use use) {
     const auto groups = control->getGroups();
-    const std::int32_t count = groups->getCount();
+    const std::int32_t count = std::min(groups->getCount(), MostAssigned);
     for (std::int32_t i = 0; i < count; ++i)
         use(*groups->getItem(i).template offered<Host::IHostChannelList>());
 }

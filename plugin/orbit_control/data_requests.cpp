@@ -46,7 +46,7 @@ void RotavueVisualControl::requestGroup(Host::IHostChannelList& group, DataWindo
     const std::optional<double> span = requestedSpan(group);
     if (!span) return;
     window.cutSeconds(*span);
-    const std::int32_t count = group.getCount();
+    const std::int32_t count = std::min(group.getCount(), MostAssigned);
     for (std::int32_t i = 0; i < count; ++i)
         dataRequestList_->add(*group.getItem(i));
     sendRequest(window.from, window.to);

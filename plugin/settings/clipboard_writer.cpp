@@ -124,12 +124,15 @@ void ClipboardWriter::addShaftCenter(Host::IHostChannel& channel) {
     }
 }
 
-// How many of the wanted rows the control's allowance still holds; a row takes a place for each tab
-// that it has, and so bounds the width as well as the length of the text.
+// How many of the wanted rows the text and the control's allowance still hold; a row takes a place
+// for each tab that it has, and so bounds the width as well as the length of the text.
 std::int32_t ClipboardWriter::rowsFor(std::int64_t wanted) {
     const auto tabs = static_cast<std::int64_t>(columns_.size()) - 1;
-    const std::int64_t most = std::min(wanted, ReadAllowance::Places);
-    return static_cast<std::int32_t>(control_.pointAllowance_.take(most * tabs) / tabs);
+    const std::int64_t most = std::min(wanted, rowsLeft_);
+    const std::int32_t rows =
+        static_cast<std::int32_t>(control_.pointAllowance_.take(most * tabs) / tabs);
+    rowsLeft_ -= rows;
+    return rows;
 }
 
 // The numbers fill the columns from the left; a column without one stays empty.

@@ -26,6 +26,10 @@ public:
 
     std::wstring takeText() { return std::move(text_); }
 
+    /// How many rows all sections have together at most: as many as a sheet of the usual
+    /// spreadsheets, and more than ten seconds at 100 kHz. Rows beyond are left out.
+    static constexpr std::int64_t MostRows = 1'048'576;
+
 private:
     void addTitle(Host::IHostChannel& channel);
     void addSection(Host::IHostChannel& channel, OrbitKind kind);
@@ -41,6 +45,7 @@ private:
 
     RotavueVisualControl& control_;
     std::deque<std::wstring> columns_{L"%.3f", L"%.3f"};  ///< the format of each column of a row
+    std::int64_t rowsLeft_ = MostRows;
     std::wstring text_;
 };
 

@@ -9,10 +9,10 @@ namespace {
 
 std::string withClosingSteps(const std::string& text) {
     Json session = Json::parse(text);
-    session["steps"].push_back(Json::parse(
-        R"({"message": 2, "args": [{"object": "app"}, {"object": "control"}]})"));
-    session["steps"].push_back(Json::parse(
-        R"({"message": 42, "args": [{"object": "canvas"}, 0, 0, 400, 300, 0, 0, 1]})"));
+    session["steps"].push_back(
+        Json::parse(R"({"message": 2, "args": [{"object": "app"}, {"object": "control"}]})"));
+    session["steps"].push_back(
+        Json::parse(R"({"message": 42, "args": [{"object": "canvas"}, 0, 0, 400, 300, 0, 0, 1]})"));
     return session.dump();
 }
 

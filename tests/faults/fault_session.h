@@ -41,7 +41,8 @@ private:
     Session session_;
 };
 
-/// The place of the line that tells how the message ended in whose course the line at `place` stands.
+/// The place of the line that tells how the message ended in whose course the line at `place`
+/// stands.
 std::size_t endOfMessage(const LogLines& log, std::size_t place);
 
 /// True for a log whose closing frame raised nothing.

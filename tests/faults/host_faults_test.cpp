@@ -80,9 +80,8 @@ TEST_P(FaultySession, RaisesAnInvalidPointerForEachNullObject) {
     for (std::size_t n = 0; n < places.size(); ++n) {
         if (!LogLine(sound_[places[n]]).object) continue;  // Null as it is.
         SCOPED_TRACE(sound_[places[n]]);
-        const LogLines log = session_.play([n](MemoryHost& host) {
-            host.gate.nullObject(static_cast<std::int64_t>(n) + 1);
-        });
+        const LogLines log = session_.play(
+            [n](MemoryHost& host) { host.gate.nullObject(static_cast<std::int64_t>(n) + 1); });
         ASSERT_GT(log.size(), places[n]);
         const std::string call = LogLine(sound_[places[n]]).call;
         EXPECT_EQ(LogLine(log[places[n]]).call, call);

@@ -43,6 +43,17 @@ TEST_F(Assignment, EveryWalkFetchesTheCollectionAnew) {
               }));
 }
 
+TEST_F(Assignment, WalksEndAfterFourThousandAndNinetySix) {
+    host.description.assigned.channels.assign(4097, "a");
+    host.description.assigned.groups.assign(4097, {{"orbit"}, {}});
+    int channels = 0;
+    int groups = 0;
+    forEachChannel(control.hostControl, [&](Host::IHostChannel&) { ++channels; });
+    forEachGroup(control.hostControl, [&](Host::IHostChannelList&) { ++groups; });
+    EXPECT_EQ(channels, 4096);
+    EXPECT_EQ(groups, 4096);
+}
+
 TEST_F(Assignment, NullChannelRaisesWhenItsTurnComes) {
     host.description.assigned.channels = {"a", std::nullopt, "b"};
     int walked = 0;

@@ -3,6 +3,7 @@
 #include "plugin/settings/clipboard_writer.h"
 #include "tests/plugin/settings/clipboard_section.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -174,6 +175,19 @@ TEST_F(ClipboardSection, TakesTwoPlacesForARowOfThreeColumns) {
     ClipboardWriter writer(control);
     writer.addChannel(*host.channel("center"));
     EXPECT_EQ(writer.takeText(), L" ()\r\nRPM\tX\tY\r\n3000\t4.000\t3.000\r\n\r\n");
+}
+
+TEST_F(ClipboardSection, EndsAfterAsManyRowsAsASheetHas) {
+    describeArray("reference", L"Reference", {1}, {2}).arraySize = 1'048'575;
+    describeArray("second", L"Reference", {3}, {4}).arraySize = 2;
+    ASSERT_TRUE(key.checkBearingConfig());
+    ClipboardWriter writer(control);
+    writer.addChannel(*host.channel("reference"));
+    writer.addChannel(*host.channel("second"));
+    const std::wstring text = writer.takeText();
+    // Two titles, two lines of names, the rows, two empty lines.
+    EXPECT_EQ(std::count(text.begin(), text.end(), L'\n'), 2 + 2 + 1'048'576 + 2);
+    EXPECT_TRUE(text.ends_with(L" ()\r\nX\tY\r\n3.000\t4.000\r\n\r\n"));
 }
 
 TEST_F(ClipboardSection, HasNoRowsForCountsBelowZero) {
