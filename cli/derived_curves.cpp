@@ -5,6 +5,7 @@
 #include "workbench/analysis/harmonics.h"
 #include "workbench/analysis/reference_orbit.h"
 #include "workbench/analysis/shaft_center.h"
+#include "workbench/analysis/signal_check.h"
 #include "workbench/analysis/sub_synchronous.h"
 
 #include <algorithm>
@@ -92,10 +93,11 @@ ChannelDescription DerivedCurves::average(const ChannelStyle& style) const {
     return averageChannel(averageOrbit(recording_, track_, options), recording_, style);
 }
 
-ChannelDescription DerivedCurves::harmonic(const CurveRequest& request,
-                                           const ChannelStyle& style) const {
+ChannelDescription DerivedCurves::harmonic(const CurveRequest& request, const ChannelStyle& style) {
     const Harmonics found =
         findHarmonics(recording_, track_, request.orders, stretchOf(span_, track_));
+    for (const OrderVectors& order : found.orders)
+        if (order.order == 1.0) note(checkPrecession(order, recording_.machine));
     return harmonicChannel(found, recording_, style);
 }
 
@@ -124,6 +126,10 @@ ChannelDescription DerivedCurves::shaftCenter(const ChannelStyle& style) {
                             .interval = choice.interval.value_or(usual),
                             .rest = choice.rest,
                             .restSpan = choice.restSpan});
+    // The control shows what is older than the newest sample.
+    if (history.positions.front().time >= span_.time) {
+        throw AnalysisError("the shaft centre needs a stretch of time before the newest sample");
+    }
     note(history.notes);
     return shaftCenterChannel(history, recording_, style);
 }

@@ -31,7 +31,7 @@ public:
 private:
     HostKit::ChannelDescription average(const Workbench::ChannelStyle& style) const;
     HostKit::ChannelDescription harmonic(const CurveRequest& request,
-                                         const Workbench::ChannelStyle& style) const;
+                                         const Workbench::ChannelStyle& style);
     HostKit::ChannelDescription subSync(const Workbench::ChannelStyle& style);
     HostKit::ChannelDescription reference(const CurveRequest& request,
                                           const Workbench::ChannelStyle& style) const;

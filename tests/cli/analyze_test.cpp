@@ -177,7 +177,7 @@ TEST_F(AnalyzeTest, WrongValuesAreToldWithWhatIsAllowed) {
         std::vector<std::string> options;
         std::string line;
     };
-    const std::string orders = "orders such as 1+2+0.43, each once, from 0.01 to 1000";
+    const std::string orders = "up to 64 orders such as 1+2+0.43, each once, from 0.01 to 1000";
     const Case cases[] = {
         {{"--orders", "1+one"}, "--orders: found \"1+one\", allowed: " + orders},
         {{"--orders", "2+2"}, "--orders: found \"2+2\", allowed: " + orders},

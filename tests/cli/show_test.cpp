@@ -112,7 +112,7 @@ TEST_F(ShowTest, WrongValuesAreToldWithWhatIsAllowed) {
         std::string found;
         std::string allowed;
     };
-    const std::string orders = "orders such as 1+2+0.43, each once, from 0.01 to 1000";
+    const std::string orders = "up to 64 orders such as 1+2+0.43, each once, from 0.01 to 1000";
     const Case cases[] = {
         {"--show", "orbit", "orbit", AllowedCurves},
         {"--show", "raw,", "", AllowedCurves},
@@ -241,6 +241,26 @@ TEST_F(ShowTest, ShaftCenterIsRefusedWithoutTheMean) {
     EXPECT_EQ(end.error,
               "rotavue render: rotor.csv: the shaft centre needs the mean of the gaps, which AC "
               "coupling takes away\n");
+}
+
+TEST_F(ShowTest, ShaftCenterBeforeTheFirstPositionIsRefused) {
+    const ProcessEnd end = render("rotor.csv", "shaft-center", {"--at", "0"});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error,
+              "rotavue render: rotor.csv: the shaft centre needs a stretch of time before the "
+              "newest sample\n");
+    EXPECT_EQ(render("rotor.csv", "shaft-center", {"--at", "0.1"}).status, 0);
+}
+
+TEST_F(ShowTest, FirstOrderAgainstTheRotationIsNoted) {
+    // Right 30 cos, up 20 sin: counter-clockwise.
+    const auto noted = [this](const char* rotation) {
+        const ProcessEnd end = render("rotor.csv", "harmonic:1", {"--rotation", rotation});
+        EXPECT_EQ(end.status, 0) << end.error;
+        return end.error.find("1X runs against the rotation") != std::string::npos;
+    };
+    EXPECT_TRUE(noted("CW"));
+    EXPECT_FALSE(noted("CCW"));
 }
 
 TEST_F(ShowTest, PointerShowsInThePicture) {
