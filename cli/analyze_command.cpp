@@ -52,7 +52,7 @@ void AnalyzeCommand::declareAnalysis(CLI::App& command) {
         command.add_option(name, value, help)->type_name(type)->group(Group);
     };
     add("--orders", orders_, "ORDERS", "multiples of the shaft's speed, such as 1+2+0.43 (1+2)");
-    add("--time", time_, "FROM-TO", "seconds after the first sample (all of the recording)");
+    add("--span", span_, "FROM-TO", "seconds after the first sample (all of the recording)");
     add("--window", window_, "SECONDS", "one result for each such stretch (one for all)");
     add("--amplitude", amplitude_, "peak|rms|pp", "of the orders (peak, half the movement)");
     add("--save-reference", reference_, "FILE",
@@ -63,7 +63,7 @@ void AnalyzeCommand::declareAnalysis(CLI::App& command) {
 AnalysisOrder AnalyzeCommand::analysisOrder() const {
     AnalysisOrder order;
     if (orders_) order.orders = ordersIn("--orders", *orders_);
-    if (time_) order.span = secondsIn("--time", *time_);
+    if (span_) order.span = secondsIn("--span", *span_);
     if (window_) order.window = number("--window", *window_, LeastWindow, LargestWindow, "s");
     if (amplitude_) order.amplitude = amplitudeIn(*amplitude_);
     if (reference_ && !reference_->ends_with(".json")) {

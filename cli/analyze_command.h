@@ -27,7 +27,7 @@ private:
     std::string file_;
     bool json_ = false;
     std::optional<std::string> orders_;
-    std::optional<std::string> time_;
+    std::optional<std::string> span_;
     std::optional<std::string> window_;
     std::optional<std::string> amplitude_;
     std::optional<std::string> reference_;

@@ -38,7 +38,7 @@ void CurveArguments::declare(CLI::App& command) {
               "shaft-center: what each position is the mean of (about 30 positions)");
     addOption(command, "--rest", rest_, "center|bottom",
               "shaft-center: where displacement 0 lies in the clearance (center)");
-    addOption(command, "--rest-time", restTime_, "FROM-TO",
+    addOption(command, "--rest-span", restSpan_, "FROM-TO",
               "shaft-center: seconds in which the shaft rests; their mean becomes displacement 0");
     addOption(command, "--labels", labels_, "speed|time",
               "shaft-center: what stands beside the positions (speed, where it is known)");
@@ -58,7 +58,7 @@ void CurveArguments::readShaftCenter(ShaftCenterChoice& choice) const {
         throw UsageError("--rest", *rest_, "center or bottom");
     }
     if (rest_ == "bottom") choice.rest = Workbench::RestPosition::BottomOfClearance;
-    if (restTime_) choice.restSpan = secondsIn("--rest-time", *restTime_);
+    if (restSpan_) choice.restSpan = secondsIn("--rest-span", *restSpan_);
     if (!labels_) return;
     if (*labels_ != "speed" && *labels_ != "time") {
         throw UsageError("--labels", *labels_, "speed or time");

@@ -24,7 +24,7 @@ private:
     std::optional<std::string> speed_;
     std::optional<std::string> interval_;
     std::optional<std::string> rest_;
-    std::optional<std::string> restTime_;
+    std::optional<std::string> restSpan_;
     std::optional<std::string> labels_;
 };
 

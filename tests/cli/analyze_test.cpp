@@ -82,7 +82,7 @@ TEST_F(AnalyzeTest, SpeedThatChangesIsToldFromEndToEnd) {
         text += line;
     }
     write("ramp.csv", text);
-    const ProcessEnd end = rotavue({"analyze", "ramp.csv", "--time", "1-2"});
+    const ProcessEnd end = rotavue({"analyze", "ramp.csv", "--span", "1-2"});
     // Turn 10 begins at 1 s, at 20 turns a second; of turn 40 the last sample misses a part, and
     // turn 39 begins at sqrt(3.9) = 1.97484 s, at 39.4968 turns a second: 29 turns in between.
     EXPECT_NE(end.out.find("\nspeed        1784.9 rpm, from 1200.0 to 2369.8\n"), std::string::npos)
@@ -123,11 +123,11 @@ TEST_F(AnalyzeTest, WindowsAreLinesOfATable) {
     EXPECT_NE(out.find("\n1          2  1200.0 "), std::string::npos) << out;
 }
 
-TEST_F(AnalyzeTest, TimeCutsTheRecording) {
-    const Json window = analyzed({"--time", "0.5-1"}).at("windows").at(0);
+TEST_F(AnalyzeTest, SpanCutsTheRecording) {
+    const Json window = analyzed({"--span", "0.5-1"}).at("windows").at(0);
     EXPECT_EQ(window.at("from"), 0.5);
     EXPECT_EQ(window.at("to"), 1.0);
-    const ProcessEnd behind = rotavue({"analyze", "rotor.csv", "--time", "3-4"});
+    const ProcessEnd behind = rotavue({"analyze", "rotor.csv", "--span", "3-4"});
     EXPECT_EQ(behind.status, 1);
     EXPECT_EQ(behind.error,
               "rotavue analyze: rotor.csv: nothing lies behind 3 s, it is 2 s long\n");
@@ -183,10 +183,10 @@ TEST_F(AnalyzeTest, WrongValuesAreToldWithWhatIsAllowed) {
         {{"--orders", "2+2"}, "--orders: found \"2+2\", allowed: " + orders},
         {{"--orders", ""}, "--orders: found \"\", allowed: " + orders},
         {{"--window", "0"}, "--window: found \"0\", allowed: a number from 0.001 to 1e+09 s"},
-        {{"--time", "2"},
-         "--time: found \"2\", allowed: FROM-TO in seconds after the first sample, such as 0-1.5"},
-        {{"--time", "2-1"},
-         "--time: found \"2-1\", allowed: FROM-TO in seconds after the first sample, such as "
+        {{"--span", "2"},
+         "--span: found \"2\", allowed: FROM-TO in seconds after the first sample, such as 0-1.5"},
+        {{"--span", "2-1"},
+         "--span: found \"2-1\", allowed: FROM-TO in seconds after the first sample, such as "
          "0-1.5"},
         {{"--amplitude", "mean"}, "--amplitude: found \"mean\", allowed: peak, rms or pp"},
         {{"--save-reference", "orbit.csv"},

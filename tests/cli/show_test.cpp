@@ -125,7 +125,7 @@ TEST_F(ShowTest, WrongValuesAreToldWithWhatIsAllowed) {
         {"--speed", "0", "0", "a number from 0.1 to 1e+06 rpm"},
         {"--interval", "x", "x", "a number from 1e-06 to 1e+09 s"},
         {"--rest", "top", "top", "center or bottom"},
-        {"--rest-time", "1", "1", "FROM-TO in seconds after the first sample, such as 0-1.5"},
+        {"--rest-span", "1", "1", "FROM-TO in seconds after the first sample, such as 0-1.5"},
         {"--labels", "rpm", "rpm", "speed or time"},
         {"--pointer", "800,1", "800,1", "X,Y in the picture, from 0,0 to 799,599"},
         {"--pointer", "-1,1", "-1,1", "X,Y in the picture, from 0,0 to 799,599"},
