@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <numbers>
 
 namespace Rotavue::Cli {
 
@@ -77,7 +78,7 @@ TEST_F(AnalyzeTest, SpeedThatChangesIsToldFromEndToEnd) {
         char line[80];
         const double time = i / 1000.0;
         std::snprintf(line, sizeof line, "%.3f,%.3f,0,%.4f\n", time,
-                      std::cos(2.0 * M_PI * 10.0 * time * time),
+                      std::cos(2.0 * std::numbers::pi * 10.0 * time * time),
                       360.0 * std::fmod(10.0 * time * time, 1.0));
         text += line;
     }
@@ -215,7 +216,8 @@ TEST_F(AnalyzeTest, SavedReferenceIsReplacedWithForceAlone) {
     const Json reference = Json::parse(read("r.json"));
     EXPECT_EQ(reference.at("x").size(), 256U);
     // The pulse is 3.6 degrees before the turn's first sample.
-    EXPECT_NEAR(reference.at("x").at(0).get<double>(), 30.0 * std::cos(3.6 * M_PI / 180.0), 0.01);
+    EXPECT_NEAR(reference.at("x").at(0).get<double>(),
+                30.0 * std::cos(3.6 * std::numbers::pi / 180.0), 0.01);
     const ProcessEnd again = rotavue(save);
     EXPECT_EQ(again.status, 1);
     EXPECT_EQ(again.error, "rotavue analyze: r.json: the file is there; --force replaces it\n");

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <numbers>
 
 namespace Rotavue::Cli {
 
@@ -128,7 +129,7 @@ TEST_F(OrbitPictureTest, AverageAndOrdersAreThoseOfTheShownTurns) {
     for (int i = 0; i < 2000; ++i) {
         char line[100];
         const double size = i < 1000 ? 30.0 : 60.0;
-        const double angle = 2.0 * M_PI * i / 50.0;
+        const double angle = 2.0 * std::numbers::pi * i / 50.0;
         std::snprintf(line, sizeof line, "%.3f,%.6f,%.6f,%d\n", i / 1000.0, size * std::cos(angle),
                       size * std::sin(angle), i % 50 < 5 ? 5 : 0);
         text += line;
@@ -146,7 +147,7 @@ TEST_F(OrbitPictureTest, AverageAndOrdersAreThoseOfTheShownTurns) {
     EXPECT_NEAR(largest("derived1"), 30.0, 0.01);
     paint("harmonic");
     // Component 4 holds r cos(90 degrees - lag) of Y, then of X: 30 sin 93.6 degrees is the larger.
-    EXPECT_NEAR(largest("derived1"), 30.0 * std::sin(93.6 * M_PI / 180.0), 0.01);
+    EXPECT_NEAR(largest("derived1"), 30.0 * std::sin(93.6 * std::numbers::pi / 180.0), 0.01);
 }
 
 TEST_F(OrbitPictureTest, ShaftCenterReachesFromTheFirstSampleToTheNewestShown) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdio>
 #include <functional>
+#include <numbers>
 #include <set>
 
 namespace Rotavue::Cli {
@@ -63,7 +64,7 @@ protected:
 
     /// The rotor's orbit, 50 samples a turn.
     static Row turning(int i) {
-        const double angle = i * 2.0 * M_PI / 50.0;
+        const double angle = i * 2.0 * std::numbers::pi / 50.0;
         return {numeral(30.0 * std::cos(angle)), numeral(20.0 * std::sin(angle))};
     }
 
@@ -207,7 +208,7 @@ TEST_F(ShowTest, AverageOfMostlyGapsIsRefused) {
 TEST_F(ShowTest, ClippedProbeIsDrawnWithALineThatSaysSo) {
     writeRows("clipped.csv", [](int i) {
         Row row = turningWithPulse(i);
-        row.x = numeral(std::min(15.0, 30.0 * std::cos(i * 2.0 * M_PI / 50.0)));
+        row.x = numeral(std::min(15.0, 30.0 * std::cos(i * 2.0 * std::numbers::pi / 50.0)));
         return row;
     });
     const ProcessEnd end = render("clipped.csv", "average");
@@ -261,6 +262,17 @@ TEST_F(ShowTest, FirstOrderAgainstTheRotationIsNoted) {
     };
     EXPECT_TRUE(noted("CW"));
     EXPECT_FALSE(noted("CCW"));
+}
+
+TEST_F(ShowTest, ShaftCenterIsDarkForItsWhiteDotUnlessLightIsAskedFor) {
+    const auto picture = [this](const char* show, const std::vector<std::string>& more) {
+        EXPECT_EQ(render("rotor.csv", show, more).status, 0);
+        return read("p.svg");
+    };
+    const std::string usual = picture("raw,shaft-center", {});
+    EXPECT_TRUE(usual == picture("raw,shaft-center", {"--dark"}));
+    EXPECT_FALSE(usual == picture("raw,shaft-center", {"--light"}));
+    EXPECT_TRUE(picture("raw", {}) == picture("raw", {"--light"}));
 }
 
 TEST_F(ShowTest, PointerShowsInThePicture) {
