@@ -1,32 +1,9 @@
 #include "plugin/framework/bridge.h"
 #include "plugin/framework/message_codes.h"
 #include "tests/plugin/framework/doubles/clipboard_steps.h"
+#include "tests/support/memory_meter.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <new>
-
-namespace {
-
-std::size_t allocations = 0;
-
-}  // namespace
-
-// Counts what the whole test program takes from the heap.
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 /// Draws and pointer messages come at the host's rate: beyond the copy of the list, the bridge
 /// takes nothing from the heap for them.
@@ -52,7 +29,7 @@ public:
 
 struct Cost {
     MessageCode code;
-    std::size_t allocations;
+    std::int64_t allocations;
 };
 
 class MessageCost : public testing::TestWithParam<Cost> {
@@ -67,9 +44,9 @@ protected:
 
 TEST_P(MessageCost, IsTheCopyOfTheListAlone) {
     const ZeroArguments arguments;
-    const std::size_t before = allocations;
+    const std::int64_t before = Tests::MemoryMeter::tried();
     plugin_->message(static_cast<std::uint32_t>(GetParam().code), &arguments, nullptr);
-    EXPECT_EQ(allocations - before, GetParam().allocations);
+    EXPECT_EQ(Tests::MemoryMeter::tried() - before, GetParam().allocations);
 }
 
 INSTANTIATE_TEST_SUITE_P(

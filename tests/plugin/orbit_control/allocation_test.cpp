@@ -1,28 +1,5 @@
 #include "tests/plugin/orbit_control/control_test.h"
-
-#include <cstdlib>
-#include <new>
-
-namespace {
-
-std::size_t allocations = 0;
-
-}  // namespace
-
-// Counts what the whole test program takes from the heap.
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
+#include "tests/support/memory_meter.h"
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -38,20 +15,20 @@ protected:
         assignGroup({"orbit"});
     }
 
-    std::size_t ofAFrameWith(double points) {
+    std::int64_t ofAFrameWith(double points) {
         key.displayTime = points;
         draw();
-        const std::size_t before = allocations;
+        const std::int64_t before = Tests::MemoryMeter::tried();
         draw();
-        return allocations - before;
+        return Tests::MemoryMeter::tried() - before;
     }
 };
 
 TEST_F(Allocation, PointOfARawOrbitCostsNone) {
     for (const bool acquiring : {true, false}) {
         host.description.host.acquiring = acquiring;
-        const std::size_t few = ofAFrameWith(10.0);
-        EXPECT_GT(few, 0U) << "the counting works";
+        const std::int64_t few = ofAFrameWith(10.0);
+        EXPECT_GT(few, 0) << "the counting works";
         EXPECT_EQ(ofAFrameWith(1000.0), few) << acquiring;
     }
 }

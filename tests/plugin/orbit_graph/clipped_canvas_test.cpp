@@ -1,7 +1,7 @@
 #include "plugin/orbit_graph/clipped_canvas.h"
 
 #include "tests/plugin/orbit_graph/recording_canvas.h"
-#include "tests/plugin/setup_document/exhausted_memory.h"
+#include "tests/support/exhausted_memory.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What the panel and the clipboard raise when there is no memory left for a text.
 
-#include "tests/plugin/setup_document/exhausted_memory.h"
+#include "tests/support/exhausted_memory.h"
 
 #include "plugin/settings/widget_forms.h"
 #include "tests/plugin/orbit_control/control_test.h"

@@ -1,6 +1,6 @@
 // What a node raises when there is no memory left for a text on its way to or from the host.
 
-#include "tests/plugin/setup_document/exhausted_memory.h"
+#include "tests/support/exhausted_memory.h"
 
 #include "plugin/setup_document/meridax_dcom_node.h"
 #include "plugin/setup_document/node_import.h"

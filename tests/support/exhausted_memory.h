@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plugin/framework/host/host_error.h"
+#include "tests/support/memory_meter.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -8,14 +9,15 @@
 
 namespace Meridax::Tests {
 
-/// For the length of a scope, memory is exhausted after so many more requests. A test program that
-/// uses it has exhausted_memory.cpp among its sources.
+/// For the length of a scope, memory is exhausted after so many more requests.
 class ExhaustedMemory {
 public:
-    explicit ExhaustedMemory(std::size_t granted) noexcept;
+    explicit ExhaustedMemory(std::size_t granted) noexcept {
+        MemoryMeter::failFrom(static_cast<std::int64_t>(granted) + 1);
+    }
     ExhaustedMemory(const ExhaustedMemory&) = delete;
     ExhaustedMemory& operator=(const ExhaustedMemory&) = delete;
-    ~ExhaustedMemory();
+    ~ExhaustedMemory() { MemoryMeter::failNoMore(); }
 };
 
 inline constexpr std::uint32_t Succeeded = 0;
