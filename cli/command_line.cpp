@@ -1,6 +1,7 @@
 #include "cli/command_line.h"
 
 #include "cli/analyze_command.h"
+#include "cli/copy_command.h"
 #include "cli/help_formatter.h"
 #include "cli/info_command.h"
 #include "cli/play_command.h"
@@ -45,6 +46,7 @@ CommandLine::CommandLine() : app_(Help, "rotavue") {
     add(std::make_unique<RenderCommand>());
     add(std::make_unique<InfoCommand>());
     add(std::make_unique<AnalyzeCommand>());
+    add(std::make_unique<CopyCommand>());
     add(std::make_unique<SetupCommand>());
     add(std::make_unique<PlayCommand>());
     add(std::make_unique<RegisterCommand>());

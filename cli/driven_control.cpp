@@ -64,6 +64,10 @@ void DrivenControl::draw(Meridax::Host::Ref<Meridax::Host::IHostCanvas> canvas, 
     send(MessageCode::Draw, {std::move(canvas), 0, 0, width, height, NotRead, NotRead, scheme});
 }
 
+void DrivenControl::copy() {
+    send(MessageCode::Copy, {});
+}
+
 void DrivenControl::movePointer(std::int32_t x, std::int32_t y) {
     constexpr std::int32_t NoKeys = 0;
     send(MessageCode::PointerEntered, {});

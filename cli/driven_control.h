@@ -35,6 +35,9 @@ public:
     /// Puts the pointer on a place of the area, as a user does who comes from outside.
     void movePointer(std::int32_t x, std::int32_t y);
 
+    /// Lets the control put its text on the clipboard of its module.
+    void copy();
+
 private:
     void send(Meridax::VisualControls::Api::MessageCode code, const HostKit::MessageList& list);
 

@@ -35,7 +35,9 @@ PictureArea OrbitPicture::areaWith(const PictureHeader& header) const {
 double OrbitPicture::automaticLimit(DrivenControl& control, const PictureArea& area) {
     control.load(settingsFor(options_, scene_, {.ticks = UsualTicks.front(), .limit = {}}));
     control.draw(scene_.host().canvas(), area.width, area.height, options_.scheme);
-    return limitIn(control.save());
+    const DrivenControl::Settings& saved = control.save();
+    alike_ = limitsAreAlike(saved);
+    return limitIn(saved);
 }
 
 bool OrbitPicture::namesFit(const PictureArea& area) const {
@@ -78,7 +80,8 @@ std::string OrbitPicture::paint() {
     const PictureArea roughly = areaWith(pictureHeader(scene_, GraphScale{}));
     const GraphScale scale = scaleFor(control, roughly);
     const bool known = scale.limit > 0.0;
-    const PictureHeader header = pictureHeader(scene_, known ? std::optional(scale) : std::nullopt);
+    const PictureHeader header =
+        pictureHeader(scene_, known && alike_ ? std::optional(scale) : std::nullopt);
     const bool manual = known && options_.limits != LimitChoice::Auto;
     setAxisDecimals(scene_.host().description, scale.decimals);
     control.load(settingsFor(options_, scene_,

@@ -39,6 +39,7 @@ private:
     const RenderOptions& options_;
     OrbitScene& scene_;
     Workbench::PictureStudio& studio_;
+    bool alike_ = true;  ///< one scale tells both axes
 };
 
 }  // namespace Rotavue::Cli

@@ -21,9 +21,6 @@ namespace {
 
 using namespace Workbench;
 
-constexpr int UsualTurns = 8;
-constexpr double UsualMilliseconds = 100.0;
-
 /// Told apart by people who see colours differently, and from the clearance's orange.
 constexpr std::array<std::uint32_t, 6> ColorsOnLight{0x0072B2, 0xB8336A, 0x009E73,
                                                      0x7A5195, 0x555555, 0x8C510A};
@@ -132,8 +129,8 @@ void OrbitScene::chooseSpan(const std::vector<Recording>& recordings,
         refuse(*bare, "it has no keyphasor, which --revolutions needs; --time does without");
     }
     span_.byTurns = !options.milliseconds && bare == recordings.end();
-    span_.turns = options.revolutions.value_or(UsualTurns);
-    span_.milliseconds = options.milliseconds.value_or(UsualMilliseconds);
+    span_.turns = options.revolutions.value_or(options.usualRevolutions);
+    span_.milliseconds = options.milliseconds.value_or(options.usualMilliseconds);
 }
 
 void OrbitScene::refuseGap(const Recording& recording, std::size_t first, std::size_t last) const {

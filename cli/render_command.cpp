@@ -5,6 +5,7 @@
 #include "cli/output_file.h"
 #include "cli/picture_name.h"
 #include "cli/scheme_colors.h"
+#include "cli/setup_choice.h"
 #include "cli/studio_library.h"
 
 #include <unistd.h>
@@ -26,7 +27,8 @@ constexpr const char* Help =
     "  rotavue render pump.csv -o pump.png --show "
     "raw,average,harmonic:1+2,reference:slow-roll.csv\n"
     "  rotavue render run-up.csv -o center.png --show shaft-center --clearance\n"
-    "  rotavue render pump.csv -o value.png --show average --pointer 500,200\n";
+    "  rotavue render pump.csv -o value.png --show average --pointer 500,200\n"
+    "  rotavue render pump.csv -o pump.svg --setup plot.xml\n";
 
 constexpr const char* PictureGroup = "The picture";
 constexpr const char* OrbitGroup = "What is shown";
@@ -51,6 +53,11 @@ CLI::App* RenderCommand::declare(CLI::App& program) {
     declarePicture(*command);
     declareOrbit(*command);
     curves_.declare(*command);
+    command
+        ->add_option("--setup", setup_,
+                     "a setup as \"rotavue setup\" makes it; options go before it")
+        ->type_name("FILE")
+        ->group(OrbitGroup);
     declareScale(*command);
     recordingArguments_.declare(*command);
     command
@@ -105,8 +112,9 @@ void RenderCommand::declareOrbit(CLI::App& command) {
     command.add_option("--at", at_, "where the newest sample is, after the first one (the end)")
         ->type_name("SECONDS")
         ->group(OrbitGroup);
-    command.add_flag("--clearance,!--no-clearance", clearance_, "draw the bearing's clearance")
-        ->group(OrbitGroup);
+    clearanceOption_ =
+        command.add_flag("--clearance,!--no-clearance", clearance_, "draw the bearing's clearance");
+    clearanceOption_->group(OrbitGroup);
     command.add_option("--color", colors_, "of the curves in turn")
         ->type_name("RRGGBB")
         ->delimiter(',')
@@ -141,6 +149,7 @@ RenderOptions RenderCommand::options() const {
     readScale(options);
     readPointer(options);
     curves_.read(options);
+    readSetup(options);
     readScheme(options);
     return options;
 }
@@ -184,6 +193,16 @@ void RenderCommand::readScale(RenderOptions& options) const {
         throw UsageError("--limits", *limits_, "round, auto or a number from 1e-06 to 1e+12");
     }
     options.limit = *value;
+}
+
+void RenderCommand::readSetup(RenderOptions& options) const {
+    if (!setup_) return;
+    SetupChoice setup(*setup_, module_);
+    setup.takeSpan(options);
+    if (circle_ || grid_) setup.leave({L"graphType"});
+    if (clearanceOption_->count() > 0) setup.leave({L"drawClearance"});
+    if (limits_) setup.leaveLimits();
+    setup.takePlot(options);
 }
 
 void RenderCommand::readScheme(RenderOptions& options) const {

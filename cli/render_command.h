@@ -28,6 +28,7 @@ private:
     void readOrbit(RenderOptions& options) const;
     void readScale(RenderOptions& options) const;
     void readPointer(RenderOptions& options) const;
+    void readSetup(RenderOptions& options) const;
     void readScheme(RenderOptions& options) const;
 
     std::vector<std::string> recordings_;
@@ -54,7 +55,10 @@ private:
     std::optional<std::string> at_;
     std::vector<std::string> colors_;
 
+    std::optional<std::string> setup_;
+
     bool clearance_ = false;
+    CLI::Option* clearanceOption_ = nullptr;
     std::optional<std::string> ticks_;
     std::optional<std::string> limits_;
 };

@@ -2,6 +2,7 @@
 
 #include "cli/argument_values.h"
 #include "cli/curve_request.h"
+#include "cli/driven_control.h"
 #include "cli/graph_scale.h"
 #include "workbench/analysis/shaft_center.h"
 #include "workbench/analysis/time_span.h"
@@ -44,14 +45,17 @@ struct RenderOptions {
     std::vector<CurveRequest> show{CurveRequest{}};
     std::optional<int> revolutions;
     std::optional<double> milliseconds;
-    std::optional<double> at;     ///< s after the first sample; unset: the end
-    std::optional<double> speed;  ///< rpm, of a recording without keyphasor
+    int usualRevolutions = 8;          ///< where neither is asked for
+    double usualMilliseconds = 100.0;  ///< likewise, without a keyphasor
+    std::optional<double> at;          ///< s after the first sample; unset: the end
+    std::optional<double> speed;       ///< rpm, of a recording without keyphasor
     ShaftCenterChoice shaftCenter;
     std::optional<PicturePoint> pointer;  ///< in pixels of the size asked for
     bool clearance = false;
     std::optional<std::int32_t> ticks;
     LimitChoice limits = LimitChoice::Round;
-    double limit = 0.0;  ///< of `LimitChoice::Fixed`
+    double limit = 0.0;             ///< of `LimitChoice::Fixed`
+    DrivenControl::Settings setup;  ///< of a setup file; they go before all else
     std::vector<std::uint32_t> colors;
     std::optional<std::string> module;
     bool quiet = false;

@@ -27,6 +27,7 @@ std::wstring text(double value) {
     return {digits, digits + length};
 }
 
+/// The amount of a limit, which is 1 where the key is left out.
 double limit(const DrivenControl::Settings& saved, const wchar_t* key) {
     constexpr double WhenLeftOut = 1.0;
     const auto found = saved.find(key);
@@ -57,11 +58,19 @@ DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitSce
         settings[L"minXValue"] = settings[L"minYValue"] = text(-*layout.limit);
         settings[L"maxXValue"] = settings[L"maxYValue"] = text(*layout.limit);
     }
+    for (const auto& [key, text] : options.setup)
+        settings[key] = text;
     return settings;
 }
 
 double limitIn(const DrivenControl::Settings& saved) {
     return std::max(limit(saved, L"minXValue"), limit(saved, L"maxXValue"));
+}
+
+bool limitsAreAlike(const DrivenControl::Settings& saved) {
+    const double one = limit(saved, L"minXValue");
+    return one == limit(saved, L"maxXValue") && one == limit(saved, L"minYValue") &&
+           one == limit(saved, L"maxYValue");
 }
 
 }  // namespace Rotavue::Cli

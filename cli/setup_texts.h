@@ -24,4 +24,7 @@ DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitSce
 /// The larger of the x limits' amounts in saved settings.
 double limitIn(const DrivenControl::Settings& saved);
 
+/// Whether both axes of saved settings reach equally far, each way.
+bool limitsAreAlike(const DrivenControl::Settings& saved);
+
 }  // namespace Rotavue::Cli

@@ -8,8 +8,8 @@ namespace Rotavue::Cli {
 
 namespace {
 
-const std::vector<std::string> Commands{"render", "info",     "analyze",   "setup",
-                                        "play",   "register", "unregister"};
+const std::vector<std::string> Commands{"render", "info", "analyze",  "copy",
+                                        "setup",  "play", "register", "unregister"};
 
 class HelpTest : public CommandTest {};
 
