@@ -1,5 +1,8 @@
 #include "cli/help_formatter.h"
 
+#include <algorithm>
+#include <string_view>
+
 namespace Rotavue::Cli {
 
 namespace {
@@ -18,6 +21,16 @@ std::string HelpFormatter::make_subcommand(const CLI::App* command) const {
     std::string line = "  " + command->get_name();
     line.resize(std::max(line.size() + 2, ColumnWidth), ' ');
     return line + description.substr(0, description.find('\n')) + '\n';
+}
+
+/// Without the mark of a flag that means no, which says nothing to a reader.
+std::string HelpFormatter::make_option_name(const CLI::Option* option, bool positional) const {
+    constexpr std::string_view Mark = "{false}";
+    std::string name = CLI::Formatter::make_option_name(option, positional);
+    if (const std::size_t place = name.find(Mark); place != std::string::npos) {
+        name.erase(place, Mark.size());
+    }
+    return name;
 }
 
 std::string HelpFormatter::make_option_opts(const CLI::Option* option) const {

@@ -14,6 +14,7 @@ public:
     HelpFormatter();
 
     std::string make_subcommand(const CLI::App* command) const override;
+    std::string make_option_name(const CLI::Option* option, bool positional) const override;
     std::string make_option_opts(const CLI::Option* option) const override;
 };
 

@@ -38,6 +38,12 @@ TEST_F(HelpTest, DocumentsEachOptionOnce) {
     }
 }
 
+TEST_F(HelpTest, SpellsOptionsAsTheyAreTyped) {
+    const std::string help = rotavue({"render", "--help"}).out;
+    EXPECT_NE(help.find("  --clearance,--no-clearance  "), std::string::npos) << help;
+    EXPECT_EQ(help.find('{'), std::string::npos) << help;
+}
+
 TEST_F(HelpTest, NamesEveryCommandInOneLine) {
     const std::string help = rotavue({"--help"}).out;
     for (const std::string& command : Commands)
