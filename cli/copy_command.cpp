@@ -1,6 +1,5 @@
 #include "cli/copy_command.h"
 
-#include "cli/argument_values.h"
 #include "cli/output_file.h"
 #include "cli/setup_choice.h"
 #include "cli/setup_texts.h"
@@ -24,11 +23,6 @@ constexpr const char* Help =
 
 constexpr const char* SpanGroup = "What is shown";
 
-/// As `render` bounds them.
-constexpr int MostRevolutions = 25;
-constexpr double MostMilliseconds = 10'000.0;
-constexpr double MostSeconds = 1e9;
-
 std::string copiedText(const RenderOptions& options, OrbitScene& scene) {
     HostKit::MemoryClipboard clipboard;
     HostKit::Module module(HostKit::chooseModule(options.module));
@@ -50,16 +44,7 @@ CLI::App* CopyCommand::declare(CLI::App& program) {
     command->add_option("RECORDINGS", recordings_, "CSV or WAV files of one bearing")
         ->required()
         ->type_name("");
-    CLI::Option* turns =
-        command->add_option("--revolutions", revolutions_, "the newest whole turns, 1 to 25 (8)");
-    turns->type_name("N")->group(SpanGroup);
-    command->add_option("--time", milliseconds_, "the newest milliseconds, 1 to 10000")
-        ->type_name("MS")
-        ->excludes(turns)
-        ->group(SpanGroup);
-    command->add_option("--at", at_, "where the newest sample is, after the first one (the end)")
-        ->type_name("SECONDS")
-        ->group(SpanGroup);
+    span_.declare(*command, SpanGroup);
     command->add_option("--setup", setup_, "a setup as \"rotavue setup\" makes it")
         ->type_name("FILE")
         ->group(SpanGroup);
@@ -78,13 +63,7 @@ RenderOptions CopyCommand::options() const {
     options.recordings = recordings_;
     options.recording = recordingArguments_.options();
     options.module = module_;
-    if (revolutions_) {
-        options.revolutions = wholeNumber("--revolutions", *revolutions_, 1, MostRevolutions);
-    }
-    if (milliseconds_) {
-        options.milliseconds = number("--time", *milliseconds_, 1.0, MostMilliseconds, "ms");
-    }
-    if (at_) options.at = number("--at", *at_, 0.0, MostSeconds, "s");
+    span_.read(options);
     curves_.read(options);
     if (!setup_) return options;
     SetupChoice setup(*setup_, module_);

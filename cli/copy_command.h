@@ -4,6 +4,7 @@
 #include "cli/curve_arguments.h"
 #include "cli/recording_arguments.h"
 #include "cli/render_options.h"
+#include "cli/span_arguments.h"
 
 #include <optional>
 #include <string>
@@ -22,10 +23,8 @@ private:
     RenderOptions options() const;
 
     std::vector<std::string> recordings_;
-    std::optional<std::string> revolutions_;
-    std::optional<std::string> milliseconds_;
-    std::optional<std::string> at_;
     std::optional<std::string> setup_;
+    SpanArguments span_;
     CurveArguments curves_;
     RecordingArguments recordingArguments_;
     std::optional<std::string> module_;

@@ -36,9 +36,6 @@ constexpr const char* ScaleGroup = "The scale";
 
 constexpr int LargestScale = 8;
 constexpr int LargestTextHeight = 200;
-constexpr int MostRevolutions = 25;
-constexpr double MostMilliseconds = 10'000.0;
-constexpr double MostSeconds = 1e9;
 constexpr double LargestLimit = 1e12;
 constexpr double LeastLimit = 1e-6;
 constexpr int MostTicks = 20;
@@ -103,15 +100,7 @@ void RenderCommand::declarePicture(CLI::App& command) {
 }
 
 void RenderCommand::declareOrbit(CLI::App& command) {
-    CLI::Option* turns =
-        command.add_option("--revolutions", revolutions_, "the newest whole turns, 1 to 25 (8)");
-    CLI::Option* time = command.add_option(
-        "--time", milliseconds_, "the newest milliseconds, 1 to 10000 (100 without a keyphasor)");
-    turns->type_name("N")->group(OrbitGroup);
-    time->type_name("MS")->group(OrbitGroup)->excludes(turns);
-    command.add_option("--at", at_, "where the newest sample is, after the first one (the end)")
-        ->type_name("SECONDS")
-        ->group(OrbitGroup);
+    span_.declare(command, OrbitGroup);
     clearanceOption_ =
         command.add_flag("--clearance,!--no-clearance", clearance_, "draw the bearing's clearance");
     clearanceOption_->group(OrbitGroup);
@@ -170,13 +159,7 @@ void RenderCommand::readPicture(RenderOptions& options) const {
 }
 
 void RenderCommand::readOrbit(RenderOptions& options) const {
-    if (revolutions_) {
-        options.revolutions = wholeNumber("--revolutions", *revolutions_, 1, MostRevolutions);
-    }
-    if (milliseconds_) {
-        options.milliseconds = number("--time", *milliseconds_, 1.0, MostMilliseconds, "ms");
-    }
-    if (at_) options.at = number("--at", *at_, 0.0, MostSeconds, "s");
+    span_.read(options);
     options.clearance = clearance_;
     for (const std::string& text : colors_)
         options.colors.push_back(color("--color", text));

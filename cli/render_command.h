@@ -4,6 +4,7 @@
 #include "cli/curve_arguments.h"
 #include "cli/recording_arguments.h"
 #include "cli/render_options.h"
+#include "cli/span_arguments.h"
 
 #include <optional>
 #include <string>
@@ -33,6 +34,7 @@ private:
 
     std::vector<std::string> recordings_;
     CurveArguments curves_;
+    SpanArguments span_;
     RecordingArguments recordingArguments_;
 
     std::string output_;
@@ -50,9 +52,6 @@ private:
 
     bool circle_ = false;
     bool grid_ = false;  ///< says what holds without it
-    std::optional<std::string> revolutions_;
-    std::optional<std::string> milliseconds_;
-    std::optional<std::string> at_;
     std::vector<std::string> colors_;
 
     std::optional<std::string> setup_;
