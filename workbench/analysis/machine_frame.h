@@ -6,22 +6,22 @@
 
 namespace Rotavue::Workbench {
 
-// A place as the picture shows it: x to the right, y upward.
+/// A place as the picture shows it: x to the right, y upward.
 struct MachinePoint {
     double x = 0.0;
     double y = 0.0;
 };
 
-// What the two probes see: displacement toward each.
+/// What the two probes see: displacement toward each.
 struct ProbeValues {
     double x = 0.0;
     double y = 0.0;
 };
 
-// Turns what the two probes see into the picture's right and up. Probe angles are degrees clockwise
-// from the top, so a probe looks along (sin angle, cos angle), and
-//     x = X sin(xAngle) + Y sin(yAngle),  y = X cos(xAngle) + Y cos(yAngle)
-// which is what the graph does with every sample. It is exact for probes at right angles.
+/// Turns what the two probes see into the picture's right and up. Probe angles are degrees
+/// clockwise from the top, so a probe looks along (sin angle, cos angle), and
+///     x = X sin(xAngle) + Y sin(yAngle),  y = X cos(xAngle) + Y cos(yAngle)
+/// which is what the graph does with every sample. It is exact for probes at right angles.
 class MachineFrame {
 public:
     explicit MachineFrame(const MachineFacts& machine);
@@ -30,7 +30,7 @@ public:
         return {probes.x * xRight_ + probes.y * yRight_, probes.x * xUp_ + probes.y * yUp_};
     }
 
-    // To the right and upward, of phasors.
+    /// To the right and upward, of phasors.
     std::complex<double> right(std::complex<double> x, std::complex<double> y) const {
         return x * xRight_ + y * yRight_;
     }
@@ -38,10 +38,10 @@ public:
         return x * xUp_ + y * yUp_;
     }
 
-    // Whether two directions can be told apart: false when the probes look along one line.
+    /// Whether two directions can be told apart: false when the probes look along one line.
     bool isPlane() const;
 
-    // The probe values that the graph shows at a place; only where `isPlane`.
+    /// The probe values that the graph shows at a place; only where `isPlane`.
     ProbeValues probesAt(const MachinePoint& place) const;
 
 private:

@@ -14,37 +14,37 @@
 
 namespace Rotavue::Workbench {
 
-// Numbers of the direct (unfiltered) signal over a stretch of time, in the recording's unit.
+/// Numbers of the direct (unfiltered) signal over a stretch of time, in the recording's unit.
 struct DirectValues {
-    std::optional<ProbeValues> gap;  // mean of each probe; empty for an AC-coupled recording
-    ProbeValues peakPeak;            // largest less smallest value of each probe
-    // The largest distance of the orbit from its mean point: how ISO 20816-1 judges relative shaft
-    // vibration by method C.
+    std::optional<ProbeValues> gap;  ///< mean of each probe; empty for an AC-coupled recording
+    ProbeValues peakPeak;            ///< largest less smallest value of each probe
+    /// The largest distance of the orbit from its mean point: how ISO 20816-1 judges relative shaft
+    /// vibration by method C.
     double smax = 0.0;
 };
 
-// One order as vectors and as an ellipse.
+/// One order as vectors and as an ellipse.
 struct OrderSummary {
     OrderVectors vectors;
     OrderEllipse ellipse;
 };
 
-// What a person asks of a recording first.
+/// What a person asks of a recording first.
 struct OrbitSummary {
-    TimeSpan span = {};  // the stretch looked at, within the recording
+    TimeSpan span = {};  ///< the stretch looked at, within the recording
     std::string unit;
     DirectValues direct;
-    std::optional<double> speed;       // rpm, mean over the whole turns; empty: none known
-    std::optional<double> speedFirst;  // rpm at the first of these turns
-    std::optional<double> speedLast;   // rpm at the last
-    std::vector<OrderSummary> orders;  // empty where none can be given
-    std::vector<std::string> notes;    // why something is missing or doubtful, one line each
+    std::optional<double> speed;       ///< rpm, mean over the whole turns; empty: none known
+    std::optional<double> speedFirst;  ///< rpm at the first of these turns
+    std::optional<double> speedLast;   ///< rpm at the last
+    std::vector<OrderSummary> orders;  ///< empty where none can be given
+    std::vector<std::string> notes;    ///< why something is missing or doubtful, one line each
 };
 
-// Sums a stretch of a recording up. What needs the shaft's angle is left out where it cannot be
-// had, with the reason as a note.
-//
-// Throws AnalysisError if the span holds no sample of both probes, or as `checkOrders`.
+/// Sums a stretch of a recording up. What needs the shaft's angle is left out where it cannot be
+/// had, with the reason as a note.
+///
+/// Throws AnalysisError if the span holds no sample of both probes, or as `checkOrders`.
 OrbitSummary summarize(const Recording& recording, const ShaftTrack& track,
                        std::span<const double> orders, const TimeSpan& span = {});
 

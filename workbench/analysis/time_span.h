@@ -4,7 +4,7 @@
 
 namespace Rotavue::Workbench {
 
-// A stretch of a recording, in seconds after its first sample; the whole recording unless set.
+/// A stretch of a recording, in seconds after its first sample; the whole recording unless set.
 struct TimeSpan {
     double from = 0.0;
     double to = std::numeric_limits<double>::infinity();

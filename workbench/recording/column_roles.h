@@ -10,25 +10,25 @@
 
 namespace Rotavue::Workbench {
 
-// The file's columns, each with its role. What the options name comes first; "#2" is the second
-// column, and a name counts with or without its unit. The rest is guessed:
-//
-//   from names    the first column that a word of its name makes the time (t, time, zeit..), X (x,
-//                 horizontal..), Y or the keyphasor (an angle before pulses before a speed)
-//   without names the first column is the time if its values rise in equal steps; then X, Y and,
-//                 if exactly one column is left, the keyphasor
-//
-// Throws RecordingError if a named column isn't there (with the nearest name), if one column is
-// named twice, or if X or Y is neither named nor found.
+/// The file's columns, each with its role. What the options name comes first; "#2" is the second
+/// column, and a name counts with or without its unit. The rest is guessed:
+///
+///   from names    the first column that a word of its name makes the time (t, time, zeit..), X (x,
+///                 horizontal..), Y or the keyphasor (an angle before pulses before a speed)
+///   without names the first column is the time if its values rise in equal steps; then X, Y and,
+///                 if exactly one column is left, the keyphasor
+///
+/// Throws RecordingError if a named column isn't there (with the nearest name), if one column is
+/// named twice, or if X or Y is neither named nor found.
 std::vector<RecordingColumn> assignRoles(const std::filesystem::path& file, const SourceHead& head,
                                          const RecordingOptions& options);
 
-// Whether the values rise in equal steps, but for decimals that were cut off: none is further than
-// one and a half steps, and a tenth of the whole span, from the straight line between the first and
-// the last. False for fewer than three values.
+/// Whether the values rise in equal steps, but for decimals that were cut off: none is further than
+/// one and a half steps, and a tenth of the whole span, from the straight line between the first
+/// and the last. False for fewer than three values.
 bool looksLikeTime(std::span<const double> values);
 
-// What a keyphasor column's name and unit say that it holds; nothing if they leave it open.
+/// What a keyphasor column's name and unit say that it holds; nothing if they leave it open.
 std::optional<KeyphasorKind> kindFromName(const RecordingColumn& column);
 
 }  // namespace Rotavue::Workbench

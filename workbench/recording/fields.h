@@ -7,7 +7,7 @@
 
 namespace Rotavue::Workbench {
 
-// The text without the blanks and tabs around it.
+/// The text without the blanks and tabs around it.
 inline std::string_view trimmed(std::string_view text) {
     const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
     while (!text.empty() && isBlank(text.front()))
@@ -17,14 +17,14 @@ inline std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-// The fields of one line, one after the other, without blanks and quotes around them. Between
-// quotes the delimiter is text; an open quote runs to the end of the line. A line of n delimiters
-// outside quotes has n + 1 fields.
+/// The fields of one line, one after the other, without blanks and quotes around them. Between
+/// quotes the delimiter is text; an open quote runs to the end of the line. A line of n delimiters
+/// outside quotes has n + 1 fields.
 class FieldCursor {
 public:
     FieldCursor(std::string_view line, char delimiter) : rest_(line), delimiter_(delimiter) {}
 
-    // Moves to the next field; false behind the last one.
+    /// Moves to the next field; false behind the last one.
     bool next() {
         if (done_) return false;
         const std::size_t length = fieldLength();

@@ -6,30 +6,30 @@
 
 namespace Rotavue::Workbench {
 
-// A machine file tells what a recording's numbers mean. It is one JSON object; every member may be
-// left out:
-//
-//     {
-//       "machine": "Rotor kit",        "point": "Bearing 1",      "unit": "um",
-//       "rotation": "CCW",             "rate": 5000,              "time": {"column": "t"},
-//       "coupling": "DC",
-//       "x": {"column": "X", "angle": "45 R", "sensitivity": 0.00787, "rest": -9.8},
-//       "y": {"column": "Y", "angle": 315, "sensitivity": 0.00787, "rest": -9.8},
-//       "keyphasor": {"column": "KP", "kind": "volts", "edge": "falling", "level": -5,
-//                     "hysteresis": 1, "pulsesPerTurn": 1, "angle": 0},
-//       "clearance": {"width": 200, "height": 180}
-//     }
-//
-// What each member means, its unit and its range, stands at the field of the same name in
-// recording_options.h.
+/// A machine file tells what a recording's numbers mean. It is one JSON object; every member may be
+/// left out:
+///
+///     {
+///       "machine": "Rotor kit",        "point": "Bearing 1",      "unit": "um",
+///       "rotation": "CCW",             "rate": 5000,              "time": {"column": "t"},
+///       "coupling": "DC",
+///       "x": {"column": "X", "angle": "45 R", "sensitivity": 0.00787, "rest": -9.8},
+///       "y": {"column": "Y", "angle": 315, "sensitivity": 0.00787, "rest": -9.8},
+///       "keyphasor": {"column": "KP", "kind": "volts", "edge": "falling", "level": -5,
+///                     "hysteresis": 1, "pulsesPerTurn": 1, "angle": 0},
+///       "clearance": {"width": 200, "height": 180}
+///     }
+///
+/// What each member means, its unit and its range, stands at the field of the same name in
+/// recording_options.h.
 
-// Where the machine file of a recording is looked for: beside it, with the name's last extension
-// replaced, so that "kit/run-up.csv" has "kit/run-up.machine.json".
+/// Where the machine file of a recording is looked for: beside it, with the name's last extension
+/// replaced, so that "kit/run-up.csv" has "kit/run-up.machine.json".
 std::filesystem::path machineFileOf(const std::filesystem::path& recording);
 
-// Reads a machine file. Throws RecordingError if it cannot be read, is larger than 64 KiB, is no
-// JSON (with line and column), or holds an unknown member, a wrong type or a value out of range
-// (with the JSON pointer of the member). `machineFile` of the result stays unset.
+/// Reads a machine file. Throws RecordingError if it cannot be read, is larger than 64 KiB, is no
+/// JSON (with line and column), or holds an unknown member, a wrong type or a value out of range
+/// (with the JSON pointer of the member). `machineFile` of the result stays unset.
 RecordingOptions readMachineFile(const std::filesystem::path& file);
 
 }  // namespace Rotavue::Workbench

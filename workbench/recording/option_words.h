@@ -7,7 +7,7 @@
 
 #include "workbench/recording/recording_options.h"
 
-// The words of machine files and options: each list has its one home here.
+/// The words of machine files and options: each list has its one home here.
 namespace Rotavue::Workbench {
 
 template <typename Value>
@@ -35,7 +35,7 @@ inline constexpr auto CouplingWords = std::to_array<Word<Coupling>>({
     {"AC", Coupling::Ac},
 });
 
-// The value that a word stands for, compared exactly.
+/// The value that a word stands for, compared exactly.
 template <typename Value>
 std::optional<Value> valueOf(std::span<const Word<Value>> words, std::string_view text) {
     for (const Word<Value>& word : words) {
@@ -44,7 +44,7 @@ std::optional<Value> valueOf(std::span<const Word<Value>> words, std::string_vie
     return std::nullopt;
 }
 
-// The word for a value of the list.
+/// The word for a value of the list.
 template <typename Value>
 std::string_view wordFor(std::span<const Word<Value>> words, Value value) {
     for (const Word<Value>& word : words) {

@@ -9,16 +9,16 @@
 
 namespace Rotavue::Workbench {
 
-// Makes a recording from a file's columns: gives each its role, reads those that are wanted, and
-// turns them into sample rate, displacements and shaft angle, with the facts about the machine.
+/// Makes a recording from a file's columns: gives each its role, reads those that are wanted, and
+/// turns them into sample rate, displacements and shaft angle, with the facts about the machine.
 class RecordingBuilder {
 public:
-    // The source is used by `build` and must outlive it; the options are those of the machine file
-    // and of the caller in one.
+    /// The source is used by `build` and must outlive it; the options are those of the machine file
+    /// and of the caller in one.
     RecordingBuilder(const std::filesystem::path& file, SampleSource& source,
                      RecordingOptions options);
 
-    // Called once. Throws RecordingError.
+    /// Called once. Throws RecordingError.
     Recording build();
 
 private:
@@ -46,7 +46,7 @@ private:
     SampleSource& source_;
     RecordingOptions options_;
     std::vector<WantedColumn> wanted_;
-    std::vector<std::vector<double>> values_;  // as `wanted_`
+    std::vector<std::vector<double>> values_;  ///< as `wanted_`
     Recording recording_;
 };
 

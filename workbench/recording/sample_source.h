@@ -10,33 +10,34 @@
 
 namespace Rotavue::Workbench {
 
-// What a file tells before its samples are read.
+/// What a file tells before its samples are read.
 struct SourceHead {
-    std::vector<RecordingColumn> columns;      // no roles yet
-    bool namesGiven = true;                    // false: the columns are numbered by us
-    std::vector<std::vector<double>> preview;  // one list per column: its first values, if unnamed
-    std::optional<double> rate;                // samples per second
-    std::string unit;                          // of the displacements
+    std::vector<RecordingColumn> columns;  ///< no roles yet
+    bool namesGiven = true;                ///< false: the columns are numbered by us
+    std::vector<std::vector<double>>
+        preview;                 ///< one list per column: its first values, if unnamed
+    std::optional<double> rate;  ///< samples per second
+    std::string unit;            ///< of the displacements
     std::string machine;
     std::string point;
 };
 
-// A column to be read, by its index, and what for: vibration columns may hold gaps, a time column
-// must not run backward.
+/// A column to be read, by its index, and what for: vibration columns may hold gaps, a time column
+/// must not run backward.
 struct WantedColumn {
     std::size_t index = 0;
     ColumnRole role = ColumnRole::Unused;
 };
 
-// A file with columns of samples. Throws RecordingError from every operation.
+/// A file with columns of samples. Throws RecordingError from every operation.
 class SampleSource {
 public:
     virtual ~SampleSource() = default;
 
     virtual const SourceHead& head() const = 0;
 
-    // The values of the wanted columns, in the order of `wanted`: lists of one length, from 1 to
-    // `MaxSampleCount`. A gap is a NaN.
+    /// The values of the wanted columns, in the order of `wanted`: lists of one length, from 1 to
+    /// `MaxSampleCount`. A gap is a NaN.
     virtual std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted) = 0;
 };
 

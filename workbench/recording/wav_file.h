@@ -7,19 +7,19 @@
 
 namespace Rotavue::Workbench {
 
-// Whether the file begins as a WAV file of any size does (RIFF, RIFX, RF64 or W64). Throws
-// RecordingError if it cannot be read.
+/// Whether the file begins as a WAV file of any size does (RIFF, RIFX, RF64 or W64). Throws
+/// RecordingError if it cannot be read.
 bool isWavFile(const std::filesystem::path& file);
 
-// A WAV file. Its channels are numbered from "1". Whole-number samples run from -1 to 1 of full
-// scale, floating-point ones are as they stand.
-//
-// `read` throws RecordingError at a value that is no number in a channel which is no vibration
-// channel, and if the file holds no samples.
+/// A WAV file. Its channels are numbered from "1". Whole-number samples run from -1 to 1 of full
+/// scale, floating-point ones are as they stand.
+///
+/// `read` throws RecordingError at a value that is no number in a channel which is no vibration
+/// channel, and if the file holds no samples.
 class WavFile : public SampleSource {
 public:
-    // Throws RecordingError if the file is damaged, is compressed, or holds more than 1024
-    // channels.
+    /// Throws RecordingError if the file is damaged, is compressed, or holds more than 1024
+    /// channels.
     explicit WavFile(const std::filesystem::path& file);
     ~WavFile() override;
 
