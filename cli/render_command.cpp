@@ -11,7 +11,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <future>
 #include <iostream>
+#include <memory>
 
 namespace Rotavue::Cli {
 
@@ -210,11 +212,14 @@ int RenderCommand::run() {
     if (output.isStandardOutput() && ::isatty(STDOUT_FILENO) != 0) {
         throw UsageError("a picture does not go to a terminal");
     }
-    OrbitScene scene(asked);
-    StudioLibrary studio;
-    output.write(OrbitPicture(asked, scene, *studio).paint());
+    // The recordings are read while the part of the program that paints is loaded.
+    auto reading =
+        std::async(std::launch::async, [&asked] { return std::make_unique<OrbitScene>(asked); });
+    const StudioLibrary studio;
+    const std::unique_ptr<OrbitScene> scene = reading.get();
+    output.write(OrbitPicture(asked, *scene, *studio).paint());
     if (asked.quiet) return 0;
-    for (const std::string& note : scene.notes())
+    for (const std::string& note : scene->notes())
         std::cerr << note << '\n';
     std::cerr << (output.isStandardOutput() ? "the picture" : output_) << ": "
               << asked.picture.width * asked.picture.scale << " x "

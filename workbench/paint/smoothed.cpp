@@ -74,19 +74,43 @@ std::vector<bool> corners(const Line& line) {
     return result;
 }
 
-QPointF inPixel(QPointF point, QPointF pixel) {
-    constexpr double Half = 0.5;
-    return {std::clamp(point.x(), pixel.x() - Half, pixel.x() + Half),
-            std::clamp(point.y(), pixel.y() - Half, pixel.y() + Half)};
+/// One coordinate of all points, each of which may move between its bounds. Apart from the other
+/// coordinate the compiler works on several points at once.
+struct Coordinate {
+    std::vector<double> at;
+    std::vector<double> least;
+    std::vector<double> most;
+};
+
+Coordinate coordinateOf(const Line& pixels, const std::vector<bool>& fixed,
+                        double (*of)(const QPointF&)) {
+    Coordinate result;
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        const double room = fixed[i] ? 0.0 : 0.5;  // within the pixel
+        const double value = of(pixels[i]);
+        result.at.push_back(value);
+        result.least.push_back(value - room);
+        result.most.push_back(value + room);
+    }
+    return result;
 }
 
-void relax(Line& line, const Line& pixels, const std::vector<bool>& fixed) {
-    QPointF before = line.front();
-    for (std::size_t i = 1; i + 1 < line.size(); ++i) {
-        const QPointF here = line[i];
-        if (!fixed[i]) line[i] = inPixel((before + 2.0 * here + line[i + 1]) / 4.0, pixels[i]);
-        before = here;
+/// Moves each point toward the middle between its neighbours.
+void relax(Coordinate& coordinate, std::vector<double>& next) {
+    const std::vector<double>& at = coordinate.at;
+    for (std::size_t i = 1; i + 1 < at.size(); ++i) {
+        const double wanted = (at[i - 1] + 2.0 * at[i] + at[i + 1]) / 4.0;
+        next[i] = std::min(std::max(wanted, coordinate.least[i]), coordinate.most[i]);
     }
+    coordinate.at.swap(next);
+}
+
+std::vector<double> relaxed(Coordinate coordinate) {
+    constexpr int Passes = 24;
+    std::vector<double> next = coordinate.at;
+    for (int pass = 0; pass < Passes; ++pass)
+        relax(coordinate, next);
+    return std::move(coordinate.at);
 }
 
 Line thinned(const Line& line) {
@@ -105,13 +129,15 @@ Line thinned(const Line& line) {
 }  // namespace
 
 std::vector<QPointF> smoothed(std::span<const QPoint> points) {
-    constexpr int Passes = 24;
-    const Line pixels = withoutRepeats(points);
-    if (pixels.size() < 3) return pixels;
-    const std::vector<bool> fixed = corners(pixels);
-    Line line = pixels;
-    for (int pass = 0; pass < Passes; ++pass)
-        relax(line, pixels, fixed);
+    Line line = withoutRepeats(points);
+    if (line.size() < 3) return line;
+    const std::vector<bool> fixed = corners(line);
+    const auto x =
+        relaxed(coordinateOf(line, fixed, [](const QPointF& point) { return point.x(); }));
+    const auto y =
+        relaxed(coordinateOf(line, fixed, [](const QPointF& point) { return point.y(); }));
+    for (std::size_t i = 0; i < line.size(); ++i)
+        line[i] = {x[i], y[i]};
     return thinned(line);
 }
 
