@@ -9,6 +9,13 @@ file(
         ${PROJECT_SOURCE_DIR}/cli/*.h
 )
 
+# Each platform compiles its own.
+if(WIN32)
+    list(FILTER headers EXCLUDE REGEX "/portable/")
+else()
+    list(FILTER headers EXCLUDE REGEX "/windows/")
+endif()
+
 # rotavue_begins_with(SOURCE HEADER RESULT): whether HEADER is the first that SOURCE includes.
 function(rotavue_begins_with source header result)
     set(${result} FALSE PARENT_SCOPE)

@@ -1,3 +1,5 @@
+#include "plugin/framework/guid_text.h"
+#include "plugin/module/windows/interfaces/operations.h"
 #include "tests/plugin/source_tree.h"
 
 #include <gtest/gtest.h>
@@ -242,6 +244,36 @@ TEST_P(HostInterface, KeepsItsIdentifierAndThePlacesOfItsOperations) {
 
 INSTANTIATE_TEST_SUITE_P(Binary, HostInterface, testing::ValuesIn(Contract),
                          [](const auto& parameter) { return parameter.param.name; });
+
+/// The lists from which the binary form is made.
+std::vector<Interface> listedInterfaces() {
+    using namespace Meridax::Host;
+    std::vector<Interface> all;
+    Binary::forEachInterface([&]<class Listed>(std::type_identity<Listed>) {
+        const std::wstring identifier = Meridax::VisualControls::Api::guidText(Listed::Identifier);
+        Interface one{std::string(Binary::Table<Listed>::Text),
+                      std::string(identifier.begin(), identifier.end()),
+                      {}};
+        Binary::forEachOperation<Listed>([&]<class Row>(std::type_identity<Row>) {
+            one.places.push_back({static_cast<int>(Row::PlaceNumber), std::string(Row::Text)});
+        });
+        all.push_back(std::move(one));
+    });
+    return all;
+}
+
+TEST(HostInterfaces, StandInTheListsOfTheBinaryForm) {
+    const std::vector<Interface> listed = listedInterfaces();
+    ASSERT_EQ(listed.size(), Contract.size());
+    for (std::size_t i = 0; i < listed.size(); ++i) {
+        const auto one = std::find_if(Contract.begin(), Contract.end(), [&](const Interface& it) {
+            return it.name == listed[i].name;
+        });
+        ASSERT_NE(one, Contract.end()) << listed[i].name;
+        EXPECT_EQ(listed[i].identifier, one->identifier);
+        EXPECT_EQ(listed[i].places, one->places) << listed[i].name;
+    }
+}
 
 TEST(HostInterfaces, AreTwentyEight) {
     EXPECT_EQ(Contract.size(), 28U);

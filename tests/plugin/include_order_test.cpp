@@ -30,7 +30,9 @@ std::string folderOf(const std::string& path) {
 /// What is wrong with an include of a file below plugin/; empty where nothing is.
 std::string faultOf(const std::string& file, const Include& include) {
     const bool isSystem = include.name.find('.') != std::string::npos;
-    if (include.isAngled && isSystem && !file.starts_with("module/portable/"))
+    const bool isPlatforms =
+        file.starts_with("module/portable/") || file.starts_with("module/windows/");
+    if (include.isAngled && isSystem && !isPlatforms)
         return "neither ours nor of the standard library";
     if (include.isAngled) return "";
     if (!include.name.starts_with("plugin/")) return "from outside plugin/";
@@ -68,13 +70,16 @@ TEST(IncludeOrder, HasNoCycleBetweenFiles) {
 }
 
 /// What the host side shares with the plug-in: the contract, the text conversions that both need,
-/// the node layer's exception, which reaches the host, and the registry file, which a host reads.
+/// the node layer's exception, which reaches the host, the registry file, which a host reads, and
+/// the binary form of the interfaces.
 bool isShared(const std::string& header) {
     static const std::set<std::string> Shared{
         "plugin/framework/guid_text.h",           "plugin/framework/message_arguments.h",
         "plugin/framework/plugin_interfaces.h",   "plugin/framework/unicode.h",
-        "plugin/module/portable/registry_file.h", "plugin/setup_document/xml_exception.h"};
-    return header.starts_with("plugin/framework/host/") || Shared.contains(header);
+        "plugin/module/portable/registry_file.h", "plugin/module/windows/platform_headers.h",
+        "plugin/setup_document/xml_exception.h"};
+    return header.starts_with("plugin/framework/host/") ||
+           header.starts_with("plugin/module/windows/interfaces/") || Shared.contains(header);
 }
 
 TEST(IncludeOrder, HostKitKnowsTheContractAndNoneOfTheLogic) {
@@ -123,7 +128,8 @@ INSTANTIATE_TEST_SUITE_P(
         Edge{"settings/x.cpp", "#include <nlohmann/json.hpp>",
              "neither ours nor of the standard library"},
         Edge{"module/x.cpp", "#include <unistd.h>", "neither ours nor of the standard library"},
-        Edge{"module/portable/x.cpp", "#include <unistd.h>", ""}));
+        Edge{"module/portable/x.cpp", "#include <unistd.h>", ""},
+        Edge{"module/windows/x.cpp", "#include <oaidl.h>", ""}));
 
 TEST(IncludeCycle, IsFoundWhereThereIsOne) {
     EXPECT_EQ(cycleIn({{"a", {"b"}}, {"b", {"c", "d"}}, {"d", {"b"}}}), "b -> d -> b");
