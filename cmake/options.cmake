@@ -31,11 +31,10 @@ if(ROTAVUE_SANITIZE)
         INTERFACE -fsanitize=address,undefined
                   -fno-sanitize-recover=all
                   -fno-omit-frame-pointer
-                  # Some optimisation and line numbers alone: half the time to build and to run.
-                  -O1
-                  -g1
     )
     target_link_options(rotavue_options INTERFACE -fsanitize=address,undefined)
+    # Some optimisation and line numbers alone: half the time to build and to run.
+    set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
 endif()
 
 # rotavue_library(NAME SOURCES a.cpp ... LIBRARIES x ...): a static library of one folder.
