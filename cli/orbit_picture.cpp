@@ -25,19 +25,11 @@ constexpr double AutomaticHeadroom = 1.1;
 
 }  // namespace
 
-OrbitPicture::OrbitPicture(const RenderOptions& options, OrbitScene& scene, PictureStudio& studio)
-    : options_(options), scene_(scene), studio_(studio) {}
+OrbitPicture::OrbitPicture(const RenderOptions& options, ShownScene& shown, PictureStudio& studio)
+    : options_(options), shown_(shown), scene_(shown.scene()), studio_(studio) {}
 
 PictureArea OrbitPicture::areaWith(const PictureHeader& header) const {
     return studio_.areaOf(options_.picture, options_.header ? header : PictureHeader{});
-}
-
-double OrbitPicture::automaticLimit(DrivenControl& control, const PictureArea& area) {
-    control.load(settingsFor(options_, scene_, {.ticks = UsualTicks.front(), .limit = {}}));
-    control.draw(scene_.host().canvas(), area.width, area.height, options_.scheme);
-    const DrivenControl::Settings& saved = control.save();
-    alike_ = limitsAreAlike(saved);
-    return limitIn(saved);
 }
 
 bool OrbitPicture::namesFit(const PictureArea& area) const {
@@ -49,9 +41,8 @@ bool OrbitPicture::namesFit(const PictureArea& area) const {
     return static_cast<double>(characters) * CharacterWidth * area.textHeight <= area.height;
 }
 
-GraphScale OrbitPicture::scaleFor(DrivenControl& control, const PictureArea& area) {
-    const bool fixed = options_.limits == LimitChoice::Fixed;
-    const double limit = fixed ? options_.limit : automaticLimit(control, area);
+GraphScale OrbitPicture::scaleFor(const PictureArea& area) const {
+    const double limit = shown_.limit();
     const ScaleRoom room{.background = options_.background,
                          .plotSide = std::min(area.width, area.height) - PlotMargins,
                          .textHeight = area.textHeight};
@@ -72,26 +63,23 @@ GraphScale OrbitPicture::scaleFor(DrivenControl& control, const PictureArea& are
 }
 
 std::string OrbitPicture::paint() {
-    HostKit::Module module(HostKit::chooseModule(options_.module));
-    DrivenControl control(module, scene_.host());
-    control.assignmentChanged();
-
     // The strip is as high as its lines, and the scale that stands in it needs the area below.
     const PictureArea roughly = areaWith(pictureHeader(scene_, GraphScale{}));
-    const GraphScale scale = scaleFor(control, roughly);
+    const GraphScale scale = scaleFor(roughly);
     const bool known = scale.limit > 0.0;
-    const PictureHeader header =
-        pictureHeader(scene_, known && alike_ ? std::optional(scale) : std::nullopt);
+    const PictureHeader header = pictureHeader(
+        scene_, known && shown_.limitsAreAlike() ? std::optional(scale) : std::nullopt);
     const bool manual = known && options_.limits != LimitChoice::Auto;
     setAxisDecimals(scene_.host().description, scale.decimals);
-    control.load(settingsFor(options_, scene_,
-                             {.ticks = scale.ticks,
-                              .limit = manual ? std::optional(scale.limit) : std::nullopt,
-                              .legendInRow = namesFit(areaWith(header))}));
-    return drawn(control, header);
+    shown_.control().load(settingsFor(options_, scene_,
+                                      {.ticks = scale.ticks,
+                                       .limit = manual ? std::optional(scale.limit) : std::nullopt,
+                                       .legendInRow = namesFit(areaWith(header))}));
+    return drawn(header);
 }
 
-std::string OrbitPicture::drawn(DrivenControl& control, const PictureHeader& header) {
+std::string OrbitPicture::drawn(const PictureHeader& header) {
+    DrivenControl& control = shown_.control();
     const PictureArea area = areaWith(header);
     const auto frame = [&] {
         auto picture = studio_.open(options_.picture, options_.header ? header : PictureHeader{});

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/driven_control.h"
-#include "cli/orbit_scene.h"
+#include "cli/graph_scale.h"
 #include "cli/render_options.h"
+#include "cli/shown_scene.h"
 
 #include <string>
 
@@ -12,17 +12,14 @@ namespace Rotavue::Cli {
 class OrbitPicture {
 public:
     /// All three must outlive the picture.
-    OrbitPicture(const RenderOptions& options, OrbitScene& scene, Workbench::PictureStudio& studio);
+    OrbitPicture(const RenderOptions& options, ShownScene& shown, Workbench::PictureStudio& studio);
 
     /// The bytes of the file.
     std::string paint();
 
 private:
     /// The scale that the plot gets in an area.
-    GraphScale scaleFor(DrivenControl& control, const Workbench::PictureArea& area);
-
-    /// The largest limit that the plug-in itself finds for what is on show; 0 for nothing.
-    double automaticLimit(DrivenControl& control, const Workbench::PictureArea& area);
+    GraphScale scaleFor(const Workbench::PictureArea& area) const;
 
     Workbench::PictureArea areaWith(const Workbench::PictureHeader& header) const;
 
@@ -31,15 +28,15 @@ private:
 
     /// Draws with the settings as they are loaded, and once more with the pointer where it is
     /// given.
-    std::string drawn(DrivenControl& control, const Workbench::PictureHeader& header);
+    std::string drawn(const Workbench::PictureHeader& header);
 
     /// What the pointer's place is in the area. Raises `UsageError` for a place above it.
     PicturePoint pointerIn(const Workbench::PictureArea& area) const;
 
     const RenderOptions& options_;
+    ShownScene& shown_;
     OrbitScene& scene_;
     Workbench::PictureStudio& studio_;
-    bool alike_ = true;  ///< one scale tells both axes
 };
 
 }  // namespace Rotavue::Cli

@@ -214,12 +214,12 @@ int RenderCommand::run() {
     }
     // The recordings are read while the part of the program that paints is loaded.
     auto reading =
-        std::async(std::launch::async, [&asked] { return std::make_unique<OrbitScene>(asked); });
+        std::async(std::launch::async, [&asked] { return std::make_unique<ShownScene>(asked); });
     const StudioLibrary studio;
-    const std::unique_ptr<OrbitScene> scene = reading.get();
-    output.write(OrbitPicture(asked, *scene, *studio).paint());
+    const std::unique_ptr<ShownScene> shown = reading.get();
+    output.write(OrbitPicture(asked, *shown, *studio).paint());
     if (asked.quiet) return 0;
-    for (const std::string& note : scene->notes())
+    for (const std::string& note : shown->scene().notes())
         std::cerr << note << '\n';
     std::cerr << (output.isStandardOutput() ? "the picture" : output_) << ": "
               << asked.picture.width * asked.picture.scale << " x "

@@ -64,14 +64,14 @@ protected:
 
     OrbitScene& paint(const std::string& show) {
         options.show = curveRequests(show);
-        scene.emplace(options);
-        OrbitPicture(options, *scene, studio).paint();
-        return *scene;
+        shown.emplace(options);
+        OrbitPicture(options, *shown, studio).paint();
+        return shown->scene();
     }
 
     RenderOptions options;
     NotingStudio studio;
-    std::optional<OrbitScene> scene;
+    std::optional<ShownScene> shown;
 };
 
 TEST_F(OrbitPictureTest, StripSaysWhichCurvesOfHowMuch) {
@@ -117,8 +117,8 @@ TEST_F(OrbitPictureTest, LegendNamesEachKind) {
 TEST_F(OrbitPictureTest, TwoRecordingsHaveACurveOfEachKindAndOneReference) {
     writeRotor("other.csv");
     options.recordings.push_back(at("other.csv").string());
-    const OrbitScene& shown = paint("average,raw,reference:" + at("rotor.csv").string());
-    EXPECT_EQ(shown.curveNames(),
+    const OrbitScene& scene = paint("average,raw,reference:" + at("rotor.csv").string());
+    EXPECT_EQ(scene.curveNames(),
               (std::vector<std::string>{"rotor raw", "other raw", "rotor average",
                                         "reference rotor", "other average"}));
 }
@@ -137,7 +137,7 @@ TEST_F(OrbitPictureTest, AverageAndOrdersAreThoseOfTheShownTurns) {
     write("grows.csv", text);
     options.recordings = {at("grows.csv").string()};
     const auto largest = [&](const std::string& id) {
-        const std::vector<double>& x = scene->host().description.channels[id].values[4];
+        const std::vector<double>& x = shown->scene().host().description.channels[id].values[4];
         return *std::max_element(x.begin(), x.end());
     };
     paint("average");
@@ -153,9 +153,9 @@ TEST_F(OrbitPictureTest, AverageAndOrdersAreThoseOfTheShownTurns) {
 TEST_F(OrbitPictureTest, ShaftCenterReachesFromTheFirstSampleToTheNewestShown) {
     options.shaftCenter.interval = 0.5;
     options.at = 1.4;
-    OrbitScene& shown = paint("shaft-center");
+    OrbitScene& scene = paint("shaft-center");
     // The third interval, of 0.4 s, is more than half of one.
-    const std::vector<double>& times = shown.host().description.channels["derived1"].timestamps;
+    const std::vector<double>& times = scene.host().description.channels["derived1"].timestamps;
     ASSERT_EQ(times.size(), 3U);
     EXPECT_LT(times.back(), 1.4);
 }
