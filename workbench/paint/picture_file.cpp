@@ -1,10 +1,10 @@
 #include "workbench/paint/picture_file.h"
 
 #include "workbench/paint/offscreen_gui.h"
+#include "workbench/paint/png_file.h"
 
 #include <QBuffer>
 #include <QImage>
-#include <QImageWriter>
 #include <QMarginsF>
 #include <QPageSize>
 #include <QPdfWriter>
@@ -19,9 +19,6 @@ namespace Rotavue::Workbench {
 namespace {
 
 constexpr int DotsPerInch = 96;
-
-// Of 100. Orbits come out as small as with the default, in 60 % of its time.
-constexpr int PngCompression = 20;
 
 class PngFile final : public PictureFile {
 public:
@@ -40,12 +37,7 @@ public:
 
     QByteArray finish() override {
         painter_.end();
-        QBuffer file;
-        file.open(QIODevice::WriteOnly);
-        QImageWriter writer(&file, "png");
-        writer.setCompression(PngCompression);
-        if (!writer.write(image_)) throw PaintError("no PNG file can be made");
-        return file.data();
+        return toPngFile(image_);
     }
 
 private:
