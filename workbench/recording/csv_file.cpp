@@ -1,148 +1,122 @@
 #include "workbench/recording/csv_file.h"
 
 #include <algorithm>
+#include <deque>
+#include <future>
+#include <memory>
 #include <string>
+#include <thread>
 
-#include "workbench/recording/fields.h"
-#include "workbench/recording/line_reader.h"
-#include "workbench/recording/number_field.h"
-#include "workbench/recording/option_items.h"
+#include "workbench/recording/chunk_reader.h"
+#include "workbench/recording/row_parser.h"
 
 namespace Rotavue::Workbench {
 namespace {
 
-bool mayHoldGaps(ColumnRole role) {
-    return role == ColumnRole::X || role == ColumnRole::Y;
+constexpr unsigned MostThreads = 8;
+constexpr double RowsToSpare = 1.05;
+
+unsigned threadCount(unsigned wanted) {
+    return std::clamp(wanted != 0 ? wanted : std::thread::hardware_concurrency(), 1U, MostThreads);
 }
 
-// Whether the byte of UTF-8 is the first of a character.
-bool beginsCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-}
-
-class RowReader {
+// Reads the rows chunk by chunk, several at a time, and joins them in their order.
+//
+// A chunk is parsed as if the file began with it. Only where it is joined, what lies before it is
+// known: a chunk with a fault, or one that may not stand there, is then parsed once more, and the
+// error that this throws tells the true place.
+class RowCollector {
 public:
-    RowReader(const std::filesystem::path& file, const TableLayout& layout,
-              std::span<const WantedColumn> wanted);
+    RowCollector(const std::filesystem::path& file, const TableLayout& layout,
+                 std::span<const WantedColumn> wanted)
+        : parser_(file, layout, wanted),
+          chunks_(file, layout.firstDataOffset),
+          values_(wanted.size()) {
+        before_.lines = layout.firstDataLine - 1;
+    }
 
-    std::vector<std::vector<double>> read();
+    std::vector<std::vector<double>> read(unsigned threads, const ReadingProgress& progress);
 
 private:
-    // What becomes of one field of each row; unused columns have no values.
-    struct Slot {
-        ColumnRole role = ColumnRole::Unused;
-        std::vector<double>* values = nullptr;
+    struct Chunk {
+        std::unique_ptr<std::string> text;
+        std::future<std::optional<ParsedRows>> rows;  // nothing: there is a fault
     };
 
-    void passHeader();
-    void takeRow(std::string_view line);
-    void takeField(std::string_view field, std::size_t index);
-    void checkTime(std::string_view field, const Slot& slot, double value) const;
-    void checkSampleCount(std::size_t rows) const;
-    [[noreturn]] void refuseCount() const;
-    [[noreturn]] void refuseField(std::string_view field, std::size_t index, FieldKind kind) const;
-    FilePlace placeOf(std::string_view field) const;
+    void begin(unsigned threads);
+    void join(Chunk chunk);
+    void append(const ParsedRows& rows);
+    void reserve(std::size_t firstChunk);
 
-    std::filesystem::path file_;
-    const TableLayout& layout_;
-    LineReader reader_;
+    RowParser parser_;
+    ChunkReader chunks_;
+    std::deque<Chunk> begun_;
+    RowsBefore before_;
+    bool reserved_ = false;
     std::vector<std::vector<double>> values_;
-    std::vector<Slot> slots_;
 };
 
-RowReader::RowReader(const std::filesystem::path& file, const TableLayout& layout,
-                     std::span<const WantedColumn> wanted)
-    : file_(file),
-      layout_(layout),
-      reader_(file),
-      values_(wanted.size()),
-      slots_(layout.columnCount) {
-    for (std::size_t i = 0; i < wanted.size(); ++i) {
-        slots_[wanted[i].index] = {wanted[i].role, &values_[i]};
-    }
-}
-
-std::vector<std::vector<double>> RowReader::read() {
-    passHeader();
-    for (std::size_t rows = 0; reader_.next();) {
-        if (trimmed(reader_.line()).empty()) continue;
-        checkSampleCount(++rows);
-        takeRow(reader_.line());
+std::vector<std::vector<double>> RowCollector::read(unsigned threads,
+                                                    const ReadingProgress& progress) {
+    for (begin(threads); !begun_.empty(); begin(threads)) {
+        Chunk first = std::move(begun_.front());
+        begun_.pop_front();
+        join(std::move(first));
+        progress.reach(static_cast<double>(chunks_.position()) /
+                       static_cast<double>(std::max<std::uint64_t>(chunks_.size(), 1)));
     }
     return std::move(values_);
 }
 
-void RowReader::passHeader() {
-    while (reader_.number() + 1 < layout_.firstDataLine && reader_.next()) {
+// Gives every thread a chunk. Where the system has no more threads, the one that joins parses.
+void RowCollector::begin(unsigned threads) {
+    while (begun_.size() < threads) {
+        auto text = std::make_unique<std::string>();
+        if (!chunks_.next(*text)) return;
+        const auto parse = [this, &text = *text]() -> std::optional<ParsedRows> {
+            try {
+                return parser_.parse(text, {});
+            } catch (const RecordingError&) {
+                return std::nullopt;
+            }
+        };
+        auto rows = std::async(std::launch::async | std::launch::deferred, parse);
+        begun_.push_back({std::move(text), std::move(rows)});
     }
 }
 
-void RowReader::takeRow(std::string_view line) {
-    std::size_t index = 0;
-    for (FieldCursor cursor(line, layout_.delimiter); cursor.next(); ++index) {
-        if (index == slots_.size()) refuseCount();
-        if (slots_[index].values) takeField(cursor.field(), index);
-    }
-    if (index != slots_.size()) refuseCount();
+void RowCollector::join(Chunk chunk) {
+    const std::optional<ParsedRows> rows = chunk.rows.get();
+    const bool joins = rows && parser_.follows(*rows, before_);
+    append(joins ? *rows : parser_.parse(*chunk.text, before_));
+    if (!reserved_) reserve(chunk.text->size());
 }
 
-void RowReader::takeField(std::string_view field, std::size_t index) {
-    const NumberField number = readNumber(field);
-    const Slot& slot = slots_[index];
-    const bool taken = number.kind == FieldKind::Number ||
-                       (number.kind == FieldKind::Gap && mayHoldGaps(slot.role));
-    if (!taken) refuseField(field, index, number.kind);
-    if (slot.role == ColumnRole::Time) checkTime(field, slot, number.value);
-    slot.values->push_back(number.value);
+// The first chunk tells how many rows to expect, with some to spare. Values that have to move on
+// the way take their memory twice.
+void RowCollector::reserve(std::size_t firstChunk) {
+    reserved_ = true;
+    const double chunks = static_cast<double>(chunks_.size()) / static_cast<double>(firstChunk);
+    const double rows = static_cast<double>(before_.rows) * chunks * RowsToSpare;
+    const double most = std::min(rows, static_cast<double>(MaxSampleCount));
+    for (std::vector<double>& values : values_)
+        values.reserve(static_cast<std::size_t>(most));
 }
 
-void RowReader::checkTime(std::string_view field, const Slot& slot, double value) const {
-    if (slot.values->empty() || value >= slot.values->back()) return;
-    throw RecordingError(placeOf(field),
-                         "time " + numberText(value) + " after " + numberText(slot.values->back()),
-                         "time that does not run backward");
-}
-
-void RowReader::checkSampleCount(std::size_t rows) const {
-    if (rows <= MaxSampleCount) return;
-    throw RecordingError({file_, reader_.number()}, "more rows",
-                         "at most " + std::to_string(MaxSampleCount));
-}
-
-// The place is the first field too many, or where the first missing one would stand.
-void RowReader::refuseCount() const {
-    const std::vector<std::string_view> fields = fieldsOf(reader_.line(), layout_.delimiter);
-    const std::size_t found = fields.size();
-    const bool tooMany = found > layout_.columnCount;
-    const std::string_view end = reader_.line().substr(reader_.line().size());
-    throw RecordingError(placeOf(tooMany ? fields[layout_.columnCount] : end),
-                         std::to_string(found) + (found == 1 ? " field" : " fields"),
-                         std::to_string(layout_.columnCount) + " as in line " +
-                             std::to_string(layout_.firstDataLine));
-}
-
-void RowReader::refuseField(std::string_view field, std::size_t index, FieldKind kind) const {
-    const bool gapAllowed = mayHoldGaps(slots_[index].role);
-    const std::string found = field.empty() ? "nothing" : inQuotes(field);
-    const std::string range = kind == FieldKind::OutOfRange ? " from -1e+30 to 1e+30" : "";
-    throw RecordingError(placeOf(field),
-                         found + " in column " + inQuotes(layout_.head.columns[index].name),
-                         "a number" + range + (gapAllowed ? ", or nothing for a gap" : ""));
-}
-
-FilePlace RowReader::placeOf(std::string_view field) const {
-    const std::string_view line = reader_.line();
-    const auto before = line.substr(0, static_cast<std::size_t>(field.data() - line.data()));
-    const auto characters = std::count_if(before.begin(), before.end(), beginsCharacter);
-    return {file_, reader_.number(), static_cast<std::size_t>(characters) + 1};
+void RowCollector::append(const ParsedRows& rows) {
+    before_ = parser_.behind(rows, before_);
+    for (std::size_t i = 0; i < values_.size(); ++i)
+        values_[i].insert(values_[i].end(), rows.values[i].begin(), rows.values[i].end());
 }
 
 }  // namespace
 
-CsvFile::CsvFile(const std::filesystem::path& file) : file_(file), layout_(findTableLayout(file)) {}
+CsvFile::CsvFile(const std::filesystem::path& file, unsigned threads)
+    : file_(file), layout_(findTableLayout(file)), threads_(threadCount(threads)) {}
 
-std::vector<std::vector<double>> CsvFile::read(std::span<const WantedColumn> wanted) {
-    return RowReader(file_, layout_, wanted).read();
+std::vector<std::vector<double>> CsvFile::read(std::span<const WantedColumn> wanted,
+                                               const ReadingProgress& progress) {
+    return RowCollector(file_, layout_, wanted).read(threads_, progress);
 }
 
 }  // namespace Rotavue::Workbench

@@ -12,18 +12,23 @@ namespace Rotavue::Workbench {
 ///
 /// `read` throws RecordingError, with line and column, at a row with another number of fields than
 /// the first, at a text or a number that no double holds in a wanted column, at a gap in one that
-/// is no vibration column, and where the time runs backward.
+/// is no vibration column, and where the time runs backward. Several threads read the rows; what
+/// comes out does not depend on how many.
 class CsvFile : public SampleSource {
 public:
-    /// Finds the layout (table_layout.h) and throws as that does.
-    explicit CsvFile(const std::filesystem::path& file);
+    /// Finds the layout (table_layout.h) and throws as that does. `threads` is the number of
+    /// threads that read; 0: as many as the machine runs at once.
+    explicit CsvFile(const std::filesystem::path& file, unsigned threads = 0);
 
+    using SampleSource::read;
     const SourceHead& head() const override { return layout_.head; }
-    std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted) override;
+    std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted,
+                                          const ReadingProgress& progress) override;
 
 private:
     std::filesystem::path file_;
     TableLayout layout_;
+    unsigned threads_;
 };
 
 }  // namespace Rotavue::Workbench

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "workbench/recording/degrees.h"
+#include "workbench/recording/value_memory.h"
 
 namespace Rotavue::Workbench {
 namespace {
@@ -21,17 +22,33 @@ struct Swing {
     double size() const { return high - low; }
 };
 
-double quantile(std::vector<double>& values, double part) {
+std::vector<double> copyOf(std::span<const double> values) {
+    std::vector<double> copy;
+    reserveValues(copy, values.size());
+    copy.assign(values.begin(), values.end());
+    return copy;
+}
+
+using Place = std::vector<double>::iterator;
+
+Place placeOf(std::vector<double>& values, double part) {
     const double place = part * static_cast<double>(values.size() - 1);
-    const auto nth = values.begin() + static_cast<std::ptrdiff_t>(std::lround(place));
-    std::nth_element(values.begin(), nth, values.end());
+    return values.begin() + static_cast<std::ptrdiff_t>(std::lround(place));
+}
+
+// The quantile whose place is known to lie behind `from`: what is before it is smaller.
+double quantile(std::vector<double>& values, Place from, double part) {
+    const Place nth = placeOf(values, part);
+    std::nth_element(from, nth, values.end());
     return *nth;
 }
 
 Swing swingOf(std::span<const double> volts) {
     if (volts.empty()) return {};
-    std::vector<double> values(volts.begin(), volts.end());
-    const Swing inner{quantile(values, LowQuantile), quantile(values, HighQuantile)};
+    std::vector<double> values = copyOf(volts);
+    const double low = quantile(values, values.begin(), LowQuantile);
+    const double high = quantile(values, placeOf(values, LowQuantile), HighQuantile);
+    const Swing inner{low, high};
     const auto [least, most] = std::minmax_element(volts.begin(), volts.end());
     const Swing whole{*least, *most};
     return inner.size() < LeastQuantileSpan * whole.size() ? whole : inner;
@@ -73,14 +90,18 @@ std::vector<double> angleFromPulses(std::span<const double> pulses, std::size_t 
                                     int pulsesPerTurn) {
     const auto perTurn = static_cast<std::size_t>(pulsesPerTurn);
     const double step = DegreesPerTurn / pulsesPerTurn;
-    std::vector<double> angle(count);
-    std::size_t k = 0;  // the pulse that the period around sample i begins with
-    for (std::size_t i = 0; i < count; ++i) {
-        const auto place = static_cast<double>(i);
-        while (k + 2 < pulses.size() && place >= pulses[k + 1])
-            ++k;
-        const double part = (place - pulses[k]) / (pulses[k + 1] - pulses[k]);
-        angle[i] = wrappedDegrees((static_cast<double>(k % perTurn) + part) * step);
+    std::vector<double> angle;
+    reserveValues(angle, count);
+    angle.resize(count);
+    std::size_t i = 0;
+    for (std::size_t k = 0; k + 1 < pulses.size(); ++k) {
+        const bool last = k + 2 == pulses.size();
+        const double period = pulses[k + 1] - pulses[k];
+        const auto first = static_cast<double>(k % perTurn);
+        for (; i < count && (last || static_cast<double>(i) < pulses[k + 1]); ++i) {
+            const double part = (static_cast<double>(i) - pulses[k]) / period;
+            angle[i] = wrappedDegrees((first + part) * step);
+        }
     }
     return angle;
 }
@@ -112,10 +133,10 @@ KeyphasorKind kindFromValues(std::span<const double> values) {
     if (values.empty()) return KeyphasorKind::Volts;
     const auto [least, most] = std::minmax_element(values.begin(), values.end());
     const double span = *most - *least;
-    std::vector<double> copy(values.begin(), values.end());
-    const double middle = (quantile(copy, 0.5) - *least) / span;
-    const bool ramp = span >= 300.0 && span <= 361.0 && middle >= 0.25 && middle <= 0.75;
-    return ramp ? KeyphasorKind::Ramp : KeyphasorKind::Volts;
+    if (span < 300.0 || span > 361.0) return KeyphasorKind::Volts;
+    std::vector<double> copy = copyOf(values);
+    const double middle = (quantile(copy, copy.begin(), 0.5) - *least) / span;
+    return middle >= 0.25 && middle <= 0.75 ? KeyphasorKind::Ramp : KeyphasorKind::Volts;
 }
 
 }  // namespace Rotavue::Workbench

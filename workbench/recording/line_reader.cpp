@@ -43,6 +43,7 @@ bool LineReader::next() {
 void LineReader::fill() {
     std::copy(buffer_.begin() + static_cast<std::ptrdiff_t>(begin_),
               buffer_.begin() + static_cast<std::ptrdiff_t>(end_), buffer_.begin());
+    bufferOffset_ += begin_;
     end_ -= begin_;
     begin_ = 0;
     stream_.read(buffer_.data() + end_, static_cast<std::streamsize>(buffer_.size() - end_));
@@ -69,6 +70,7 @@ void LineReader::take(std::size_t length, std::size_t next) {
                              "lines of at most " + std::to_string(LongestLine) + " bytes");
     }
     line_ = {buffer_.data() + begin_, length};
+    offset_ = bufferOffset_ + begin_;
     begin_ = next;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
@@ -30,6 +31,9 @@ public:
     /// The number of the line moved to, from 1; 0 before the first move.
     std::size_t number() const { return number_; }
 
+    /// The bytes of the file before the line moved to.
+    std::uint64_t offset() const { return offset_; }
+
 private:
     void fill();
     void refuseBinary() const;
@@ -43,6 +47,8 @@ private:
     std::size_t end_ = 0;    ///< of what has been read
     std::string_view line_;
     std::size_t number_ = 0;
+    std::uint64_t bufferOffset_ = 0;  ///< bytes of the file before the buffer
+    std::uint64_t offset_ = 0;
 };
 
 }  // namespace Rotavue::Workbench

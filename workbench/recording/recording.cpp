@@ -28,10 +28,12 @@ RecordingOptions withMachineFile(const std::filesystem::path& file,
 
 }  // namespace
 
-Recording readRecording(const std::filesystem::path& file, const RecordingOptions& options) {
+Recording readRecording(const std::filesystem::path& file, const RecordingOptions& options,
+                        const ReadingWatch& watch) {
     checkOptions(options);
     const std::unique_ptr<SampleSource> source = openSource(file);
-    return RecordingBuilder(file, *source, withMachineFile(file, options)).build();
+    const ReadingProgress progress(watch);
+    return RecordingBuilder(file, *source, withMachineFile(file, options)).build(progress);
 }
 
 }  // namespace Rotavue::Workbench

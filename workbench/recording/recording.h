@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "workbench/recording/reading_watch.h"
 #include "workbench/recording/recording_error.h"
 #include "workbench/recording/recording_options.h"
 
@@ -77,7 +78,9 @@ struct Recording {
 /// lies beside it (machine_file.h); what is set in `options` goes before the machine file.
 ///
 /// Throws RecordingError, with no other effect, if the file, the machine file or an option cannot
-/// be used. Memory stays within a small multiple of the file's size, whatever its header claims.
-Recording readRecording(const std::filesystem::path& file, const RecordingOptions& options = {});
+/// be used, and ReadingCancelled if the watch does not let the reading go on. Memory stays within a
+/// small multiple of the file's size, whatever its header claims.
+Recording readRecording(const std::filesystem::path& file, const RecordingOptions& options = {},
+                        const ReadingWatch& watch = {});
 
 }  // namespace Rotavue::Workbench

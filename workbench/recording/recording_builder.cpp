@@ -21,6 +21,10 @@ constexpr double LargestSpeed = 1e9;      // rpm
 constexpr double LargestTimeStray = 3.0;  // steps, before it is worth a note
 constexpr double SecondsPerMinute = 60.0;
 
+// How much of all is done when the file is read, and when there are displacements.
+constexpr double PartOfReading = 0.8;
+constexpr double PartOfDisplacements = 0.9;
+
 // The mean over what is no gap.
 double meanOf(const std::vector<double>& values) {
     double sum = 0.0;
@@ -45,24 +49,26 @@ RecordingBuilder::RecordingBuilder(const std::filesystem::path& file, SampleSour
     recording_.file = file;
 }
 
-Recording RecordingBuilder::build() {
+Recording RecordingBuilder::build(const ReadingProgress& progress) {
     recording_.columns = assignRoles(recording_.file, source_.head(), options_);
-    readColumns();
+    readColumns(progress.between(0.0, PartOfReading));
     takeRate();
     takeDisplacements();
+    progress.reach(PartOfDisplacements);
     takeKeyphasor();
     takeFacts();
+    progress.reach(1.0);
     return std::move(recording_);
 }
 
 // A time column that a given rate replaces isn't read: it may be what is wrong with the file.
-void RecordingBuilder::readColumns() {
+void RecordingBuilder::readColumns(const ReadingProgress& progress) {
     for (std::size_t i = 0; i < recording_.columns.size(); ++i) {
         const ColumnRole role = recording_.columns[i].role;
         const bool replaced = role == ColumnRole::Time && options_.rate;
         if (role != ColumnRole::Unused && !replaced) wanted_.push_back({i, role});
     }
-    values_ = source_.read(wanted_);
+    values_ = source_.read(wanted_, progress);
 }
 
 // The values of the column with this role, handed over; empty if there is none.
@@ -129,8 +135,9 @@ std::vector<double> RecordingBuilder::displacement(ColumnRole role, const ProbeO
     std::vector<double> values = taken(role);
     const double rest = probe.rest.value_or(0.0);
     const double sensitivity = probe.sensitivity.value_or(1.0);
-    for (double& value : values)
-        value = (value - rest) / sensitivity;
+    const bool scaled = probe.rest || probe.sensitivity;
+    for (std::size_t i = 0; scaled && i < values.size(); ++i)
+        values[i] = (values[i] - rest) / sensitivity;
     if (recording_.coupling == Coupling::Ac) {
         const double mean = meanOf(values);
         for (double& value : values)

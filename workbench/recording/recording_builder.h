@@ -18,11 +18,11 @@ public:
     RecordingBuilder(const std::filesystem::path& file, SampleSource& source,
                      RecordingOptions options);
 
-    /// Called once. Throws RecordingError.
-    Recording build();
+    /// Called once. Throws RecordingError and ReadingCancelled.
+    Recording build(const ReadingProgress& progress);
 
 private:
-    void readColumns();
+    void readColumns(const ReadingProgress& progress);
     std::vector<double> taken(ColumnRole role);
     const RecordingColumn* columnOf(ColumnRole role) const;
 

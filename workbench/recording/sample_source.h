@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "workbench/recording/reading_watch.h"
 #include "workbench/recording/recording.h"
 
 namespace Rotavue::Workbench {
@@ -29,7 +30,8 @@ struct WantedColumn {
     ColumnRole role = ColumnRole::Unused;
 };
 
-/// A file with columns of samples. Throws RecordingError from every operation.
+/// A file with columns of samples. Throws RecordingError from every operation, and from `read`
+/// ReadingCancelled.
 class SampleSource {
 public:
     virtual ~SampleSource() = default;
@@ -38,7 +40,13 @@ public:
 
     /// The values of the wanted columns, in the order of `wanted`: lists of one length, from 1 to
     /// `MaxSampleCount`. A gap is a NaN.
-    virtual std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted) = 0;
+    virtual std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted,
+                                                  const ReadingProgress& progress) = 0;
+
+    /// The same, with nobody watching.
+    std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted) {
+        return read(wanted, ReadingProgress());
+    }
 };
 
 }  // namespace Rotavue::Workbench

@@ -100,6 +100,7 @@ void LayoutFinder::readToFirstRow() {
 
 void LayoutFinder::takeFirstRow() {
     layout_.firstDataLine = reader_.number();
+    layout_.firstDataOffset = reader_.offset();
     layout_.delimiter = delimiterOf(reader_.line());
     const Fields fields = fieldsOf(reader_.line(), layout_.delimiter);
     layout_.columnCount = fields.size();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 
 #include "workbench/recording/sample_source.h"
@@ -11,8 +12,9 @@ namespace Rotavue::Workbench {
 struct TableLayout {
     char delimiter = ',';
     std::size_t columnCount = 0;
-    std::size_t headerLine = 0;     ///< line of the columns' names; 0: none
-    std::size_t firstDataLine = 0;  ///< line of the first row of numbers
+    std::size_t headerLine = 0;         ///< line of the columns' names; 0: none
+    std::size_t firstDataLine = 0;      ///< line of the first row of numbers
+    std::uint64_t firstDataOffset = 0;  ///< bytes of the file before that line
     SourceHead head;
 };
 

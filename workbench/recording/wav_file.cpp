@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <string>
 
 #include "workbench/recording/input_file.h"
 #include "workbench/recording/number_field.h"
+#include "workbench/recording/value_memory.h"
 
 namespace Rotavue::Workbench {
 namespace {
@@ -32,6 +34,21 @@ constexpr auto SampleFormats =
 template <typename List>
 bool holds(const List& list, int value) {
     return std::find(std::begin(list), std::end(list), value) != std::end(list);
+}
+
+std::size_t bytesOf(int format) {
+    switch (format & SF_FORMAT_SUBMASK) {
+        case SF_FORMAT_PCM_U8:
+            return 1;
+        case SF_FORMAT_PCM_16:
+            return 2;
+        case SF_FORMAT_PCM_24:
+            return 3;
+        case SF_FORMAT_DOUBLE:
+            return 8;
+        default:
+            return 4;
+    }
 }
 
 bool isReadable(int format) {
@@ -67,6 +84,13 @@ public:
     std::size_t channelCount() const { return static_cast<std::size_t>(info_.channels); }
     double rate() const { return info_.samplerate; }
 
+    // The frames that the header claims, as far as a file of this size can hold them.
+    std::size_t mostFrames(std::uintmax_t fileSize) const {
+        const std::uintmax_t held = fileSize / (bytesOf(info_.format) * channelCount());
+        return static_cast<std::size_t>(
+            std::min(held, static_cast<std::uintmax_t>(std::max<sf_count_t>(0, info_.frames))));
+    }
+
     void rewind() { sf_seek(file_, 0, SEEK_SET); }
 
     // The number of frames read: `BlockLength`, and less at the end only.
@@ -85,11 +109,17 @@ namespace {
 
 void append(std::vector<double>& values, const std::vector<double>& block, std::size_t channel,
             std::size_t channelCount, std::size_t frames) {
+    const std::size_t begin = values.size();
+    values.resize(begin + frames);
     for (std::size_t frame = 0; frame < frames; ++frame) {
         const double value = block[frame * channelCount + channel];
         const bool measured = std::abs(value) <= LargestReading;
-        values.push_back(measured ? value : std::numeric_limits<double>::quiet_NaN());
+        values[begin + frame] = measured ? value : std::numeric_limits<double>::quiet_NaN();
     }
+}
+
+double partOf(std::size_t frames, std::size_t expected) {
+    return frames < expected ? static_cast<double>(frames) / static_cast<double>(expected) : 1.0;
 }
 
 void refuseGap(const std::filesystem::path& file, const std::vector<double>& values,
@@ -122,26 +152,32 @@ WavFile::WavFile(const std::filesystem::path& file)
 
 WavFile::~WavFile() = default;
 
-std::vector<std::vector<double>> WavFile::read(std::span<const WantedColumn> wanted) {
+std::vector<std::vector<double>> WavFile::read(std::span<const WantedColumn> wanted,
+                                               const ReadingProgress& progress) {
     const std::size_t channelCount = handle_->channelCount();
+    const std::size_t expected = handle_->mostFrames(std::filesystem::file_size(file_));
     std::vector<std::vector<double>> columns(wanted.size());
+    for (std::vector<double>& column : columns)
+        reserveValues(column, std::min(expected, MaxSampleCount));
     std::vector<double> block(BlockLength * channelCount);
     handle_->rewind();
     std::size_t total = 0;
     while (const std::size_t frames = handle_->readBlock(block)) {
         total += frames;
-        if (total > MaxSampleCount) {
-            throw RecordingError({file_}, "more samples",
-                                 "at most " + std::to_string(MaxSampleCount));
-        }
-        for (std::size_t i = 0; i < wanted.size(); ++i) {
+        checkCount(total);
+        for (std::size_t i = 0; i < wanted.size(); ++i)
             append(columns[i], block, wanted[i].index, channelCount, frames);
-        }
+        progress.reach(partOf(total, expected));
     }
     if (total == 0) throw RecordingError({file_}, "no samples", "at least one");
     for (std::size_t i = 0; i < wanted.size(); ++i)
         refuseGap(file_, columns[i], wanted[i]);
     return columns;
+}
+
+void WavFile::checkCount(std::size_t frames) const {
+    if (frames <= MaxSampleCount) return;
+    throw RecordingError({file_}, "more samples", "at most " + std::to_string(MaxSampleCount));
 }
 
 }  // namespace Rotavue::Workbench

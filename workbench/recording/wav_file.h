@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 
@@ -23,11 +24,15 @@ public:
     explicit WavFile(const std::filesystem::path& file);
     ~WavFile() override;
 
+    using SampleSource::read;
     const SourceHead& head() const override { return head_; }
-    std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted) override;
+    std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted,
+                                          const ReadingProgress& progress) override;
 
 private:
     class Handle;
+
+    void checkCount(std::size_t frames) const;
 
     std::filesystem::path file_;
     std::unique_ptr<Handle> handle_;
