@@ -1,19 +1,13 @@
 #include "cli/analysis_report.h"
+#include "cli/json_values.h"
 #include "workbench/analysis/machine_frame.h"
 #include "workbench/analysis/order_ellipse.h"
-
-#include <nlohmann/json.hpp>
 
 namespace Rotavue::Cli {
 
 namespace {
 
 using namespace Workbench;
-using Json = nlohmann::ordered_json;
-
-Json textOrNull(const std::string& text) {
-    return text.empty() ? Json() : Json(text);
-}
 
 Json orNull(const std::optional<double>& value) {
     return value ? Json(*value) : Json();
@@ -85,6 +79,7 @@ std::string analysisAsJson(const AnalysisReport& report) {
                      {"xAngle", machine.xAngle},
                      {"yAngle", machine.yAngle},
                      {"rotation", machine.rotation ? Json(toText(*machine.rotation)) : Json()},
+                     {"compensation", textOrNull(report.compensation)},
                      {"units", unitsOf(report)},
                      {"windows", windows},
                      {"notes", report.notes}};

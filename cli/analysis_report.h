@@ -26,6 +26,7 @@ struct AnalysisReport {
     AnalysisOrder order;
     std::vector<Workbench::OrbitSummary> windows;  ///< one or more
     std::vector<std::string> notes;                ///< of the whole, one line each
+    std::string compensation = {};  ///< "1X, 2X vector" and the like; empty: run-out is left in
 };
 
 /// Raises `std::runtime_error`, with the file's name, for a span in which there is nothing to look

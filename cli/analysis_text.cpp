@@ -193,6 +193,7 @@ std::string analysisAsText(const AnalysisReport& report) {
     Block head;
     head.add("file", report.file);
     head.add("probes", "X " + placeText(machine.xAngle) + ", Y " + placeText(machine.yAngle));
+    if (!report.compensation.empty()) head.add("run-out", "compensated: " + report.compensation);
     if (report.order.window) head.add("orders", LagWords);
     std::string text = head.text();
     text += report.order.window ? '\n' + manyWindows(report) : oneWindow(report);

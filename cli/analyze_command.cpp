@@ -21,6 +21,7 @@ constexpr const char* Help =
     "  rotavue analyze unbalance.csv\n"
     "  rotavue analyze run-up.csv --window 1\n"
     "  rotavue analyze oil-whirl.csv --orders 0.46+1 --amplitude pp --json\n"
+    "  rotavue analyze pump.csv --compensate vector --slow-roll slow-roll.csv\n"
     "  rotavue analyze slow-roll.csv --save-reference slow-roll.json\n\n"
     "A phase is a lag: degrees of the order's own cycle from the keyphasor's pulse to the next\n"
     "positive peak, which is where the shaft is nearest to the probe.\n";
@@ -43,6 +44,7 @@ CLI::App* AnalyzeCommand::declare(CLI::App& program) {
     command->add_option("RECORDING", file_, "a CSV or WAV file")->required()->type_name("");
     command->add_flag("--json", json_, "one JSON object");
     declareAnalysis(*command);
+    compensation_.declare(*command);
     arguments_.declare(*command);
     return command;
 }
@@ -85,8 +87,13 @@ void AnalyzeCommand::saveReference(const Recording& recording, const AnalysisOrd
 
 int AnalyzeCommand::run() {
     const AnalysisOrder order = analysisOrder();
-    const Recording recording = readRecording(file_, arguments_.options());
-    const AnalysisReport report = analyze(recording, order);
+    const auto compensation = compensation_.choice();
+    const RecordingOptions options = arguments_.options();
+    RunOutRemover runOut(compensation, options);
+    const Recording recording = runOut.remove(readRecording(file_, options));
+    AnalysisReport report = analyze(recording, order);
+    if (compensation) report.compensation = toText(compensation->form);
+    report.notes.insert(report.notes.begin(), runOut.notes().begin(), runOut.notes().end());
     if (reference_) saveReference(recording, order);
     const OutputFile output("-", false);
     output.write(json_ ? analysisAsJson(report) : analysisAsText(report));

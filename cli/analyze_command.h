@@ -2,6 +2,7 @@
 
 #include "cli/analysis_report.h"
 #include "cli/command.h"
+#include "cli/compensation_arguments.h"
 #include "cli/recording_arguments.h"
 
 #include <optional>
@@ -32,6 +33,7 @@ private:
     std::optional<std::string> amplitude_;
     std::optional<std::string> reference_;
     bool force_ = false;
+    CompensationArguments compensation_;
     RecordingArguments arguments_;
 };
 

@@ -1,14 +1,7 @@
 #pragma once
 
 #include "cli/command.h"
-#include "cli/curve_arguments.h"
-#include "cli/recording_arguments.h"
-#include "cli/render_options.h"
-#include "cli/span_arguments.h"
-
-#include <optional>
-#include <string>
-#include <vector>
+#include "cli/plot_arguments.h"
 
 namespace Rotavue::Cli {
 
@@ -22,13 +15,7 @@ private:
     /// The options as they were given, checked. Raises `UsageError`.
     RenderOptions options() const;
 
-    std::vector<std::string> recordings_;
-    std::optional<std::string> setup_;
-    SpanArguments span_;
-    CurveArguments curves_;
-    RecordingArguments recordingArguments_;
-    std::optional<std::string> module_;
-    bool quiet_ = false;
+    PlotArguments arguments_;
 };
 
 }  // namespace Rotavue::Cli

@@ -40,15 +40,6 @@ void completeClearance(MachineFacts& machine) {
     if (machine.clearanceHeight <= 0.0) machine.clearanceHeight = machine.clearanceWidth;
 }
 
-std::vector<Recording> readAll(const RenderOptions& options) {
-    std::vector<Recording> recordings;
-    for (const std::string& file : options.recordings) {
-        recordings.push_back(readRecording(file, options.recording));
-        completeClearance(recordings.back().machine);
-    }
-    return recordings;
-}
-
 std::string nameOf(const Recording& recording, bool alone) {
     const std::string& point = recording.machine.point;
     return alone && !point.empty() ? point : recording.file.stem().string();
@@ -101,6 +92,18 @@ OrbitScene::OrbitScene(const RenderOptions& options) : show_(options.show) {
     addDerived(recordings, options);
     if (hasAny(show_, CurveKind::Raw)) addRaw(std::move(recordings), options);
     showStored(host_.description, sampleRate, position);
+}
+
+std::vector<Recording> OrbitScene::readAll(const RenderOptions& options) {
+    RunOutRemover runOut(options.compensation, options.recording);
+    if (options.compensation) compensation_ = options.compensation->form;
+    std::vector<Recording> recordings;
+    for (const std::string& file : options.recordings) {
+        recordings.push_back(runOut.remove(readRecording(file, options.recording)));
+        completeClearance(recordings.back().machine);
+    }
+    notes_ = runOut.notes();
+    return recordings;
 }
 
 void OrbitScene::note(const Recording& recording, const std::vector<std::string>& notes) {

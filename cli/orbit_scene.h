@@ -6,6 +6,7 @@
 #include "workbench/recording/recording.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,9 @@ public:
     Workbench::Coupling coupling() const { return coupling_; }
     const ShownSpan& span() const { return span_; }
 
+    /// How the recordings' run-out has been taken away; nothing where it has not.
+    std::optional<Workbench::CompensationForm> compensation() const { return compensation_; }
+
     /// Whether the first recording tells the shaft's speed.
     bool hasSpeed() const { return hasSpeed_; }
 
@@ -40,6 +44,7 @@ public:
     const std::vector<std::string>& notes() const { return notes_; }
 
 private:
+    std::vector<Workbench::Recording> readAll(const RenderOptions& options);
     void checkAgreement(const std::vector<Workbench::Recording>& recordings) const;
     void chooseSpan(const std::vector<Workbench::Recording>& recordings,
                     const RenderOptions& options);
@@ -60,6 +65,7 @@ private:
     Workbench::MachineFacts machine_;
     Workbench::Coupling coupling_ = Workbench::Coupling::Dc;
     ShownSpan span_;
+    std::optional<Workbench::CompensationForm> compensation_;
     bool hasSpeed_ = false;
     std::vector<CurveRequest> show_;
     std::vector<std::string> names_;

@@ -69,6 +69,7 @@ PictureHeader pictureHeader(const OrbitScene& scene, const std::optional<GraphSc
     header.facts.push_back("X " + placeText(machine.xAngle) + ", Y " + placeText(machine.yAngle));
     header.facts.push_back(rotationText(machine));
     if (scale) header.facts.push_back(scaleText(*scale, machine.unit));
+    if (scene.compensation()) header.facts.push_back(compensationText(*scene.compensation()));
     header.facts.push_back("at " + shortNumber(span.time) + " s");
     return header;
 }

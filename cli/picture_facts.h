@@ -9,7 +9,7 @@
 namespace Rotavue::Cli {
 
 /// What engineers look for beside an orbit and the plug-in leaves to its host: machine and point,
-/// mode, probes and their angles, rotation, speed, scale.
+/// mode, probes and their angles, rotation, speed, scale, compensation.
 Workbench::PictureHeader pictureHeader(const OrbitScene& scene,
                                        const std::optional<GraphScale>& scale);
 

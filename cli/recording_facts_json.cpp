@@ -1,20 +1,14 @@
 #include "cli/recording_facts.h"
 
 #include "cli/fact_words.h"
+#include "cli/json_values.h"
 #include "cli/signal_span.h"
-
-#include <nlohmann/json.hpp>
 
 namespace Rotavue::Cli {
 
 namespace {
 
 using namespace Workbench;
-using Json = nlohmann::ordered_json;
-
-Json textOrNull(const std::string& text) {
-    return text.empty() ? Json() : Json(text);
-}
 
 Json columnsOf(const Recording& recording) {
     Json columns = Json::array();

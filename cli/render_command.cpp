@@ -5,7 +5,6 @@
 #include "cli/output_file.h"
 #include "cli/picture_name.h"
 #include "cli/scheme_colors.h"
-#include "cli/setup_choice.h"
 #include "cli/studio_library.h"
 
 #include <unistd.h>
@@ -28,12 +27,13 @@ constexpr const char* Help =
     "  rotavue render before.csv after.csv -o both.png --size 1600x1200 --dark\n"
     "  rotavue render pump.csv -o pump.png --show "
     "raw,average,harmonic:1+2,reference:slow-roll.csv\n"
+    "  rotavue render pump.csv -o true.png --compensate vector --slow-roll slow-roll.csv\n"
     "  rotavue render run-up.csv -o center.png --show shaft-center --clearance\n"
     "  rotavue render pump.csv -o value.png --show average --pointer 500,200\n"
     "  rotavue render pump.csv -o pump.svg --setup plot.xml\n";
 
 constexpr const char* PictureGroup = "The picture";
-constexpr const char* OrbitGroup = "What is shown";
+constexpr const char* OrbitGroup = PlotArguments::ShownGroup;
 constexpr const char* ScaleGroup = "The scale";
 
 constexpr int LargestScale = 8;
@@ -46,24 +46,12 @@ constexpr int MostTicks = 20;
 
 CLI::App* RenderCommand::declare(CLI::App& program) {
     CLI::App* command = program.add_subcommand("render", Help);
-    command->add_option("RECORDINGS", recordings_, "CSV or WAV files of one bearing, a curve each")
-        ->required()
-        ->type_name("");
+    arguments_.declareRecordings(*command);
     declarePicture(*command);
     declareOrbit(*command);
-    curves_.declare(*command);
-    command
-        ->add_option("--setup", setup_,
-                     "a setup as \"rotavue setup\" makes it; options go before it")
-        ->type_name("FILE")
-        ->group(OrbitGroup);
+    arguments_.declareShown(*command);
     declareScale(*command);
-    recordingArguments_.declare(*command);
-    command
-        ->add_option("--module", module_,
-                     "the module file, if not the registered one or the one beside the program")
-        ->type_name("FILE");
-    command->add_flag("-q,--quiet", quiet_, "no messages but errors");
+    arguments_.declareRest(*command);
     return command;
 }
 
@@ -102,7 +90,6 @@ void RenderCommand::declarePicture(CLI::App& command) {
 }
 
 void RenderCommand::declareOrbit(CLI::App& command) {
-    span_.declare(command, OrbitGroup);
     clearanceOption_ =
         command.add_flag("--clearance,!--no-clearance", clearance_, "draw the bearing's clearance");
     clearanceOption_->group(OrbitGroup);
@@ -130,16 +117,11 @@ void RenderCommand::declareScale(CLI::App& command) {
 }
 
 RenderOptions RenderCommand::options() const {
-    RenderOptions options;
-    options.recordings = recordings_;
-    options.recording = recordingArguments_.options();
-    options.module = module_;
-    options.quiet = quiet_;
+    RenderOptions options = arguments_.options();
     readPicture(options);
     readOrbit(options);
     readScale(options);
     readPointer(options);
-    curves_.read(options);
     readSetup(options);
     readScheme(options);
     return options;
@@ -161,7 +143,6 @@ void RenderCommand::readPicture(RenderOptions& options) const {
 }
 
 void RenderCommand::readOrbit(RenderOptions& options) const {
-    span_.read(options);
     options.clearance = clearance_;
     for (const std::string& text : colors_)
         options.colors.push_back(color("--color", text));
@@ -181,13 +162,13 @@ void RenderCommand::readScale(RenderOptions& options) const {
 }
 
 void RenderCommand::readSetup(RenderOptions& options) const {
-    if (!setup_) return;
-    SetupChoice setup(*setup_, module_);
-    setup.takeSpan(options);
-    if (circle_ || grid_) setup.leave({L"graphType"});
-    if (clearanceOption_->count() > 0) setup.leave({L"drawClearance"});
-    if (limits_) setup.leaveLimits();
-    setup.takePlot(options);
+    auto setup = arguments_.setup();
+    if (!setup) return;
+    setup->takeSpan(options);
+    if (circle_ || grid_) setup->leave({L"graphType"});
+    if (clearanceOption_->count() > 0) setup->leave({L"drawClearance"});
+    if (limits_) setup->leaveLimits();
+    setup->takePlot(options);
 }
 
 void RenderCommand::readScheme(RenderOptions& options) const {

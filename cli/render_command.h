@@ -1,10 +1,7 @@
 #pragma once
 
 #include "cli/command.h"
-#include "cli/curve_arguments.h"
-#include "cli/recording_arguments.h"
-#include "cli/render_options.h"
-#include "cli/span_arguments.h"
+#include "cli/plot_arguments.h"
 
 #include <optional>
 #include <string>
@@ -32,15 +29,10 @@ private:
     void readSetup(RenderOptions& options) const;
     void readScheme(RenderOptions& options) const;
 
-    std::vector<std::string> recordings_;
-    CurveArguments curves_;
-    SpanArguments span_;
-    RecordingArguments recordingArguments_;
+    PlotArguments arguments_;
 
     std::string output_;
     bool force_ = false;
-    bool quiet_ = false;
-    std::optional<std::string> module_;
     std::optional<std::string> format_;
     std::optional<std::string> size_;
     std::optional<std::string> scale_;
@@ -53,8 +45,6 @@ private:
     bool circle_ = false;
     bool grid_ = false;  ///< says what holds without it
     std::vector<std::string> colors_;
-
-    std::optional<std::string> setup_;
 
     bool clearance_ = false;
     CLI::Option* clearanceOption_ = nullptr;

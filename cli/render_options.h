@@ -4,6 +4,7 @@
 #include "cli/curve_request.h"
 #include "cli/driven_control.h"
 #include "cli/graph_scale.h"
+#include "cli/run_out_remover.h"
 #include "workbench/analysis/shaft_center.h"
 #include "workbench/analysis/time_span.h"
 #include "workbench/paint/picture_studio.h"
@@ -45,10 +46,11 @@ struct RenderOptions {
     std::vector<CurveRequest> show{CurveRequest{}};
     std::optional<int> revolutions;
     std::optional<double> milliseconds;
-    int usualRevolutions = 8;          ///< where neither is asked for
-    double usualMilliseconds = 100.0;  ///< likewise, without a keyphasor
-    std::optional<double> at;          ///< s after the first sample; unset: the end
-    std::optional<double> speed;       ///< rpm, of a recording without keyphasor
+    int usualRevolutions = 8;                        ///< where neither is asked for
+    double usualMilliseconds = 100.0;                ///< likewise, without a keyphasor
+    std::optional<double> at;                        ///< s after the first sample; unset: the end
+    std::optional<double> speed;                     ///< rpm, of a recording without keyphasor
+    std::optional<CompensationChoice> compensation;  ///< of run-out; unset: none is taken away
     ShaftCenterChoice shaftCenter;
     std::optional<PicturePoint> pointer;  ///< in pixels of the size asked for
     bool clearance = false;

@@ -26,6 +26,7 @@ public:
 
     std::unique_ptr<OpenPicture> open(const PictureOrder&, const PictureHeader& header) override {
         mode = header.facts.empty() ? "" : header.facts.front();
+        facts = header.facts;
         host.takeCalls();
         return std::make_unique<Sheet>(host);
     }
@@ -39,6 +40,7 @@ public:
 
     HostKit::MemoryHost host;
     std::string mode;
+    std::vector<std::string> facts;
 
 private:
     class Sheet final : public OpenPicture {
@@ -195,6 +197,21 @@ TEST_F(OrbitPictureTest, PointerInTheStripIsRefused) {
     EXPECT_THROW(paint("raw"), UsageError);
     options.pointer = PicturePoint{300, StripHeight};
     paint("raw");
+}
+
+TEST_F(OrbitPictureTest, StripSaysThatRunOutIsCompensatedAndOnlyThen) {
+    const auto says = [&](const std::string& fact) {
+        return std::find(studio.facts.begin(), studio.facts.end(), fact) != studio.facts.end();
+    };
+    paint("raw");
+    EXPECT_FALSE(says("run-out compensated: 1X, 2X vector"));
+    options.compensation = CompensationChoice{
+        .form = CompensationForm::Vector, .slowRoll = at("rotor.csv").string(), .span = {}};
+    paint("raw");
+    EXPECT_TRUE(says("run-out compensated: 1X, 2X vector"));
+    options.compensation->form = CompensationForm::Waveform;
+    paint("raw");
+    EXPECT_TRUE(says("run-out compensated: waveform"));
 }
 
 }  // namespace
