@@ -25,6 +25,10 @@ target_compile_options(
         # No build path in a binary.
         -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.
 )
+if(WIN32)
+    # The platform's interfaces end by their last reference and have no destructor.
+    target_compile_options(rotavue_options INTERFACE -Wno-non-virtual-dtor)
+endif()
 if(ROTAVUE_SANITIZE)
     target_compile_options(
         rotavue_options

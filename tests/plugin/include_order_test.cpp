@@ -58,7 +58,7 @@ TEST(IncludeOrder, ConcreteControlIsNamedByOneFileOfTheModule) {
     for (const SourceFile& file : sourcesBelow("plugin/module"))
         for (const Include& include : file.includes())
             if (include.name.starts_with("plugin/orbit_control/")) files.insert(file.path);
-    EXPECT_EQ(files, std::set<std::string>{"entry_points.cpp"});
+    EXPECT_EQ(files, std::set<std::string>{"control_maker.cpp"});
 }
 
 TEST(IncludeOrder, HasNoCycleBetweenFiles) {

@@ -2,9 +2,9 @@
 
 #include "plugin/framework/host/status.h"
 #include "plugin/framework/unicode.h"
+#include "plugin/module/guarded.h"
 #include "plugin/module/portable/module_path.h"
 
-#include <new>
 #include <utility>
 
 namespace Meridax::VisualControls::Rotavue {
@@ -12,17 +12,6 @@ namespace Meridax::VisualControls::Rotavue {
 namespace {
 
 namespace Status = Host::Status;
-
-template <class Operation>
-std::int32_t guarded(Operation operation) noexcept {
-    try {
-        return operation();
-    } catch (const std::bad_alloc&) {
-        return Status::asResult(Status::OutOfMemory);
-    } catch (...) {
-        return Status::asResult(Status::Unspecified);
-    }
-}
 
 std::wstring wideModulePath() {
     return Api::wideFromUtf8(modulePath().native());

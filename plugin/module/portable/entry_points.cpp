@@ -1,7 +1,5 @@
+#include "plugin/module/control_maker.h"
 #include "plugin/module/portable/portable_module.h"
-#include "plugin/orbit_control/rotavue_visual_control.h"
-
-#include <memory>
 
 /// The five entry points of the module; plugin/framework/plugin_interfaces.h tells what they do.
 /// Nothing else is exported (exports.map).
@@ -10,12 +8,7 @@ namespace {
 using namespace Meridax;
 using namespace Meridax::VisualControls;
 
-/// The one line that ties the framework to the control that it carries.
-std::unique_ptr<Api::VisualControl> makeControl() {
-    return std::make_unique<Rotavue::RotavueVisualControl>();
-}
-
-Rotavue::PortableModule module{makeControl};
+Rotavue::PortableModule module{Rotavue::makeControl};
 
 }  // namespace
 
