@@ -1,0 +1,62 @@
+#include "tests/workbench/window/docks/dock_application.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <optional>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+/// Qt runs for as long as the tests of this program do, on no display.
+class DockEnvironment : public ::testing::Environment {
+public:
+    void SetUp() override {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        application_.emplace(count_, arguments_);
+        std::setlocale(LC_NUMERIC, "C");
+        QApplication::setStyle("Fusion");
+        setTheme(Theme::Light);
+    }
+    void TearDown() override { application_.reset(); }
+
+private:
+    char name_[10] = "docks";
+    char* arguments_[2] = {name_, nullptr};
+    int count_ = 1;
+    std::optional<QApplication> application_;
+};
+
+const auto* const environment = ::testing::AddGlobalTestEnvironment(new DockEnvironment);
+
+QPalette darkPalette() {
+    QPalette dark(QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+    dark.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
+    return dark;
+}
+
+}  // namespace
+
+void setTheme(Theme theme) {
+    QApplication::setPalette(theme == Theme::Dark ? darkPalette()
+                                                  : QPalette(QColor(0xEF, 0xEF, 0xEF)));
+}
+
+void screenshot(QWidget& widget, const char* name) {
+    const QDir folder(ROTAVUE_SCREENSHOTS_FOLDER);
+    ASSERT_TRUE(folder.mkpath("."));
+    for (const Theme theme : {Theme::Dark, Theme::Light}) {
+        setTheme(theme);
+        QApplication::processEvents();
+        const char* const suffix = theme == Theme::Dark ? "-dark.png" : "-light.png";
+        EXPECT_TRUE(widget.grab().save(folder.filePath(QString(name) + suffix)));
+    }
+}
+
+}  // namespace Rotavue::Workbench
