@@ -1,0 +1,72 @@
+#include "workbench/window/docks/sample_trace.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr PlotRange Nothing{Infinity, -Infinity};
+
+/// A NaN compares false and leaves both ends as they are.
+void take(PlotRange& range, std::span<const double> values) {
+    for (const double value : values) {
+        if (value < range.from) range.from = value;
+        if (value > range.to) range.to = value;
+    }
+}
+
+}  // namespace
+
+SampleTrace::SampleTrace(std::span<const double> samples, double sampleRate,
+                         std::shared_ptr<const void> owner)
+    : owner_(std::move(owner)),
+      samples_(samples),
+      sampleRate_(sampleRate),
+      blocks_(samples.size() / BlockLength, Nothing) {
+    for (std::size_t i = 0; i < blocks_.size(); ++i)
+        take(blocks_[i], samples_.subspan(i * BlockLength, BlockLength));
+}
+
+std::size_t SampleTrace::firstFrom(double time) const {
+    // A sample's own time, computed by a division, may come out a hair later than it stands.
+    const double place = std::ceil(time * sampleRate_ - 1e-6);
+    if (!(place > 0.0)) return 0;
+    return static_cast<std::size_t>(std::min(place, static_cast<double>(count())));
+}
+
+std::optional<double> SampleTrace::valueAt(double time) const {
+    const double place = time * sampleRate_;
+    if (!(place >= 0.0) || place > static_cast<double>(count()) - 1.0) return {};
+    const auto first = static_cast<std::size_t>(place);
+    const double part = place - static_cast<double>(first);
+    const double here = samples_[first];
+    const double value = part > 0.0 ? here + (samples_[first + 1] - here) * part : here;
+    return std::isnan(value) ? std::nullopt : std::optional(value);
+}
+
+std::optional<PlotRange> SampleTrace::rangeOf(std::size_t first, std::size_t end) const {
+    end = std::min(end, count());
+    if (first >= end) return {};
+    const std::size_t firstWhole = (first + BlockLength - 1) / BlockLength;
+    const std::size_t endWhole = end / BlockLength;
+    PlotRange range = Nothing;
+    if (firstWhole >= endWhole) {
+        take(range, samples_.subspan(first, end - first));
+    } else {
+        take(range, samples_.subspan(first, firstWhole * BlockLength - first));
+        for (std::size_t i = firstWhole; i < endWhole; ++i) {
+            range.from = std::min(range.from, blocks_[i].from);
+            range.to = std::max(range.to, blocks_[i].to);
+        }
+        take(range, samples_.subspan(endWhole * BlockLength, end - endWhole * BlockLength));
+    }
+    if (range.from > range.to) return {};
+    return range;
+}
+
+}  // namespace Rotavue::Workbench
