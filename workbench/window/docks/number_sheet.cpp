@@ -1,0 +1,164 @@
+#include "workbench/window/docks/number_sheet.h"
+
+#include "workbench/analysis/analysis_error.h"
+#include "workbench/analysis/orbit_summary.h"
+#include "workbench/analysis/short_text.h"
+
+#include <QCoreApplication>
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+constexpr std::array Orders{1.0, 2.0};
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("NumberSheet", text);
+}
+
+QString numberText(double value) {
+    return QString::fromStdString(shortText(value));
+}
+
+struct CellPair {
+    QString x = QStringLiteral("-");
+    QString y;
+};
+
+CellPair pairOf(double x, double y) {
+    return {numberText(x), numberText(y)};
+}
+
+CellPair nothingEach() {
+    return {QStringLiteral("-"), QStringLiteral("-")};
+}
+
+/// What is told of one plane; nothing where its stretch holds no sample.
+using PlaneSummary = std::optional<OrbitSummary>;
+
+const OrderSummary* orderOf(const PlaneSummary& summary, double order) {
+    if (!summary) return nullptr;
+    for (const OrderSummary& found : summary->orders)
+        if (found.vectors.order == order) return &found;
+    return nullptr;
+}
+
+CellPair peakPeak(const PlaneSummary& summary) {
+    if (!summary) return nothingEach();
+    return pairOf(summary->direct.peakPeak.x, summary->direct.peakPeak.y);
+}
+
+CellPair gap(const PlaneSummary& summary) {
+    if (!summary || !summary->direct.gap) return nothingEach();
+    return pairOf(summary->direct.gap->x, summary->direct.gap->y);
+}
+
+CellPair amplitude(const PlaneSummary& summary, double order) {
+    const OrderSummary* found = orderOf(summary, order);
+    if (found == nullptr) return nothingEach();
+    const double factor = scaleFactor(AmplitudeScale::PeakPeak);
+    return pairOf(found->vectors.x.amplitude * factor, found->vectors.y.amplitude * factor);
+}
+
+CellPair lag(const PlaneSummary& summary, double order) {
+    const OrderSummary* found = orderOf(summary, order);
+    if (found == nullptr) return nothingEach();
+    return pairOf(found->vectors.x.phaseLag, found->vectors.y.phaseLag);
+}
+
+CellPair sense(const PlaneSummary& summary, double order) {
+    const OrderSummary* found = orderOf(summary, order);
+    if (found == nullptr) return {};
+    const std::string text(toText(found->ellipse.precession));
+    return {tr(text.c_str()), {}};
+}
+
+CellPair smax(const PlaneSummary& summary) {
+    return summary ? CellPair{numberText(summary->direct.smax), {}} : CellPair{};
+}
+
+CellPair speed(const PlaneSummary& summary) {
+    if (!summary || !summary->speed) return {};
+    return {numberText(*summary->speed), {}};
+}
+
+CellPair stretch(const PlaneSummary& summary) {
+    if (!summary) return {};
+    const auto text = [](double time) { return QString::fromStdString(shortText(time, 6)); };
+    return {tr("%1 to %2").arg(text(summary->span.from), text(summary->span.to)), {}};
+}
+
+PlaneSummary summaryOf(const ShownTurns& plane, std::vector<QString>& notes) {
+    const auto note = [&](const std::string& text) {
+        notes.push_back(plane.plane + ": " + QString::fromStdString(text));
+    };
+    try {
+        OrbitSummary summary = summarize(*plane.recording, *plane.track, Orders, plane.span);
+        for (const std::string& text : summary.notes)
+            note(text);
+        return summary;
+    } catch (const AnalysisError& error) {
+        note(error.what());
+        return {};
+    }
+}
+
+/// One row of the sheet and how a plane fills it.
+struct RowKind {
+    const char* name;
+    const char* help;
+    CellPair (*cells)(const PlaneSummary& summary);
+};
+
+constexpr RowKind RowKinds[] = {
+    {"Peak-to-peak",
+     "Direct (unfiltered): largest less smallest value. ISO 20816-1 judges the "
+     "larger of the two by method B.",
+     peakPeak},
+    {"Smax (ISO 20816-1, C)",
+     "The largest distance of the orbit from its mean point: method C of ISO 20816-1.", smax},
+    {"Gap", "Mean position of the shaft toward the probe.", gap},
+    {"1X, pp", "Amplitude at the shaft's speed, peak to peak.",
+     [](const PlaneSummary& summary) { return amplitude(summary, 1.0); }},
+    {"1X lag (deg)", "From the keyphasor's pulse to the next positive peak.",
+     [](const PlaneSummary& summary) { return lag(summary, 1.0); }},
+    {"1X precession", "The sense of 1X against that of the shaft.",
+     [](const PlaneSummary& summary) { return sense(summary, 1.0); }},
+    {"2X, pp", "Amplitude at twice the shaft's speed, peak to peak.",
+     [](const PlaneSummary& summary) { return amplitude(summary, 2.0); }},
+    {"2X lag (deg)", "From the keyphasor's pulse to the next positive peak, in degrees of 2X.",
+     [](const PlaneSummary& summary) { return lag(summary, 2.0); }},
+    {"2X precession", "The sense of 2X against that of the shaft.",
+     [](const PlaneSummary& summary) { return sense(summary, 2.0); }},
+    {"Speed (rpm)", "Mean over the whole turns of the stretch.", speed},
+    {"Stretch (s)", "What these are the numbers of: the turns that the orbit shows.", stretch},
+};
+
+}  // namespace
+
+NumberSheet numberSheet(const std::vector<ShownTurns>& planes) {
+    NumberSheet sheet;
+    std::vector<PlaneSummary> summaries;
+    for (const ShownTurns& plane : planes) {
+        summaries.push_back(summaryOf(plane, sheet.notes));
+        const QString unit = QString::fromStdString(plane.recording->machine.unit);
+        const QString suffix = unit.isEmpty() ? QString() : " (" + unit + ')';
+        sheet.columns.push_back({plane.plane, "X" + suffix});
+        sheet.columns.push_back({plane.plane, "Y" + suffix});
+    }
+    for (const RowKind& kind : RowKinds) {
+        NumberRow row{tr(kind.name), tr(kind.help), {}};
+        for (const PlaneSummary& summary : summaries) {
+            const CellPair cells = kind.cells(summary);
+            row.cells.insert(row.cells.end(), {cells.x, cells.y});
+        }
+        sheet.rows.push_back(std::move(row));
+    }
+    return sheet;
+}
+
+}  // namespace Rotavue::Workbench
