@@ -53,14 +53,15 @@ float textToFloat(std::wstring text);
 /// Empty for text that isn't UTF-8. [never fails]
 std::wstring utf8ToWide(const std::string& text);
 
-/// A unit that is no character becomes U+FFFD. [never fails]
+/// A unit that is no character becomes a replacement. [never fails]
 std::string wideToUtf8(const std::wstring& text);
 
 /// The same for a text of the host that may be null, which is empty. [never fails]
 std::string bstrToUtf8(const wchar_t* text);
 
-/// A key or value on its way to the host. It crosses in one fixed page, which is UTF-8; a byte that
-/// doesn't belong to it becomes U+FFFD. [never fails]
+/// A key or value on its way to the host. It crosses in one fixed page: UTF-8, or the process's own
+/// 8-bit page on a platform that has one. What doesn't belong to the page becomes a replacement.
+/// [never fails]
 std::wstring textToHost(const std::string& text);
 
 /// The way back. [never fails]

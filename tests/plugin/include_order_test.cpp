@@ -17,6 +17,7 @@ const std::map<std::string, std::set<std::string>> MayInclude{
     {"orbit_control", {"framework", "framework/host", "orbit_graph"}},
     {"settings", {"orbit_control", "orbit_graph", "setup_document", "framework", "framework/host"}},
     {"module", {"framework", "framework/host", "orbit_control"}},
+    {"module/windows", {"module", "framework", "framework/host", "setup_document"}},
 };
 
 /// The row of the table to which a path below plugin/ belongs; empty for none.
