@@ -84,9 +84,8 @@ ParsedRows RowParser::Run::parse(std::string_view text) {
 
 void RowParser::Run::checkLine() const {
     if (line_.size() <= LineReader::LongestLine) return;
-    throw RecordingError(
-        {file_, lineNumber()}, "a longer line",
-        "lines of at most " + std::to_string(LineReader::LongestLine) + " bytes");
+    throw RecordingError({file_, lineNumber()}, "a longer line",
+                         "lines of at most " + std::to_string(LineReader::LongestLine) + " bytes");
 }
 
 void RowParser::Run::takeRow() {
@@ -114,9 +113,9 @@ void RowParser::Run::takeField(std::string_view field, std::size_t index) {
 
 void RowParser::Run::checkTime(std::string_view field, double value) {
     if (before_.time && value < *before_.time) {
-        throw RecordingError(
-            placeOf(field), "time " + numberText(value) + " after " + numberText(*before_.time),
-            "time that does not run backward");
+        throw RecordingError(placeOf(field),
+                             "time " + numberText(value) + " after " + numberText(*before_.time),
+                             "time that does not run backward");
     }
     before_.time = value;
 }

@@ -154,7 +154,8 @@ TEST(SlowRoll, RefusesWhatCannotGiveItInOneLine) {
          "the run-out cannot be taken: 2X needs more than 4 samples a turn, and there are 3"},
     };
     for (const auto& one : cases)
-        EXPECT_EQ(refusalOf([&] { taken(one.recording, one.span); }).find(one.line), 0u) << one.line;
+        EXPECT_EQ(refusalOf([&] { taken(one.recording, one.span); }).find(one.line), 0u)
+            << one.line;
 }
 
 }  // namespace

@@ -5,7 +5,8 @@
 #include "workbench/recording/chunk_reader.h"
 #include "workbench/recording/csv_file.h"
 
-// A table of several chunks gives the same values and the same faults whatever the number of threads.
+// A table of several chunks gives the same values and the same faults whatever the number of
+// threads.
 namespace Rotavue::Workbench {
 namespace {
 

@@ -36,8 +36,8 @@ protected:
         return write("long.csv", text);
     }
     std::filesystem::path longWav() const {
-        return write("long.wav", wavBytes<std::int16_t>({1, 2, 8000, 16},
-                                                        std::vector<std::int16_t>(60'000)));
+        return write("long.wav",
+                     wavBytes<std::int16_t>({1, 2, 8000, 16}, std::vector<std::int16_t>(60'000)));
     }
 
     static std::vector<double> partsOf(const std::filesystem::path& file) {
