@@ -16,9 +16,9 @@ target_compile_options(
         -Wnon-virtual-dtor
         -Woverloaded-virtual
         -Wformat=2
-        # This compiler's data flow loses its way in the standard library's own variants and regular
+        # g++'s data flow loses its way in the standard library's own variants and regular
         # expressions; the analyser and the sanitizers look for what this warning is meant to find.
-        -Wno-maybe-uninitialized
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
         -Werror
         # A fused multiply-add rounds once where the graph's arithmetic rounds twice, and moves pixels.
         -ffp-contract=off
@@ -39,6 +39,18 @@ if(ROTAVUE_SANITIZE)
     target_link_options(rotavue_options INTERFACE -fsanitize=address,undefined)
     # Some optimisation and line numbers alone: half the time to build and to run.
     set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
+endif()
+
+if(ROTAVUE_FUZZ)
+    set(instruments -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+    target_compile_options(rotavue_options INTERFACE ${instruments} -fno-omit-frame-pointer)
+    target_link_options(rotavue_options INTERFACE -fsanitize=address,undefined)
+    set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
+endif()
+
+if(ROTAVUE_COVERAGE)
+    target_compile_options(rotavue_options INTERFACE --coverage -fprofile-abs-path)
+    target_link_options(rotavue_options INTERFACE --coverage)
 endif()
 
 # rotavue_library(NAME SOURCES a.cpp ... LIBRARIES x ...): a static library of one folder.

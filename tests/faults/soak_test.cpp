@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <random>
 
 namespace Rotavue::HostKit {
@@ -16,11 +17,17 @@ using Meridax::VisualControls::Api::MessageCode;
 
 /// A million as delivered; the sanitizers look at each message closely and take as long for fewer.
 #ifdef __SANITIZE_ADDRESS__
-constexpr int Messages = 100'000;
+constexpr std::int64_t UsualMessages = 100'000;
 #else
-constexpr int Messages = 1'000'000;
+constexpr std::int64_t UsualMessages = 1'000'000;
 #endif
-constexpr int Stretch = 1000;
+constexpr std::int64_t Stretch = 1000;
+
+/// As many as `tools/soak` asks for.
+std::int64_t messageCount() {
+    const char* asked = std::getenv("ROTAVUE_SOAK_MESSAGES");
+    return asked == nullptr ? UsualMessages : std::strtoll(asked, nullptr, 10);
+}
 
 /// A host whose channels, settings and pointer change between the messages that it sends.
 class Soak : public testing::Test {
@@ -139,8 +146,10 @@ protected:
 };
 
 TEST_F(Soak, MemoryIsFlatFromTheThousandthMessageToTheLast) {
+    const std::int64_t messages = messageCount();
+    ASSERT_GT(messages, Stretch);
     std::int64_t living = 0;
-    for (int sent = 0; sent < Messages; ++sent) {
+    for (std::int64_t sent = 0; sent < messages; ++sent) {
         if (sent == Stretch) living = livingAtRest();
         if (sent > Stretch && sent % (10 * Stretch) == 0) {
             ASSERT_EQ(livingAtRest(), living) << "after " << sent << " messages";
@@ -148,7 +157,7 @@ TEST_F(Soak, MemoryIsFlatFromTheThousandthMessageToTheLast) {
         step();
     }
     EXPECT_EQ(livingAtRest(), living);
-    EXPECT_LT(errors_, Messages / 10) << "most messages do something";
+    EXPECT_LT(errors_, messages / 10) << "most messages do something";
     control_ = nullptr;
     EXPECT_EQ(host_.references(), 0);
 }
