@@ -1,9 +1,9 @@
 #include "cli/analysis_report.h"
 
-#include "cli/fact_words.h"
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/shaft_track.h"
 #include "workbench/analysis/signal_check.h"
+#include "workbench/scene/fact_words.h"
 
 #include <algorithm>
 #include <cmath>

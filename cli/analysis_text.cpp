@@ -1,8 +1,8 @@
 #include "cli/analysis_report.h"
-#include "cli/fact_words.h"
 #include "cli/text_table.h"
 #include "workbench/analysis/machine_frame.h"
 #include "workbench/analysis/order_ellipse.h"
+#include "workbench/scene/fact_words.h"
 
 #include <algorithm>
 #include <cmath>

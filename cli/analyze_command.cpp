@@ -1,7 +1,7 @@
 #include "cli/analyze_command.h"
 
 #include "cli/argument_values.h"
-#include "cli/curve_request.h"
+#include "cli/curve_list.h"
 #include "cli/output_file.h"
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/averaged_orbit.h"

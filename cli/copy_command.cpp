@@ -24,7 +24,7 @@ std::string copiedText(const RenderOptions& options, OrbitScene& scene) {
     HostKit::MemoryClipboard clipboard;
     HostKit::Module module(HostKit::chooseModule(options.module));
     module.supplyClipboard(&clipboard);
-    DrivenControl control(module, scene.host());
+    HostKit::DrivenControl control(module, scene.host());
     control.assignmentChanged();
     control.load(settingsFor(options, scene, {}));
     control.copy();

@@ -1,6 +1,7 @@
 #include "cli/curve_arguments.h"
 
 #include "cli/argument_values.h"
+#include "cli/curve_list.h"
 #include "cli/usage_error.h"
 
 namespace Rotavue::Cli {
@@ -50,7 +51,7 @@ void CurveArguments::read(RenderOptions& options) const {
     readShaftCenter(options.shaftCenter);
 }
 
-void CurveArguments::readShaftCenter(ShaftCenterChoice& choice) const {
+void CurveArguments::readShaftCenter(Workbench::ShaftCenterChoice& choice) const {
     if (interval_) {
         choice.interval = number("--interval", *interval_, LeastInterval, LargestInterval, "s");
     }
@@ -63,7 +64,8 @@ void CurveArguments::readShaftCenter(ShaftCenterChoice& choice) const {
     if (*labels_ != "speed" && *labels_ != "time") {
         throw UsageError("--labels", *labels_, "speed or time");
     }
-    choice.labels = *labels_ == "time" ? PositionLabels::Time : PositionLabels::Speed;
+    choice.labels =
+        *labels_ == "time" ? Workbench::PositionLabels::Time : Workbench::PositionLabels::Speed;
 }
 
 }  // namespace Rotavue::Cli

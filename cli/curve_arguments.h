@@ -18,7 +18,7 @@ public:
     void read(RenderOptions& options) const;
 
 private:
-    void readShaftCenter(ShaftCenterChoice& choice) const;
+    void readShaftCenter(Workbench::ShaftCenterChoice& choice) const;
 
     std::optional<std::string> show_;
     std::optional<std::string> speed_;

@@ -79,7 +79,7 @@ std::string OrbitPicture::paint() {
 }
 
 std::string OrbitPicture::drawn(const PictureHeader& header) {
-    DrivenControl& control = shown_.control();
+    HostKit::DrivenControl& control = shown_.control();
     const PictureArea area = areaWith(header);
     const auto frame = [&] {
         auto picture = studio_.open(options_.picture, options_.header ? header : PictureHeader{});
@@ -90,6 +90,7 @@ std::string OrbitPicture::drawn(const PictureHeader& header) {
     if (options_.pointer) {
         // The first frame has laid out what the pointer can be on.
         const PicturePoint place = pointerIn(area);
+        control.enterPointer();
         control.movePointer(place.x, place.y);
         picture.reset();
         picture = frame();

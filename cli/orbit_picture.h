@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/graph_scale.h"
+#include "workbench/scene/graph_scale.h"
 #include "cli/render_options.h"
 #include "cli/shown_scene.h"
 
@@ -19,7 +19,7 @@ public:
 
 private:
     /// The scale that the plot gets in an area.
-    GraphScale scaleFor(const Workbench::PictureArea& area) const;
+    Workbench::GraphScale scaleFor(const Workbench::PictureArea& area) const;
 
     Workbench::PictureArea areaWith(const Workbench::PictureHeader& header) const;
 

@@ -1,12 +1,14 @@
 #include "cli/orbit_scene.h"
 
-#include "cli/derived_curves.h"
-#include "cli/fact_words.h"
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/bearing_properties.h"
 #include "workbench/analysis/raw_channels.h"
 #include "workbench/analysis/signal_check.h"
 #include "workbench/analysis/turn_window.h"
+#include "workbench/scene/bearing_facts.h"
+#include "workbench/scene/curve_colors.h"
+#include "workbench/scene/derived_curves.h"
+#include "workbench/scene/fact_words.h"
 
 #include <algorithm>
 #include <array>
@@ -21,23 +23,10 @@ namespace {
 
 using namespace Workbench;
 
-/// Told apart by people who see colours differently, and from the clearance's orange.
-constexpr std::array<std::uint32_t, 6> ColorsOnLight{0x0072B2, 0xB8336A, 0x009E73,
-                                                     0x7A5195, 0x555555, 0x8C510A};
-constexpr std::array<std::uint32_t, 6> ColorsOnDark{0x56B4E9, 0xF781BF, 0x2FD6A3,
-                                                    0xC9A0FF, 0xB0B0B0, 0xE3D26F};
-
 std::uint32_t colorOf(std::size_t index, const RenderOptions& options) {
     if (index < options.colors.size()) return options.colors[index];
     const bool light = options.picture.colors.background != 0;
-    const auto& colors = light ? ColorsOnLight : ColorsOnDark;
-    return colors[index % colors.size()];
-}
-
-/// A round bearing is often told by one number.
-void completeClearance(MachineFacts& machine) {
-    if (machine.clearanceWidth <= 0.0) machine.clearanceWidth = machine.clearanceHeight;
-    if (machine.clearanceHeight <= 0.0) machine.clearanceHeight = machine.clearanceWidth;
+    return usualCurveColor(index, light);
 }
 
 std::string nameOf(const Recording& recording, bool alone) {
@@ -181,9 +170,13 @@ std::string OrbitScene::curveName(std::size_t recording, const CurveRequest& req
 void OrbitScene::addDerived(const std::vector<Recording>& recordings,
                             const RenderOptions& options) {
     if (show_ == std::vector{CurveRequest{}}) return;
+    const CurveOptions curveOptions{
+        .reference = options.recording, .speed = options.speed, .shaftCenter = options.shaftCenter};
     std::size_t color = hasAny(show_, CurveKind::Raw) ? recordings.size() : 0;
     for (std::size_t i = 0; i < recordings.size(); ++i) {
-        DerivedCurves derived(recordings[i], span_, options);
+        const ShaftTrack track(recordings[i]);
+        note(recordings[i], track.notes());
+        DerivedCurves derived(recordings[i], track, span_, curveOptions);
         for (const CurveRequest& request : show_) {
             const bool drawnBefore = request.kind == CurveKind::Reference && i > 0;
             if (request.kind == CurveKind::Raw || drawnBefore) continue;

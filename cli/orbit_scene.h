@@ -1,9 +1,9 @@
 #pragma once
 
 #include "cli/render_options.h"
-#include "cli/shown_span.h"
 #include "host_kit/memory/memory_host.h"
 #include "workbench/recording/recording.h"
+#include "workbench/scene/shown_span.h"
 
 #include <cstddef>
 #include <optional>
@@ -23,7 +23,7 @@ public:
     HostKit::MemoryHost& host() { return host_; }
     const Workbench::MachineFacts& machine() const { return machine_; }
     Workbench::Coupling coupling() const { return coupling_; }
-    const ShownSpan& span() const { return span_; }
+    const Workbench::ShownSpan& span() const { return span_; }
 
     /// How the recordings' run-out has been taken away; nothing where it has not.
     std::optional<Workbench::CompensationForm> compensation() const { return compensation_; }
@@ -32,7 +32,7 @@ public:
     bool hasSpeed() const { return hasSpeed_; }
 
     /// What is shown of each recording.
-    const std::vector<CurveRequest>& show() const { return show_; }
+    const std::vector<Workbench::CurveRequest>& show() const { return show_; }
 
     /// The curves, as in the legend.
     const std::vector<std::string>& curveNames() const { return curveNames_; }
@@ -59,15 +59,15 @@ private:
     void addDerived(const std::vector<Workbench::Recording>& recordings,
                     const RenderOptions& options);
     void addRaw(std::vector<Workbench::Recording> recordings, const RenderOptions& options);
-    std::string curveName(std::size_t recording, const CurveRequest& request) const;
+    std::string curveName(std::size_t recording, const Workbench::CurveRequest& request) const;
 
     HostKit::MemoryHost host_;
     Workbench::MachineFacts machine_;
     Workbench::Coupling coupling_ = Workbench::Coupling::Dc;
-    ShownSpan span_;
+    Workbench::ShownSpan span_;
     std::optional<Workbench::CompensationForm> compensation_;
     bool hasSpeed_ = false;
-    std::vector<CurveRequest> show_;
+    std::vector<Workbench::CurveRequest> show_;
     std::vector<std::string> names_;
     std::vector<std::string> curveNames_;
     std::vector<std::string> notes_;

@@ -1,6 +1,6 @@
 #include "cli/picture_facts.h"
 
-#include "cli/fact_words.h"
+#include "workbench/scene/fact_words.h"
 
 #include <algorithm>
 

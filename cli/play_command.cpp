@@ -2,9 +2,9 @@
 
 #include "cli/output_file.h"
 #include "cli/picture_name.h"
-#include "cli/scheme_colors.h"
 #include "cli/studio_library.h"
 #include "host_kit/session/play.h"
+#include "workbench/scene/scheme_colors.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -43,7 +43,7 @@ public:
             Workbench::PictureOrder order{.format = format_, .textHeight = SessionTextHeight};
             order.width = std::clamp(edges.right, 1, Workbench::LargestSide);
             order.height = std::clamp(edges.bottom, 1, Workbench::LargestSide);
-            order.colors = colorsOf(edges.scheme);
+            order.colors = Workbench::colorsOf(edges.scheme);
             picture_ = studio_->open(order, {});
             return picture_->canvas();
         };

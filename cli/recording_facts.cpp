@@ -1,7 +1,7 @@
 #include "cli/recording_facts.h"
 
-#include "cli/fact_words.h"
 #include "cli/signal_span.h"
+#include "workbench/scene/fact_words.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "cli/recording_facts.h"
 
-#include "cli/fact_words.h"
+#include "workbench/scene/fact_words.h"
 #include "cli/json_values.h"
 #include "cli/signal_span.h"
 

@@ -4,8 +4,8 @@
 #include "cli/orbit_picture.h"
 #include "cli/output_file.h"
 #include "cli/picture_name.h"
-#include "cli/scheme_colors.h"
 #include "cli/studio_library.h"
+#include "workbench/scene/scheme_colors.h"
 
 #include <unistd.h>
 
@@ -149,7 +149,7 @@ void RenderCommand::readOrbit(RenderOptions& options) const {
 }
 
 void RenderCommand::readScale(RenderOptions& options) const {
-    options.background = circle_ ? Background::Circle : Background::Grid;
+    options.background = circle_ ? Workbench::Background::Circle : Workbench::Background::Grid;
     if (ticks_) options.ticks = wholeNumber("--ticks", *ticks_, 0, MostTicks);
     if (!limits_ || *limits_ == "round") return;
     options.limits = *limits_ == "auto" ? LimitChoice::Auto : LimitChoice::Fixed;
@@ -173,11 +173,13 @@ void RenderCommand::readSetup(RenderOptions& options) const {
 
 void RenderCommand::readScheme(RenderOptions& options) const {
     // The newest position is a white dot.
-    const bool whiteDot = std::any_of(
-        options.show.begin(), options.show.end(),
-        [](const CurveRequest& request) { return request.kind == CurveKind::ShaftCenter; });
-    options.scheme = dark_ || (whiteDot && !light_) ? DarkNumber : LightNumber;
-    options.picture.colors = colorsOf(options.scheme);
+    const bool whiteDot = std::any_of(options.show.begin(), options.show.end(),
+                                      [](const Workbench::CurveRequest& request) {
+                                          return request.kind == Workbench::CurveKind::ShaftCenter;
+                                      });
+    options.scheme =
+        dark_ || (whiteDot && !light_) ? Workbench::DarkNumber : Workbench::LightNumber;
+    options.picture.colors = Workbench::colorsOf(options.scheme);
 }
 
 void RenderCommand::readPointer(RenderOptions& options) const {

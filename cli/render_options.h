@@ -1,14 +1,13 @@
 #pragma once
 
 #include "cli/argument_values.h"
-#include "cli/curve_request.h"
-#include "cli/driven_control.h"
-#include "cli/graph_scale.h"
 #include "cli/run_out_remover.h"
-#include "workbench/analysis/shaft_center.h"
-#include "workbench/analysis/time_span.h"
+#include "host_kit/control/driven_control.h"
 #include "workbench/paint/picture_studio.h"
 #include "workbench/recording/recording.h"
+#include "workbench/scene/curve_options.h"
+#include "workbench/scene/curve_request.h"
+#include "workbench/scene/graph_scale.h"
 
 #include <cstdint>
 #include <optional>
@@ -24,17 +23,6 @@ enum class LimitChoice : std::uint8_t {
     Fixed,  ///< as given
 };
 
-/// What stands beside the positions of the shaft's centre.
-enum class PositionLabels : std::uint8_t { Speed, Time };
-
-/// How the history of the shaft's centre is made and told.
-struct ShaftCenterChoice {
-    std::optional<double> interval;  ///< s for each position; unset: what suits the recording
-    Workbench::RestPosition rest = Workbench::RestPosition::Centre;
-    std::optional<Workbench::TimeSpan> restSpan;
-    std::optional<PositionLabels> labels;  ///< unset: the speed where it is known
-};
-
 /// What `render` was asked for, every value checked.
 struct RenderOptions {
     std::vector<std::string> recordings;
@@ -42,8 +30,8 @@ struct RenderOptions {
     Workbench::PictureOrder picture;
     std::int32_t scheme = 0;
     bool header = true;
-    Background background = Background::Grid;
-    std::vector<CurveRequest> show{CurveRequest{}};
+    Workbench::Background background = Workbench::Background::Grid;
+    std::vector<Workbench::CurveRequest> show{Workbench::CurveRequest{}};
     std::optional<int> revolutions;
     std::optional<double> milliseconds;
     int usualRevolutions = 8;                        ///< where neither is asked for
@@ -51,13 +39,13 @@ struct RenderOptions {
     std::optional<double> at;                        ///< s after the first sample; unset: the end
     std::optional<double> speed;                     ///< rpm, of a recording without keyphasor
     std::optional<CompensationChoice> compensation;  ///< of run-out; unset: none is taken away
-    ShaftCenterChoice shaftCenter;
+    Workbench::ShaftCenterChoice shaftCenter;
     std::optional<PicturePoint> pointer;  ///< in pixels of the size asked for
     bool clearance = false;
     std::optional<std::int32_t> ticks;
     LimitChoice limits = LimitChoice::Round;
-    double limit = 0.0;             ///< of `LimitChoice::Fixed`
-    DrivenControl::Settings setup;  ///< of a setup file; they go before all else
+    double limit = 0.0;                      ///< of `LimitChoice::Fixed`
+    HostKit::DrivenControl::Settings setup;  ///< of a setup file; they go before all else
     std::vector<std::uint32_t> colors;
     std::optional<std::string> module;
     bool quiet = false;

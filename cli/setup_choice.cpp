@@ -42,7 +42,8 @@ void SetupChoice::takeSpan(RenderOptions& options) {
 
 void SetupChoice::takePlot(RenderOptions& options) {
     if (texts_.contains(L"graphType")) {
-        options.background = isOn(L"graphType") ? Background::Circle : Background::Grid;
+        options.background =
+            isOn(L"graphType") ? Workbench::Background::Circle : Workbench::Background::Grid;
     }
     if (options.shaftCenter.labels) leave({L"displayType"});
     if (options.ticks) leave({L"tickCount"});

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/driven_control.h"
 #include "cli/render_options.h"
+#include "host_kit/control/driven_control.h"
 
 #include <initializer_list>
 #include <optional>
@@ -29,7 +29,7 @@ private:
     bool isOn(const wchar_t* key) const;
     double number(const wchar_t* key) const;
 
-    DrivenControl::Settings texts_;
+    HostKit::DrivenControl::Settings texts_;
 };
 
 }  // namespace Rotavue::Cli

@@ -74,8 +74,8 @@ void SetupControl::load(const std::filesystem::path& file, const SetupEntries& e
     }
 }
 
-DrivenControl::Settings documentTexts(const SetupEntries& entries) {
-    DrivenControl::Settings texts;
+HostKit::DrivenControl::Settings documentTexts(const SetupEntries& entries) {
+    HostKit::DrivenControl::Settings texts;
     for (const SetupEntry& entry : entries)
         texts[wide(entry.key)] = wide(entry.text);
     return texts;

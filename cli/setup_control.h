@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/driven_control.h"
+#include "host_kit/control/driven_control.h"
 #include "host_kit/loader/module.h"
 #include "workbench/setup/setup_file.h"
 
@@ -27,10 +27,10 @@ public:
 private:
     HostKit::MemoryHost host_;
     HostKit::Module module_;
-    DrivenControl control_;
+    HostKit::DrivenControl control_;
 };
 
 /// The entries as a document holds them.
-DrivenControl::Settings documentTexts(const Workbench::SetupEntries& entries);
+HostKit::DrivenControl::Settings documentTexts(const Workbench::SetupEntries& entries);
 
 }  // namespace Rotavue::Cli

@@ -28,7 +28,7 @@ std::wstring text(double value) {
 }
 
 /// The amount of a limit, which is 1 where the key is left out.
-double limit(const DrivenControl::Settings& saved, const wchar_t* key) {
+double limit(const HostKit::DrivenControl::Settings& saved, const wchar_t* key) {
     constexpr double WhenLeftOut = 1.0;
     const auto found = saved.find(key);
     return found == saved.end() ? WhenLeftOut
@@ -37,12 +37,13 @@ double limit(const DrivenControl::Settings& saved, const wchar_t* key) {
 
 }  // namespace
 
-DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitScene& scene,
-                                    const PlotLayout& layout) {
-    const ShownSpan& span = scene.span();
-    const PositionLabels usual = scene.hasSpeed() ? PositionLabels::Speed : PositionLabels::Time;
-    const PositionLabels labels = options.shaftCenter.labels.value_or(usual);
-    DrivenControl::Settings settings{
+HostKit::DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitScene& scene,
+                                             const PlotLayout& layout) {
+    const Workbench::ShownSpan& span = scene.span();
+    const Workbench::PositionLabels usual =
+        scene.hasSpeed() ? Workbench::PositionLabels::Speed : Workbench::PositionLabels::Time;
+    const Workbench::PositionLabels labels = options.shaftCenter.labels.value_or(usual);
+    HostKit::DrivenControl::Settings settings{
         {L"useManualMagnitudeLimits", text(layout.limit.has_value())},
         {L"drawClearance", text(options.clearance)},
         {L"clearanceColor", text(static_cast<int>(ClearanceColor))},
@@ -50,8 +51,8 @@ DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitSce
         {L"revolutions", text(span.turns)},
         {L"tickCount", text(layout.ticks)},
         {L"singleAxis", text(layout.legendInRow)},
-        {L"displayType", text(labels == PositionLabels::Time ? 1 : 0)},
-        {L"graphType", text(options.background == Background::Circle ? 1 : 0)},
+        {L"displayType", text(labels == Workbench::PositionLabels::Time ? 1 : 0)},
+        {L"graphType", text(options.background == Workbench::Background::Circle ? 1 : 0)},
         {L"historyType", text(span.byTurns ? 0 : 1)},
     };
     if (layout.limit) {
@@ -63,11 +64,11 @@ DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitSce
     return settings;
 }
 
-double limitIn(const DrivenControl::Settings& saved) {
+double limitIn(const HostKit::DrivenControl::Settings& saved) {
     return std::max(limit(saved, L"minXValue"), limit(saved, L"maxXValue"));
 }
 
-bool limitsAreAlike(const DrivenControl::Settings& saved) {
+bool limitsAreAlike(const HostKit::DrivenControl::Settings& saved) {
     const double one = limit(saved, L"minXValue");
     return one == limit(saved, L"maxXValue") && one == limit(saved, L"minYValue") &&
            one == limit(saved, L"maxYValue");

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "cli/driven_control.h"
-#include "cli/graph_scale.h"
 #include "cli/orbit_scene.h"
 #include "cli/render_options.h"
+#include "host_kit/control/driven_control.h"
+#include "workbench/scene/graph_scale.h"
 
 #include <optional>
 
@@ -18,13 +18,13 @@ struct PlotLayout {
 };
 
 /// Every setting that matters to the scene.
-DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitScene& scene,
-                                    const PlotLayout& layout);
+HostKit::DrivenControl::Settings settingsFor(const RenderOptions& options, const OrbitScene& scene,
+                                             const PlotLayout& layout);
 
 /// The larger of the x limits' amounts in saved settings.
-double limitIn(const DrivenControl::Settings& saved);
+double limitIn(const HostKit::DrivenControl::Settings& saved);
 
 /// Whether both axes of saved settings reach equally far, each way.
-bool limitsAreAlike(const DrivenControl::Settings& saved);
+bool limitsAreAlike(const HostKit::DrivenControl::Settings& saved);
 
 }  // namespace Rotavue::Cli

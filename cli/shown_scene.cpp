@@ -18,7 +18,7 @@ void ShownScene::findLimits(const RenderOptions& options) {
     const Workbench::PictureOrder& picture = options.picture;
     control_.load(settingsFor(options, scene_, {.limit = {}}));
     control_.draw(scene_.host().canvas(), picture.width, picture.height, options.scheme);
-    const DrivenControl::Settings& saved = control_.save();
+    const HostKit::DrivenControl::Settings& saved = control_.save();
     limitsAreAlike_ = Cli::limitsAreAlike(saved);
     limit_ = limitIn(saved);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/driven_control.h"
 #include "cli/orbit_scene.h"
 #include "cli/render_options.h"
+#include "host_kit/control/driven_control.h"
 #include "host_kit/loader/module.h"
 
 namespace Rotavue::Cli {
@@ -17,7 +17,7 @@ public:
     explicit ShownScene(const RenderOptions& options);
 
     OrbitScene& scene() { return scene_; }
-    DrivenControl& control() { return control_; }
+    HostKit::DrivenControl& control() { return control_; }
 
     /// How far the axes run each way: as the options fix it, or the largest that the plug-in itself
     /// finds for what is on show; 0 for nothing.
@@ -31,7 +31,7 @@ private:
 
     OrbitScene scene_;
     HostKit::Module module_;
-    DrivenControl control_;
+    HostKit::DrivenControl control_;
     double limit_ = 0.0;
     bool limitsAreAlike_ = true;
 };

@@ -13,7 +13,11 @@ Ref<Host::IHostData> MemoryApp::getData() {
 
 void MemoryApp::showMessage(const std::wstring& text) {
     call(
-        operation("IHostApp.showMessage"), [] {}, text);
+        operation("IHostApp.showMessage"),
+        [&] {
+            if (HostListener* listener = host_.listener()) listener->messageShown(text);
+        },
+        text);
 }
 
 bool MemoryApp::isAcquiring() {

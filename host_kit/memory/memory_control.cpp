@@ -29,7 +29,9 @@ Host::Ref<Host::IHostChannelCollection> MemoryControl::getChannels() {
 }
 
 void MemoryControl::invalidate() {
-    call(operation("IHostVisualControl.invalidate"), [] {});
+    call(operation("IHostVisualControl.invalidate"), [&] {
+        if (HostListener* listener = host_.listener()) listener->invalidated();
+    });
 }
 
 Host::Ref<Host::IHostGroupCollection> MemoryControl::getGroups() {
@@ -45,12 +47,18 @@ void MemoryControl::requestData(Host::DataPosition from, Host::DataPosition to, 
 }
 
 void MemoryControl::refreshSetup() {
-    call(operation("IHostVisualControl.refreshSetup"), [] {});
+    call(operation("IHostVisualControl.refreshSetup"), [&] {
+        if (HostListener* listener = host_.listener()) listener->setupRefreshed();
+    });
 }
 
 bool MemoryControl::editText(std::int32_t x, std::int32_t y, std::wstring& text) {
     const EditAnswer answer = call(
-        operation("IHostVisualControl.editText"), [&] { return host_.description.host.editText; },
+        operation("IHostVisualControl.editText"),
+        [&] {
+            HostListener* listener = host_.listener();
+            return listener ? listener->editText(x, y, text) : host_.description.host.editText;
+        },
         x, y, text);
     text = answer.text;
     return answer.accepted;

@@ -2,6 +2,7 @@
 
 #include "host_kit/memory/call_gate.h"
 #include "host_kit/memory/description.h"
+#include "host_kit/memory/host_listener.h"
 #include "host_kit/memory/ledger.h"
 #include "plugin/framework/host/data/host_app.h"
 #include "plugin/framework/host/data/host_axes.h"
@@ -88,6 +89,11 @@ public:
     /// brush and the font as they are now; null ends it.
     void drawAlsoOn(Host::Ref<Host::IHostCanvas> canvas);
 
+    /// Who hears of what the control asks for; null ends it. A listener must outlive the host or
+    /// take itself away.
+    void listen(HostListener* listener) { listener_ = listener; }
+    HostListener* listener() const { return listener_; }
+
     /// From here on, the n-th call of that operation (1 is the next one) fails once.
     void fail(Operation operation, std::int64_t n = 1,
               std::uint32_t status = Host::Status::Unspecified);
@@ -110,6 +116,7 @@ private:
     };
 
     Recorder recorder_;
+    HostListener* listener_ = nullptr;
     std::unique_ptr<HostObjects> objects_;
 };
 

@@ -1,5 +1,6 @@
 #include "cli/orbit_picture.h"
 
+#include "cli/curve_list.h"
 #include "cli/usage_error.h"
 #include "tests/cli/command_test.h"
 

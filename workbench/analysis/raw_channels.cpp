@@ -63,12 +63,23 @@ void setClock(HostDescription& host, double sampleRate, std::size_t position) {
     host.host.acquiredSampleCount = linear + 1;
 }
 
+// How many samples of the channel there are up to the position; those that carry their own time
+// stamps are there once the clock has gone beyond them.
+std::size_t countUpTo(const ChannelDescription& channel, double sampleRate, std::size_t position) {
+    if (!channel.asynchronous) return position + 1;
+    const auto& stamps = channel.timestamps;
+    const double now = static_cast<double>(position) / sampleRate;
+    return static_cast<std::size_t>(std::lower_bound(stamps.begin(), stamps.end(), now) -
+                                    stamps.begin());
+}
+
 // As many samples as there are up to the position, in a buffer for all of them.
-void fillUpTo(ChannelDescription& channel, std::size_t position) {
+void fillUpTo(ChannelDescription& channel, double sampleRate, std::size_t position) {
     const std::int32_t size = channel.bufferSize.value_or(0);
     if (size == 0) return;
+    const std::size_t count = countUpTo(channel, sampleRate, position);
     channel.sampleCount =
-        static_cast<std::int32_t>(std::min(position + 1, static_cast<std::size_t>(size)));
+        static_cast<std::int32_t>(std::min(count, static_cast<std::size_t>(size)));
     channel.sampleCounter = channel.sampleCount;
     channel.writePosition = channel.sampleCount % size;
 }
@@ -114,7 +125,7 @@ void showAcquired(HostDescription& host, double sampleRate, std::size_t position
     host.host.acquiring = true;
     setClock(host, sampleRate, position);
     for (const std::string& id : host.channels.ids())
-        fillUpTo(host.channels[id], position);
+        fillUpTo(host.channels[id], sampleRate, position);
 }
 
 }  // namespace Rotavue::Workbench

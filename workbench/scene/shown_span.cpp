@@ -1,13 +1,11 @@
-#include "cli/shown_span.h"
+#include "workbench/scene/shown_span.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
 namespace {
-
-using namespace Workbench;
 
 /// Beyond the marks at both ends, so that rounding loses no turn, in s.
 constexpr double Slack = 1e-9;
@@ -27,4 +25,4 @@ TimeSpan stretchOf(const ShownSpan& span, const ShaftTrack& track) {
     return {0.0, span.time};
 }
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

@@ -1,4 +1,4 @@
-#include "cli/derived_curves.h"
+#include "workbench/scene/derived_curves.h"
 
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/averaged_orbit.h"
@@ -13,11 +13,10 @@
 #include <filesystem>
 #include <stdexcept>
 
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
 namespace {
 
-using namespace Workbench;
 using HostKit::ChannelDescription;
 
 /// The smallest number of 1, 2 or 5 times a power of ten that is not below.
@@ -60,11 +59,9 @@ double usualInterval(double length, double speed, double sampleRate) {
     return roundInterval(std::max({length / Positions, turning, 1.0 / sampleRate}));
 }
 
-DerivedCurves::DerivedCurves(const Recording& recording, const ShownSpan& span,
-                             const RenderOptions& options)
-    : recording_(recording), span_(span), options_(options), track_(recording) {
-    note(track_.notes());
-}
+DerivedCurves::DerivedCurves(const Recording& recording, const ShaftTrack& track,
+                             const ShownSpan& span, const CurveOptions& options)
+    : recording_(recording), span_(span), options_(options), track_(track) {}
 
 void DerivedCurves::note(const std::vector<std::string>& notes) {
     notes_.insert(notes_.end(), notes.begin(), notes.end());
@@ -110,7 +107,7 @@ ChannelDescription DerivedCurves::subSync(const ChannelStyle& style) {
 
 ChannelDescription DerivedCurves::reference(const CurveRequest& request,
                                             const ChannelStyle& style) const {
-    const ReferenceOrbit orbit = readReference(request.file, options_.recording);
+    const ReferenceOrbit orbit = readReference(request.file, options_.reference);
     checkComparable(orbit, recording_);
     return referenceChannel(orbit, recording_, style);
 }
@@ -134,4 +131,4 @@ ChannelDescription DerivedCurves::shaftCenter(const ChannelStyle& style) {
     return shaftCenterChannel(history, recording_, style);
 }
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

@@ -1,18 +1,18 @@
-#include "cli/curve_request.h"
+#include "cli/curve_list.h"
 
 #include "cli/argument_values.h"
-#include "cli/fact_words.h"
 #include "cli/usage_error.h"
 #include "workbench/analysis/harmonics.h"
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <utility>
 
 namespace Rotavue::Cli {
 
 namespace {
+
+using namespace Workbench;
 
 constexpr double LeastOrder = 0.01;
 constexpr double LargestOrder = 1000.0;
@@ -63,13 +63,6 @@ bool isTaken(const std::vector<CurveRequest>& requests, const CurveRequest& requ
     });
 }
 
-std::string orderWords(const std::vector<double>& orders) {
-    std::string words;
-    for (const double order : orders)
-        words += (words.empty() ? "" : ", ") + shortNumber(order) + 'X';
-    return words;
-}
-
 }  // namespace
 
 std::vector<double> ordersIn(std::string_view option, const std::string& text) {
@@ -78,7 +71,7 @@ std::vector<double> ordersIn(std::string_view option, const std::string& text) {
         const auto order = numberIn(part);
         const bool fits = order && *order >= LeastOrder && *order <= LargestOrder;
         if (!fits || std::find(orders.begin(), orders.end(), *order) != orders.end() ||
-            orders.size() == Workbench::MostOrders) {
+            orders.size() == MostOrders) {
             throw UsageError(option, text, AllowedOrders);
         }
         orders.push_back(*order);
@@ -94,28 +87,6 @@ std::vector<CurveRequest> curveRequests(const std::string& text) {
         requests.push_back(std::move(request));
     }
     return requests;
-}
-
-bool isOfShownTurns(CurveKind kind) {
-    return kind == CurveKind::Raw || kind == CurveKind::Average || kind == CurveKind::Harmonic;
-}
-
-std::string wordsOf(const CurveRequest& request) {
-    switch (request.kind) {
-        case CurveKind::Raw:
-            return "raw";
-        case CurveKind::Average:
-            return "average";
-        case CurveKind::Harmonic:
-            return orderWords(request.orders);
-        case CurveKind::SubSync:
-            return "below 1X";
-        case CurveKind::Reference:
-            return "reference " + std::filesystem::path(request.file).stem().string();
-        case CurveKind::ShaftCenter:
-            break;
-    }
-    return "shaft centre";
 }
 
 }  // namespace Rotavue::Cli

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
 enum class Background : std::uint8_t { Grid, Circle };
 
@@ -35,4 +35,4 @@ GraphScale plainScale(double limit, Background background, std::int32_t ticks);
 /// Whether the axis numbers have room beside each other.
 bool fits(const GraphScale& scale, const ScaleRoom& room);
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

@@ -1,47 +1,45 @@
 #pragma once
 
-#include "cli/curve_request.h"
 #include "cli/render_options.h"
-#include "cli/shown_span.h"
 #include "host_kit/memory/channel_description.h"
 #include "workbench/analysis/orbit_channels.h"
 #include "workbench/analysis/shaft_track.h"
 #include "workbench/recording/recording.h"
+#include "workbench/scene/curve_request.h"
+#include "workbench/scene/shown_span.h"
 
 #include <string>
 #include <vector>
 
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
 /// The curves that an analysis makes of one recording, as the channels in which a host offers them.
 class DerivedCurves {
 public:
-    /// All three must outlive this object.
-    DerivedCurves(const Workbench::Recording& recording, const ShownSpan& span,
-                  const RenderOptions& options);
+    /// All four must outlive this object.
+    DerivedCurves(const Recording& recording, const ShaftTrack& track, const ShownSpan& span,
+                  const CurveOptions& options);
 
     /// The curve of a request that is not raw. Raises `AnalysisError` where the recording does not
     /// give it, and `std::runtime_error`, with the name, for a reference that cannot be used.
-    HostKit::ChannelDescription make(const CurveRequest& request,
-                                     const Workbench::ChannelStyle& style);
+    HostKit::ChannelDescription make(const CurveRequest& request, const ChannelStyle& style);
 
     /// What a person should know of the curves made so far, one line each.
     const std::vector<std::string>& notes() const { return notes_; }
 
 private:
-    HostKit::ChannelDescription average(const Workbench::ChannelStyle& style) const;
-    HostKit::ChannelDescription harmonic(const CurveRequest& request,
-                                         const Workbench::ChannelStyle& style);
-    HostKit::ChannelDescription subSync(const Workbench::ChannelStyle& style);
+    HostKit::ChannelDescription average(const ChannelStyle& style) const;
+    HostKit::ChannelDescription harmonic(const CurveRequest& request, const ChannelStyle& style);
+    HostKit::ChannelDescription subSync(const ChannelStyle& style);
     HostKit::ChannelDescription reference(const CurveRequest& request,
-                                          const Workbench::ChannelStyle& style) const;
-    HostKit::ChannelDescription shaftCenter(const Workbench::ChannelStyle& style);
+                                          const ChannelStyle& style) const;
+    HostKit::ChannelDescription shaftCenter(const ChannelStyle& style);
     void note(const std::vector<std::string>& notes);
 
-    const Workbench::Recording& recording_;
+    const Recording& recording_;
     const ShownSpan& span_;
-    const RenderOptions& options_;
-    Workbench::ShaftTrack track_;
+    const CurveOptions& options_;
+    const ShaftTrack& track_;
     std::vector<std::string> notes_;
 };
 
@@ -49,4 +47,4 @@ private:
 /// which has about thirty of them, and two turns at least. In s.
 double usualInterval(double length, double speed, double sampleRate);
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

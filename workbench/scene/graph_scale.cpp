@@ -1,11 +1,11 @@
-#include "cli/graph_scale.h"
+#include "workbench/scene/graph_scale.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
 
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
 namespace {
 
@@ -77,4 +77,4 @@ bool fits(const GraphScale& scale, const ScaleRoom& room) {
     return room.plotSide / (2.0 * each) >= needed;
 }
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

@@ -1,14 +1,12 @@
-#include "cli/shown_span.h"
+#include "workbench/scene/shown_span.h"
 
 #include "tests/workbench/analysis/generated_recording.h"
 
 #include <gtest/gtest.h>
 
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
 namespace {
-
-using namespace Workbench;
 
 /// 50 turns a second for a second, a quarter turn before the first sample: turn n begins at
 /// (n - 0.25) / 50 s, the first of them at 0.015 s and the last at 0.995 s.
@@ -61,4 +59,4 @@ TEST_F(ShownSpanTest, TimeEndsAtTheNewestSample) {
 
 }  // namespace
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

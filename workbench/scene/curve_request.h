@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
 /// The kinds of curve that the plug-in draws.
 enum class CurveKind : std::uint8_t {
@@ -16,7 +16,7 @@ enum class CurveKind : std::uint8_t {
     ShaftCenter,  ///< where the shaft lies in its bearing, over time
 };
 
-/// One item of `--show`.
+/// One curve, or one set of ellipses, that is to be shown of a recording.
 struct CurveRequest {
     CurveKind kind = CurveKind::Raw;
     std::vector<double> orders = {};  ///< of `CurveKind::Harmonic`
@@ -25,17 +25,10 @@ struct CurveRequest {
     bool operator==(const CurveRequest&) const = default;
 };
 
-/// The items of "raw,average,harmonic:1+2,subsync,reference:FILE,shaft-center", of which any may be
-/// left out and none comes twice, but for references to different files. Raises `UsageError`.
-std::vector<CurveRequest> curveRequests(const std::string& text);
-
-/// The orders of "1+2+0.43". Raises `UsageError`.
-std::vector<double> ordersIn(std::string_view option, const std::string& text);
-
 /// Whether the curve is that of the shown turns, and not of a stretch of its own.
 bool isOfShownTurns(CurveKind kind);
 
 /// "raw", "average", "1X, 2X", "below 1X", "reference slow-roll" or "shaft centre".
 std::string wordsOf(const CurveRequest& request);
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

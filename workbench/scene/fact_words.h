@@ -5,13 +5,13 @@
 #include <string>
 
 /// The words for the facts of a recording, the same in every output.
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
-const char* roleText(Workbench::ColumnRole role);
-const char* sourceText(Workbench::RateSource source);
+const char* roleText(ColumnRole role);
+const char* sourceText(RateSource source);
 
 /// Turns of the shaft from the first sample to the last, whichever way; 0 without a keyphasor.
-double turnsIn(const Workbench::Recording& recording);
+double turnsIn(const Recording& recording);
 
 /// A probe's place as the field says it: "45\u00b0 R" is right of the top, "45\u00b0 L" left of it.
 std::string placeText(double degreesClockwise);
@@ -19,4 +19,4 @@ std::string placeText(double degreesClockwise);
 /// A number with at most that many significant digits, but no fewer than stand before its point.
 std::string shortNumber(double value, int digits = 4);
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

@@ -1,4 +1,4 @@
-#include "cli/fact_words.h"
+#include "workbench/scene/fact_words.h"
 
 #include "workbench/recording/keyphasor.h"
 
@@ -6,9 +6,7 @@
 #include <cmath>
 #include <cstdio>
 
-namespace Rotavue::Cli {
-
-using namespace Workbench;
+namespace Rotavue::Workbench {
 
 const char* roleText(ColumnRole role) {
     switch (role) {
@@ -57,4 +55,4 @@ std::string shortNumber(double value, int digits) {
     return text;
 }
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench

@@ -3,7 +3,7 @@
 #include "workbench/analysis/shaft_track.h"
 #include "workbench/analysis/time_span.h"
 
-namespace Rotavue::Cli {
+namespace Rotavue::Workbench {
 
 /// What of the recordings is on show.
 struct ShownSpan {
@@ -18,6 +18,6 @@ struct ShownSpan {
 /// The same as a stretch of one recording, for what is computed from whole turns: by turns it
 /// begins and ends with a passing of the keyphasor, as many turns apart as there are. Where no turn
 /// is to be had it reaches back to the first sample.
-Workbench::TimeSpan stretchOf(const ShownSpan& span, const Workbench::ShaftTrack& track);
+TimeSpan stretchOf(const ShownSpan& span, const ShaftTrack& track);
 
-}  // namespace Rotavue::Cli
+}  // namespace Rotavue::Workbench
