@@ -1,0 +1,122 @@
+#include "workbench/bench/bench.h"
+
+#include "tests/workbench/bench/bench_fixture.h"
+
+#include <QSignalSpy>
+
+namespace Rotavue::Workbench {
+namespace {
+
+TEST_F(BenchTest, TheFirstPlanePutsTheCursorOnItsLastSample) {
+    add();
+    // 10,000 samples at 10 kHz.
+    EXPECT_DOUBLE_EQ(bench_.cursor(), 0.9999);
+    EXPECT_DOUBLE_EQ(bench_.duration(), 0.9999);
+    bench_.setCursor(0.3);
+    add();
+    EXPECT_DOUBLE_EQ(bench_.cursor(), 0.3);
+}
+
+TEST_F(BenchTest, OneCursorMovesAllPlanesAndStopsAtTheLongest) {
+    const Plane& longer = add(rotor(1.0));
+    const Plane& shorter = add(rotor(0.5));
+    const QSignalSpy moved(&bench_, &Bench::cursorMoved);
+    bench_.setCursor(0.4);
+    EXPECT_EQ(longer.position(), 4000U);
+    EXPECT_EQ(shorter.position(), 4000U);
+    bench_.setCursor(7.0);
+    EXPECT_EQ(longer.position(), 9999U);
+    EXPECT_EQ(shorter.position(), 4999U);
+    bench_.setCursor(-1.0);
+    EXPECT_EQ(longer.position(), 0U);
+    EXPECT_EQ(moved.count(), 3);
+}
+
+TEST_F(BenchTest, PlanesComeAndGoAndComeBack) {
+    const QSignalSpy changed(&bench_, &Bench::planesChanged);
+    Plane& first = add();
+    Plane& second = add();
+    bench_.removePlane(first);
+    ASSERT_EQ(bench_.planes().size(), 1U);
+    EXPECT_EQ(bench_.planes()[0].get(), &second);
+    bench_.undoStack().undo();
+    ASSERT_EQ(bench_.planes().size(), 2U);
+    EXPECT_EQ(bench_.planes()[0].get(), &first);
+    bench_.undoStack().undo();
+    bench_.undoStack().undo();
+    EXPECT_TRUE(bench_.planes().empty());
+    EXPECT_EQ(bench_.cursor(), 0.0);
+    EXPECT_EQ(changed.count(), 6);
+}
+
+TEST_F(BenchTest, CurvesCanBeUndone) {
+    Plane& plane = add();
+    const QSignalSpy changed(&bench_, &Bench::curvesChanged);
+    bench_.setCurves(plane, {{.kind = CurveKind::Average}});
+    EXPECT_EQ(plane.curves().at(0).kind, CurveKind::Average);
+    bench_.undoStack().undo();
+    EXPECT_EQ(plane.curves().at(0).kind, CurveKind::Raw);
+    bench_.undoStack().redo();
+    EXPECT_EQ(plane.curves().at(0).kind, CurveKind::Average);
+    EXPECT_EQ(changed.count(), 3);
+}
+
+TEST_F(BenchTest, TheSameCurvesAgainAreNoChange) {
+    Plane& plane = add();
+    const int before = bench_.undoStack().count();
+    bench_.setCurves(plane, {{}});
+    EXPECT_EQ(bench_.undoStack().count(), before);
+}
+
+TEST_F(BenchTest, SettingsCanBeUndone) {
+    Plane& plane = add();
+    Settings circle = plane.settings();
+    circle[L"graphType"] = L"1";
+    bench_.setSettings(plane, circle, "circle");
+    EXPECT_EQ(plane.settings().at(L"graphType"), L"1");
+    EXPECT_EQ(bench_.undoStack().undoText(), "circle");
+    bench_.undoStack().undo();
+    EXPECT_EQ(plane.settings().count(L"graphType"), 0U);
+}
+
+TEST_F(BenchTest, WhatTheControlChangedByItselfBecomesACommand) {
+    Plane& plane = add();
+    const int before = bench_.undoStack().count();
+    bench_.noticeSettings(plane);
+    EXPECT_EQ(bench_.undoStack().count(), before);
+    Settings fewer = plane.settings();
+    fewer[L"revolutions"] = L"2";
+    plane.control().load(fewer);
+    bench_.noticeSettings(plane, "turns");
+    EXPECT_EQ(bench_.undoStack().count(), before + 1);
+    EXPECT_EQ(plane.span().turns, 2);
+    bench_.undoStack().undo();
+    EXPECT_EQ(plane.span().turns, 8);
+}
+
+TEST_F(BenchTest, CompensationCanBeUndone) {
+    Plane& plane = add();
+    Recording still = rotor();
+    still.x.assign(still.x.size(), 1.0);
+    bench_.showCompensated(plane, std::make_shared<const PlaneSource>(still), "1X taken off");
+    EXPECT_EQ(plane.shown().recording.x.front(), 1.0);
+    bench_.undoStack().undo();
+    EXPECT_EQ(plane.compensation(), "");
+    bench_.undoStack().redo();
+    EXPECT_EQ(plane.compensation(), "1X taken off");
+    bench_.showOriginal(plane);
+    EXPECT_EQ(plane.compensation(), "");
+    bench_.undoStack().undo();
+    EXPECT_EQ(plane.compensation(), "1X taken off");
+}
+
+TEST_F(BenchTest, TheSchemeRecoloursAllPlanesAndThoseThatComeLater) {
+    Plane& early = add();
+    bench_.setScheme(0);
+    Plane& late = add();
+    EXPECT_EQ(early.colorOf(0), 0x56B4E9U);
+    EXPECT_EQ(late.colorOf(0), 0x56B4E9U);
+}
+
+}  // namespace
+}  // namespace Rotavue::Workbench

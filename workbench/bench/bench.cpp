@@ -1,0 +1,178 @@
+#include "workbench/bench/bench.h"
+
+#include "workbench/bench/change_command.h"
+#include "workbench/bench/turn_step.h"
+#include "workbench/scene/scheme_colors.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Rotavue::Workbench {
+
+Bench::Bench(std::shared_ptr<HostKit::Module> module, QObject* parent)
+    : QObject(parent), module_(std::move(module)), scheme_(LightNumber), playback_(*this) {
+    connect(&playback_, &Playback::playingChanged, this, [this] {
+        placePlanes();
+        emit cursorMoved(cursor_);
+    });
+}
+
+/// Commands hold planes, and planes hold controls of the module.
+Bench::~Bench() {
+    undo_.clear();
+}
+
+std::size_t Bench::placeOf(const Plane& plane) const {
+    const auto found = std::find_if(planes_.begin(), planes_.end(),
+                                    [&](const auto& one) { return one.get() == &plane; });
+    return static_cast<std::size_t>(found - planes_.begin());
+}
+
+std::shared_ptr<Plane> Bench::shared(const Plane& plane) const {
+    return planes_.at(placeOf(plane));
+}
+
+void Bench::insert(std::size_t place, std::shared_ptr<Plane> plane) {
+    const bool first = planes_.empty();
+    plane->setLight(scheme_ == LightNumber);
+    planes_.insert(planes_.begin() + static_cast<std::ptrdiff_t>(place), std::move(plane));
+    if (first) cursor_ = duration();
+    planes_[place]->showMoment(cursor_, hostState());
+    emit planesChanged();
+    if (first) emit cursorMoved(cursor_);
+}
+
+void Bench::take(std::size_t place) {
+    planes_.erase(planes_.begin() + static_cast<std::ptrdiff_t>(place));
+    if (planes_.empty()) playback_.pause();
+    emit planesChanged();
+    if (cursor_ > duration()) setCursor(duration());
+}
+
+Plane& Bench::addPlane(PreparedPlane prepared, const PlaneSetup& setup) {
+    const auto plane =
+        std::make_shared<Plane>(std::move(prepared), *module_, setup, scheme_ == LightNumber);
+    const std::size_t place = planes_.size();
+    undo_.push(new ChangeCommand(
+        tr("opening %1").arg(QString::fromStdString(plane->name())),
+        [this, place, plane] { insert(place, plane); }, [this, place] { take(place); }));
+    return *plane;
+}
+
+void Bench::removePlane(Plane& plane) {
+    const std::size_t place = placeOf(plane);
+    const std::shared_ptr<Plane> kept = shared(plane);
+    undo_.push(new ChangeCommand(
+        tr("closing %1").arg(QString::fromStdString(plane.name())), [this, place] { take(place); },
+        [this, place, kept] { insert(place, kept); }));
+}
+
+void Bench::change(Plane& plane, const QString& what, std::function<void(Plane&)> make,
+                   std::function<void(Plane&)> takeBack) {
+    const std::shared_ptr<Plane> kept = shared(plane);
+    const auto told = [this, kept](const std::function<void(Plane&)>& part) {
+        return [this, kept, part] {
+            part(*kept);
+            kept->showMoment(cursor_, hostState());
+            emit curvesChanged(kept.get());
+            emit settingsChanged(kept.get());
+            emit notesChanged(kept.get());
+        };
+    };
+    undo_.push(new ChangeCommand(what, told(make), told(takeBack)));
+}
+
+void Bench::setCurves(Plane& plane, std::vector<CurveRequest> curves) {
+    if (curves == plane.curves()) return;
+    change(
+        plane, tr("curves of %1").arg(QString::fromStdString(plane.name())),
+        [curves = std::move(curves)](Plane& one) { one.setCurves(curves); },
+        [before = plane.curves()](Plane& one) { one.setCurves(before); });
+}
+
+void Bench::setCurveOptions(Plane& plane, CurveOptions options) {
+    change(
+        plane, tr("how curves are made"),
+        [options = std::move(options)](Plane& one) { one.setCurveOptions(options); },
+        [before = plane.curveOptions()](Plane& one) { one.setCurveOptions(before); });
+}
+
+namespace {
+
+/// Shows a form of the recording; the original one without words.
+std::function<void(Plane&)> showing(std::shared_ptr<const PlaneSource> source,
+                                    const std::string& words) {
+    if (words.empty()) return [](Plane& plane) { plane.showOriginal(); };
+    return [source = std::move(source), words](Plane& plane) {
+        plane.showCompensated(preparePlane(source), words);
+    };
+}
+
+}  // namespace
+
+void Bench::showCompensated(Plane& plane, std::shared_ptr<const PlaneSource> source,
+                            const std::string& words) {
+    change(plane, tr("taking off run-out"), showing(std::move(source), words),
+           showing(plane.sharedShown(), plane.compensation()));
+}
+
+void Bench::showOriginal(Plane& plane) {
+    if (plane.compensation().empty()) return;
+    change(plane, tr("run-out as measured"), showing(nullptr, {}),
+           showing(plane.sharedShown(), plane.compensation()));
+}
+
+void Bench::setSettings(Plane& plane, const Settings& settings, const QString& what) {
+    change(
+        plane, what.isEmpty() ? tr("settings") : what,
+        [settings](Plane& one) { one.load(settings); },
+        [before = plane.settings()](Plane& one) { one.load(before); });
+}
+
+void Bench::noticeSettings(Plane& plane, const QString& what) {
+    const Settings before = plane.settings();
+    if (!plane.readBack()) return;
+    change(
+        plane, what.isEmpty() ? tr("settings") : what,
+        [now = plane.settings()](Plane& one) { one.load(now); },
+        [before](Plane& one) { one.load(before); });
+}
+
+double Bench::duration() const {
+    double longest = 0.0;
+    for (const auto& plane : planes_) {
+        const Recording& recording = plane->original().recording;
+        const auto last = static_cast<double>(recording.sampleCount() - 1);
+        longest = std::max(longest, last / recording.sampleRate);
+    }
+    return longest;
+}
+
+HostState Bench::hostState() const {
+    return playback_.isPlaying() ? HostState::Acquiring : HostState::Stored;
+}
+
+void Bench::placePlanes() {
+    for (const auto& plane : planes_)
+        plane->showMoment(cursor_, hostState());
+}
+
+void Bench::setCursor(double seconds) {
+    cursor_ = std::clamp(seconds, 0.0, duration());
+    placePlanes();
+    emit cursorMoved(cursor_);
+}
+
+void Bench::stepTurns(const Plane& plane, int turns) {
+    setCursor(steppedTime(plane, cursor_, turns));
+}
+
+void Bench::setScheme(std::int32_t scheme) {
+    if (scheme == scheme_) return;
+    scheme_ = scheme;
+    for (const auto& plane : planes_)
+        plane->setLight(scheme_ == LightNumber);
+    emit schemeChanged(scheme_);
+}
+
+}  // namespace Rotavue::Workbench

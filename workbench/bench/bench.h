@@ -1,0 +1,122 @@
+#pragma once
+
+#include "host_kit/loader/module.h"
+#include "workbench/bench/plane.h"
+#include "workbench/bench/plane_source.h"
+#include "workbench/bench/playback.h"
+
+#include <QObject>
+#include <QString>
+#include <QUndoStack>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace Rotavue::Workbench {
+
+/// All bearing planes that a window shows, one cursor in time for all of them, and what can be
+/// undone. Everything that a user does to a plane goes through an operation of this class: it
+/// becomes one command of the undo stack, and every panel hears of it by a signal.
+///
+/// Not for any other thread than the one that made it. What takes long (reading a recording, taking
+/// off run-out) is done elsewhere, on a `PlaneSource`, and handed in when it is ready.
+class Bench : public QObject {
+    Q_OBJECT
+
+public:
+    /// The module makes the planes' controls.
+    explicit Bench(std::shared_ptr<HostKit::Module> module, QObject* parent = nullptr);
+    ~Bench() override;
+
+    HostKit::Module& module() { return *module_; }
+
+    // Planes.
+
+    /// In the order in which they are tiled.
+    const std::vector<std::shared_ptr<Plane>>& planes() const { return planes_; }
+
+    /// Adds a plane at the end [undoable]. On an empty bench the cursor goes to the recording's
+    /// end. Raises what `Plane` raises.
+    Plane& addPlane(PreparedPlane prepared, const PlaneSetup& setup = {});
+
+    /// Takes a plane away [undoable].
+    void removePlane(Plane& plane);
+
+    /// Another form of a plane's recording, run-out taken off, or none of these again [undoable].
+    void showCompensated(Plane& plane, std::shared_ptr<const PlaneSource> source,
+                         const std::string& words);
+    void showOriginal(Plane& plane);
+
+    // Assignment and settings.
+
+    /// The curves that a plane shows [undoable].
+    void setCurves(Plane& plane, std::vector<CurveRequest> curves);
+    void setCurveOptions(Plane& plane, CurveOptions options);
+
+    /// Lets a plane's control load settings [undoable]. `what` names the change in the menu.
+    void setSettings(Plane& plane, const Settings& settings, const QString& what = {});
+
+    /// To be called after a message that may have made the control change its settings: a widget
+    /// read, a limit edited, a strip clicked. What is different becomes a command [undoable];
+    /// without a difference nothing happens.
+    void noticeSettings(Plane& plane, const QString& what = {});
+
+    // Time.
+
+    /// s after the first sample, from 0 to `duration`.
+    double cursor() const { return cursor_; }
+    void setCursor(double seconds);
+
+    /// Of the longest recording, to its last sample, in s; 0 on an empty bench.
+    double duration() const;
+
+    /// Moves the cursor to the next passing of the keyphasor, or with a negative number to an
+    /// earlier one. Without a keyphasor a step is what the plane shows.
+    void stepTurns(const Plane& plane, int turns);
+
+    Playback& playback() { return playback_; }
+
+    // The rest.
+
+    QUndoStack& undoStack() { return undo_; }
+
+    /// The number of the colour scheme that planes are drawn in, scene/scheme_colors.h.
+    std::int32_t scheme() const { return scheme_; }
+    void setScheme(std::int32_t scheme);
+
+    /// Tells the user of something that went wrong, one line; windows show it without standing in
+    /// the way.
+    void report(const QString& line) { emit troubled(line); }
+
+signals:
+    void planesChanged();                ///< one came or went
+    void cursorMoved(double seconds);    ///< while playing, too
+    void curvesChanged(Plane* plane);    ///< curves, their options, or what is compensated
+    void settingsChanged(Plane* plane);  ///< of the control
+    void notesChanged(Plane* plane);     ///< what a person should know
+    void schemeChanged(std::int32_t scheme);
+    void troubled(const QString& line);
+
+private:
+    /// Pushes a change of one plane that is followed by the cursor's moment and by the signals.
+    void change(Plane& plane, const QString& what, std::function<void(Plane&)> make,
+                std::function<void(Plane&)> takeBack);
+
+    void insert(std::size_t place, std::shared_ptr<Plane> plane);
+    void take(std::size_t place);
+    std::size_t placeOf(const Plane& plane) const;
+    std::shared_ptr<Plane> shared(const Plane& plane) const;
+    void placePlanes();
+    HostState hostState() const;
+
+    std::shared_ptr<HostKit::Module> module_;
+    std::vector<std::shared_ptr<Plane>> planes_;
+    QUndoStack undo_;
+    double cursor_ = 0.0;
+    std::int32_t scheme_;
+    Playback playback_;
+};
+
+}  // namespace Rotavue::Workbench

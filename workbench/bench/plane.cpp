@@ -1,0 +1,268 @@
+#include "workbench/bench/plane.h"
+
+#include "workbench/analysis/channel_text.h"
+#include "workbench/analysis/raw_channels.h"
+#include "workbench/analysis/turn_window.h"
+#include "workbench/scene/bearing_facts.h"
+#include "workbench/scene/curve_colors.h"
+#include "workbench/scene/derived_curves.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <stdexcept>
+#include <utility>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+using HostKit::ChannelDescription;
+
+constexpr std::int32_t PlainSlot = 0;
+constexpr std::int32_t GroupSlot = 1;
+constexpr const char* OrbitId = "orbit1";
+
+std::string idOf(std::size_t curve) {
+    return "curve" + std::to_string(curve + 1);
+}
+
+std::wstring textOf(const Settings& settings, const wchar_t* key, const wchar_t* missing) {
+    const auto found = settings.find(key);
+    return found == settings.end() ? missing : found->second;
+}
+
+bool isOn(const std::wstring& text) {
+    return text == L"1" || text == L"True";
+}
+
+/// Limits that the automatic scale finds anew in every frame are no settings.
+Settings withoutFoundLimits(Settings settings) {
+    if (isOn(textOf(settings, L"useManualMagnitudeLimits", L"False"))) return settings;
+    for (const wchar_t* key : {L"minXValue", L"maxXValue", L"minYValue", L"maxYValue"})
+        settings.erase(key);
+    return settings;
+}
+
+bool has(const std::vector<CurveRequest>& curves, CurveKind kind) {
+    return std::any_of(curves.begin(), curves.end(),
+                       [kind](const CurveRequest& curve) { return curve.kind == kind; });
+}
+
+}  // namespace
+
+Settings usualSettings(const PlaneSource& source) {
+    const MachineFacts& machine = source.recording.machine;
+    return {
+        {L"revolutions", L"8"},
+        {L"displayTime", L"100.000000000000000"},
+        {L"historyType", source.recording.hasTacho() ? L"0" : L"1"},
+        {L"displayType", source.recording.hasTacho() ? L"0" : L"1"},
+        {L"clearanceColor", std::to_wstring(UsualClearanceColor)},
+        {L"drawClearance", machine.clearanceWidth > 0.0 ? L"True" : L"False"},
+    };
+}
+
+Plane::Plane(PreparedPlane prepared, HostKit::Module& module, const PlaneSetup& setup, bool light)
+    : original_(prepared.source),
+      shown_(prepared.source),
+      name_(original_->name()),
+      curves_(setup.curves),
+      options_(setup.options),
+      light_(light),
+      decimals_(axisDecimals(original_->recording)),
+      position_(original_->recording.sampleCount() - 1) {
+    takeRaw(std::move(prepared.raw));
+    control_ = std::make_unique<HostKit::DrivenControl>(module, host_);
+    load(setup.settings.value_or(usualSettings(*original_)));
+    assign();
+}
+
+void Plane::takeRaw(RawOrbit raw) {
+    host_.description.assigned.groups.clear();
+    assignRawOrbit(host_.description, std::move(raw));
+}
+
+void Plane::showCompensated(PreparedPlane prepared, std::string words) {
+    shown_ = std::move(prepared.source);
+    compensation_ = std::move(words);
+    takeRaw(std::move(prepared.raw));
+    assign();
+}
+
+void Plane::showOriginal() {
+    PreparedPlane prepared = preparePlane(original_);
+    shown_ = std::move(prepared.source);
+    compensation_.clear();
+    takeRaw(std::move(prepared.raw));
+    assign();
+}
+
+void Plane::setCurves(std::vector<CurveRequest> curves) {
+    curves_ = std::move(curves);
+    assign();
+}
+
+void Plane::setCurveOptions(CurveOptions options) {
+    options_ = std::move(options);
+    assign();
+}
+
+std::uint32_t Plane::colorOf(std::size_t curve) const {
+    return usualCurveColor(curve, light_);
+}
+
+void Plane::setLight(bool light) {
+    light_ = light;
+    recolor();
+}
+
+void Plane::recolor() {
+    for (std::size_t i = 0; i < curves_.size(); ++i) {
+        const std::string id = curves_[i].kind == CurveKind::Raw ? OrbitId : idOf(i);
+        HostKit::ChannelTable& channels = host_.description.channels;
+        if (channels.contains(id)) channels[id].color = colorOf(i);
+    }
+}
+
+std::string Plane::nameOf(const CurveRequest& request) const {
+    return curves_.size() == 1 && request.kind != CurveKind::Reference ? name_ : wordsOf(request);
+}
+
+void Plane::assign() {
+    HostKit::HostDescription& host = host_.description;
+    ChannelDescription& orbit = host.channels[OrbitId];
+    host.assigned.groups.clear();
+    if (has(curves_, CurveKind::Raw)) {
+        HostKit::GroupDescription group{.channels = {OrbitId},
+                                        .properties = {{L"OrbitType", L"Raw"}}};
+        if (shown_->recording.hasTacho()) group.channels.emplace_back("tacho1");
+        host.assigned.groups.push_back(std::move(group));
+        orbit.name = channelText(nameOf({}));
+    }
+    host.assigned.slots = {{host.assigned.groups.empty() ? PlainSlot : GroupSlot}};
+    notesOfCurves_.assign(curves_.size(), {});
+    dropCurves();
+    for (std::size_t i = 0; i < curves_.size(); ++i)
+        make(i);
+    stretch_ = stretchOf(span(), shown_->track);
+    listChannels();
+    recolor();
+    placeHost();
+    control_->assignmentChanged();
+    readBack();
+}
+
+void Plane::dropCurves() {
+    HostKit::ChannelTable& channels = host_.description.channels;
+    for (std::size_t i = 0; i < made_; ++i)
+        channels.erase(idOf(i));
+    made_ = curves_.size();
+}
+
+void Plane::make(std::size_t curve) {
+    const CurveRequest& request = curves_[curve];
+    if (request.kind == CurveKind::Raw) return;
+    HostKit::ChannelTable& channels = host_.description.channels;
+    const ShownSpan shown = spanOf(request.kind);
+    DerivedCurves derived(shown_->recording, shown_->track, shown, options_);
+    try {
+        channels[idOf(curve)] =
+            derived.make(request, {.name = nameOf(request), .color = colorOf(curve)});
+        notesOfCurves_[curve] = derived.notes();
+    } catch (const std::runtime_error& error) {
+        channels.erase(idOf(curve));
+        notesOfCurves_[curve] = {wordsOf(request) + ": " + error.what()};
+    }
+}
+
+ShownSpan Plane::spanOf(CurveKind kind) const {
+    ShownSpan shown = span();
+    // The control cuts the history at the cursor by itself.
+    if (kind == CurveKind::ShaftCenter) shown.time = shown_->duration();
+    return shown;
+}
+
+void Plane::listChannels() {
+    HostKit::HostDescription& host = host_.description;
+    host.assigned.channels.clear();
+    for (std::size_t i = 0; i < curves_.size(); ++i)
+        if (host.channels.contains(idOf(i))) host.assigned.channels.emplace_back(idOf(i));
+    const bool any = !host.assigned.channels.empty() || !host.assigned.groups.empty();
+    if (any) setAxisDecimals(host, decimals_);
+}
+
+void Plane::refreshShownTurns() {
+    const auto followsCursor = [](const CurveRequest& curve) {
+        return curve.kind != CurveKind::Raw && isOfShownTurns(curve.kind);
+    };
+    if (std::none_of(curves_.begin(), curves_.end(), followsCursor)) return;
+    const TimeSpan stretch = stretchOf(span(), shown_->track);
+    if (stretch.from == stretch_.from && stretch.to == stretch_.to) return;
+    stretch_ = stretch;
+    for (std::size_t i = 0; i < curves_.size(); ++i)
+        if (followsCursor(curves_[i])) make(i);
+    listChannels();
+}
+
+void Plane::placeHost() {
+    const double rate = shown_->recording.sampleRate;
+    if (state_ == HostState::Acquiring) {
+        showAcquired(host_.description, rate, position_);
+    } else {
+        showStored(host_.description, rate, position_);
+    }
+}
+
+void Plane::showMoment(double seconds, HostState state) {
+    position_ = shown_->sampleAt(seconds);
+    state_ = state;
+    refreshShownTurns();
+    placeHost();
+}
+
+double Plane::time() const {
+    return static_cast<double>(position_) / shown_->recording.sampleRate;
+}
+
+ShownSpan Plane::span() const {
+    const Recording& recording = shown_->recording;
+    ShownSpan span;
+    span.byTurns = recording.hasTacho() && textOf(settings_, L"historyType", L"0") != L"1";
+    span.turns =
+        static_cast<int>(std::wcstol(textOf(settings_, L"revolutions", L"1").c_str(), nullptr, 10));
+    span.milliseconds = std::wcstod(textOf(settings_, L"displayTime", L"0").c_str(), nullptr);
+    span.time = time();
+    if (!recording.hasTacho()) return span;
+    if (span.byTurns) {
+        const TurnWindow window =
+            turnWindow(recording.angle, recording.sampleRate, position_, span.turns);
+        span.turnsThere = window.turns;
+        span.speed = window.speed;
+    } else {
+        span.speed = shown_->track.speedAt(span.time);
+    }
+    return span;
+}
+
+void Plane::load(const Settings& settings) {
+    control_->load(settings);
+    readBack();
+    refreshShownTurns();
+    placeHost();
+}
+
+bool Plane::readBack() {
+    Settings now = control_->save();
+    const bool changed = withoutFoundLimits(now) != withoutFoundLimits(settings_);
+    settings_ = std::move(now);
+    return changed;
+}
+
+std::vector<std::string> Plane::notes() const {
+    std::vector<std::string> notes = shown_->notes;
+    for (const auto& ofCurve : notesOfCurves_)
+        notes.insert(notes.end(), ofCurve.begin(), ofCurve.end());
+    return notes;
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,149 @@
+#pragma once
+
+#include "host_kit/control/driven_control.h"
+#include "host_kit/memory/memory_host.h"
+#include "workbench/bench/plane_source.h"
+#include "workbench/scene/curve_options.h"
+#include "workbench/scene/curve_request.h"
+#include "workbench/scene/shown_span.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Rotavue::Workbench {
+
+using Settings = HostKit::DrivenControl::Settings;
+
+/// What a plane begins with.
+struct PlaneSetup {
+    std::vector<CurveRequest> curves{CurveRequest{}};
+    std::optional<Settings> settings;  ///< unset: what suits the recording, `usualSettings`
+    CurveOptions options = {};
+};
+
+/// Whether the host of a plane is measuring or looks at stored data.
+enum class HostState : std::uint8_t { Stored, Acquiring };
+
+/// One bearing plane: a recording, the curves that are chosen of it, and the host with its one
+/// control that shows them. The control is reached through messages alone; `control()` sends them.
+///
+/// Operations that change something tell nobody. Whoever wants a change to be seen, undone and
+/// saved asks the `Bench` for it, which has an operation for each of them.
+class Plane {
+public:
+    /// Makes the control, assigns the curves and loads the settings. Raises `LoadError` or
+    /// `std::runtime_error` where the plug-in cannot be had.
+    Plane(PreparedPlane prepared, HostKit::Module& module, const PlaneSetup& setup, bool light);
+    Plane(const Plane&) = delete;
+    Plane& operator=(const Plane&) = delete;
+
+    // What is shown.
+
+    /// The recording as it was read.
+    const PlaneSource& original() const { return *original_; }
+
+    /// The recording that the control and all panels show: the original one, or what is left of it
+    /// when run-out is taken off.
+    const PlaneSource& shown() const { return *shown_; }
+    std::shared_ptr<const PlaneSource> sharedShown() const { return shown_; }
+
+    /// What was taken off, as the header of a picture says it; empty for the original recording.
+    const std::string& compensation() const { return compensation_; }
+
+    /// Shows another form of the same recording. It has the same number of samples and the same
+    /// bearing.
+    void showCompensated(PreparedPlane prepared, std::string words);
+    void showOriginal();
+
+    const std::string& name() const { return name_; }
+
+    // Curves.
+
+    const std::vector<CurveRequest>& curves() const { return curves_; }
+    void setCurves(std::vector<CurveRequest> curves);
+    const CurveOptions& curveOptions() const { return options_; }
+    void setCurveOptions(CurveOptions options);
+
+    /// The colour of a curve by its place in `curves`, in the host's encoding.
+    std::uint32_t colorOf(std::size_t curve) const;
+
+    /// The curves' colours suit a light or a dark background.
+    void setLight(bool light);
+
+    // Time.
+
+    /// Moves the cursor, s after the first sample. A time behind the last sample shows that one.
+    /// Curves of the shown turns are computed anew when other turns are shown. Costs no more than
+    /// the shown turns do, however long the recording is.
+    void showMoment(double seconds, HostState state);
+
+    std::size_t position() const { return position_; }  ///< number of the newest sample
+    double time() const;                                ///< of that sample, s after the first one
+    HostState state() const { return state_; }
+
+    /// What the settings make of the moment: turns or milliseconds, how many, the mean speed.
+    ShownSpan span() const;
+
+    // Settings.
+
+    /// What the control held when it was last asked, by setup key.
+    const Settings& settings() const { return settings_; }
+
+    /// Lets the control load them.
+    void load(const Settings& settings);
+
+    /// Asks the control what it holds now. True if that is something else than before, but for
+    /// limits that an automatic scale has found.
+    bool readBack();
+
+    // The control and its host.
+
+    HostKit::DrivenControl& control() { return *control_; }
+    HostKit::MemoryHost& host() { return host_; }
+
+    /// What a person should know of the recording and its curves, one line each; a curve that
+    /// cannot be had of this recording has a line that says why.
+    std::vector<std::string> notes() const;
+
+private:
+    void takeRaw(RawOrbit raw);
+    void assign();
+
+    /// Makes the curve of that place anew, or notes why it cannot be had.
+    void make(std::size_t curve);
+
+    void dropCurves();
+    void listChannels();
+    void recolor();
+    void refreshShownTurns();
+    void placeHost();
+    ShownSpan spanOf(CurveKind kind) const;
+    std::string nameOf(const CurveRequest& request) const;
+
+    std::shared_ptr<const PlaneSource> original_;
+    std::shared_ptr<const PlaneSource> shown_;
+    std::string compensation_;
+    std::string name_;
+    std::vector<CurveRequest> curves_;
+    std::size_t made_ = 0;  ///< curves that the host may have a channel of
+    CurveOptions options_;
+    bool light_;
+    std::int32_t decimals_;
+    std::size_t position_;
+    HostState state_ = HostState::Stored;
+    TimeSpan stretch_{0.0, 0.0};  ///< that the curves of the shown turns are made of
+    Settings settings_;
+    std::vector<std::vector<std::string>> notesOfCurves_;  ///< by place in `curves_`
+    HostKit::MemoryHost host_;
+    std::unique_ptr<HostKit::DrivenControl> control_;
+};
+
+/// The settings that a recording is first shown with: eight turns, or 100 ms without a keyphasor,
+/// and the clearance where it is known.
+Settings usualSettings(const PlaneSource& source);
+
+}  // namespace Rotavue::Workbench
