@@ -73,3 +73,11 @@ function(rotavue_test name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
 endfunction()
+
+# rotavue_signals(NAME a.h ...): what Qt generates for the classes with signals in these headers of the
+# current folder. The generator of Qt 6.4 loses its way in the standard library's concepts, which the
+# automatic way shows to it.
+function(rotavue_signals name)
+    qt_wrap_cpp(generated ${ARGN})
+    target_sources(${name} PRIVATE ${generated})
+endfunction()

@@ -13,7 +13,7 @@ Bench::Bench(std::shared_ptr<HostKit::Module> module, QObject* parent)
     : QObject(parent), module_(std::move(module)), scheme_(LightNumber), playback_(*this) {
     connect(&playback_, &Playback::playingChanged, this, [this] {
         placePlanes();
-        emit cursorMoved(cursor_);
+        Q_EMIT cursorMoved(cursor_);
     });
 }
 
@@ -28,6 +28,10 @@ std::size_t Bench::placeOf(const Plane& plane) const {
     return static_cast<std::size_t>(found - planes_.begin());
 }
 
+bool Bench::has(const Plane& plane) const {
+    return placeOf(plane) < planes_.size();
+}
+
 std::shared_ptr<Plane> Bench::shared(const Plane& plane) const {
     return planes_.at(placeOf(plane));
 }
@@ -38,14 +42,14 @@ void Bench::insert(std::size_t place, std::shared_ptr<Plane> plane) {
     planes_.insert(planes_.begin() + static_cast<std::ptrdiff_t>(place), std::move(plane));
     if (first) cursor_ = duration();
     planes_[place]->showMoment(cursor_, hostState());
-    emit planesChanged();
-    if (first) emit cursorMoved(cursor_);
+    Q_EMIT planesChanged();
+    if (first) Q_EMIT cursorMoved(cursor_);
 }
 
 void Bench::take(std::size_t place) {
     planes_.erase(planes_.begin() + static_cast<std::ptrdiff_t>(place));
     if (planes_.empty()) playback_.pause();
-    emit planesChanged();
+    Q_EMIT planesChanged();
     if (cursor_ > duration()) setCursor(duration());
 }
 
@@ -74,9 +78,9 @@ void Bench::change(Plane& plane, const QString& what, std::function<void(Plane&)
         return [this, kept, part] {
             part(*kept);
             kept->showMoment(cursor_, hostState());
-            emit curvesChanged(kept.get());
-            emit settingsChanged(kept.get());
-            emit notesChanged(kept.get());
+            Q_EMIT curvesChanged(kept.get());
+            Q_EMIT settingsChanged(kept.get());
+            Q_EMIT notesChanged(kept.get());
         };
     };
     undo_.push(new ChangeCommand(what, told(make), told(takeBack)));
@@ -131,7 +135,7 @@ void Bench::setSettings(Plane& plane, const Settings& settings, const QString& w
 
 void Bench::noticeSettings(Plane& plane, const QString& what) {
     const Settings before = plane.settings();
-    if (!plane.readBack()) return;
+    if (!has(plane) || !plane.readBack()) return;
     change(
         plane, what.isEmpty() ? tr("settings") : what,
         [now = plane.settings()](Plane& one) { one.load(now); },
@@ -160,7 +164,7 @@ void Bench::placePlanes() {
 void Bench::setCursor(double seconds) {
     cursor_ = std::clamp(seconds, 0.0, duration());
     placePlanes();
-    emit cursorMoved(cursor_);
+    Q_EMIT cursorMoved(cursor_);
 }
 
 void Bench::stepTurns(const Plane& plane, int turns) {
@@ -172,7 +176,7 @@ void Bench::setScheme(std::int32_t scheme) {
     scheme_ = scheme;
     for (const auto& plane : planes_)
         plane->setLight(scheme_ == LightNumber);
-    emit schemeChanged(scheme_);
+    Q_EMIT schemeChanged(scheme_);
 }
 
 }  // namespace Rotavue::Workbench

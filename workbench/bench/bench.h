@@ -37,6 +37,8 @@ public:
     /// In the order in which they are tiled.
     const std::vector<std::shared_ptr<Plane>>& planes() const { return planes_; }
 
+    bool has(const Plane& plane) const;
+
     /// Adds a plane at the end [undoable]. On an empty bench the cursor goes to the recording's
     /// end. Raises what `Plane` raises.
     Plane& addPlane(PreparedPlane prepared, const PlaneSetup& setup = {});
@@ -60,7 +62,7 @@ public:
 
     /// To be called after a message that may have made the control change its settings: a widget
     /// read, a limit edited, a strip clicked. What is different becomes a command [undoable];
-    /// without a difference nothing happens.
+    /// without a difference, or for a plane that is not on the bench, nothing happens.
     void noticeSettings(Plane& plane, const QString& what = {});
 
     // Time.
@@ -88,9 +90,9 @@ public:
 
     /// Tells the user of something that went wrong, one line; windows show it without standing in
     /// the way.
-    void report(const QString& line) { emit troubled(line); }
+    void report(const QString& line) { Q_EMIT troubled(line); }
 
-signals:
+Q_SIGNALS:
     void planesChanged();                ///< one came or went
     void cursorMoved(double seconds);    ///< while playing, too
     void curvesChanged(Plane* plane);    ///< curves, their options, or what is compensated

@@ -73,7 +73,8 @@ Plane::Plane(PreparedPlane prepared, HostKit::Module& module, const PlaneSetup& 
       position_(original_->recording.sampleCount() - 1) {
     takeRaw(std::move(prepared.raw));
     control_ = std::make_unique<HostKit::DrivenControl>(module, host_);
-    load(setup.settings.value_or(usualSettings(*original_)));
+    control_->load(setup.settings.value_or(usualSettings(*original_)));
+    readBack();
     assign();
 }
 

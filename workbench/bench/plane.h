@@ -21,7 +21,7 @@ using Settings = HostKit::DrivenControl::Settings;
 /// What a plane begins with.
 struct PlaneSetup {
     std::vector<CurveRequest> curves{CurveRequest{}};
-    std::optional<Settings> settings;  ///< unset: what suits the recording, `usualSettings`
+    std::optional<Settings> settings = {};  ///< unset: what suits the recording, `usualSettings`
     CurveOptions options = {};
 };
 

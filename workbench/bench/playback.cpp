@@ -32,26 +32,26 @@ void Playback::play() {
     timer_.start();
     clock_.start();
     if (bench_.cursor() >= bench_.duration()) bench_.setCursor(0.0);
-    emit playingChanged(true);
+    Q_EMIT playingChanged(true);
 }
 
 void Playback::pause() {
     if (!isPlaying()) return;
     timer_.stop();
-    emit playingChanged(false);
+    Q_EMIT playingChanged(false);
 }
 
 void Playback::setSpeed(double factor) {
     const double held = std::clamp(factor, LeastSpeed, LargestSpeed);
     if (held == speed_) return;
     speed_ = held;
-    emit speedChanged(speed_);
+    Q_EMIT speedChanged(speed_);
 }
 
 void Playback::setLoops(bool loops) {
     if (loops == loops_) return;
     loops_ = loops;
-    emit loopsChanged(loops_);
+    Q_EMIT loopsChanged(loops_);
 }
 
 void Playback::tick() {

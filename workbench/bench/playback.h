@@ -40,7 +40,7 @@ public:
     /// Frames that came later than a thirtieth of a second since playing began.
     int droppedFrames() const { return droppedFrames_; }
 
-signals:
+Q_SIGNALS:
     void playingChanged(bool playing);
     void speedChanged(double factor);
     void loopsChanged(bool loops);

@@ -23,16 +23,6 @@ constexpr int PlotMargin = 60;
 
 constexpr int LinesBeside = 3;
 
-/// Large enough to read, small enough for the room round the plot.
-int suitableTextHeight(int width, int height) {
-    const int side = std::min(width, height);
-    const int beside = (width - side) / 2 + PlotMargin;
-    int text = std::clamp(side / 45, LeastTextHeight, LargestTextHeight);
-    while (text > LeastTextHeight && LinesBeside * TextFace(text).lineHeight() > beside)
-        --text;
-    return text;
-}
-
 int textHeightOf(const PictureOrder& order) {
     return order.textHeight > 0 ? order.textHeight : suitableTextHeight(order.width, order.height);
 }
@@ -90,6 +80,15 @@ private:
 };
 
 }  // namespace
+
+int suitableTextHeight(int width, int height) {
+    const int side = std::min(width, height);
+    const int beside = (width - side) / 2 + PlotMargin;
+    int text = std::clamp(side / 45, LeastTextHeight, LargestTextHeight);
+    while (text > LeastTextHeight && LinesBeside * TextFace(text).lineHeight() > beside)
+        --text;
+    return text;
+}
 
 PictureArea PaintingStudio::areaOf(const PictureOrder& order, const PictureHeader& header) {
     const int textHeight = textHeightOf(order);

@@ -4,6 +4,10 @@
 
 namespace Rotavue::Workbench {
 
+/// The height of a control's texts in an area: large enough to read, small enough for the room
+/// round the plot. Pixels.
+int suitableTextHeight(int width, int height);
+
 /// The studio of a program that has a GUI application.
 class PaintingStudio final : public PictureStudio {
 public:
