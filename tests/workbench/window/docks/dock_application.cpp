@@ -21,7 +21,7 @@ public:
         application_.emplace(count_, arguments_);
         std::setlocale(LC_NUMERIC, "C");
         QApplication::setStyle("Fusion");
-        setTheme(Theme::Light);
+        setTheme(DockTheme::Light);
     }
     void TearDown() override { application_.reset(); }
 
@@ -38,23 +38,27 @@ QPalette darkPalette() {
     QPalette dark(QColor(0x35, 0x35, 0x35));
     dark.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
     dark.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        dark.setColor(QPalette::Disabled, role, QColor(0x90, 0x90, 0x90));
+    }
     return dark;
 }
 
 }  // namespace
 
-void setTheme(Theme theme) {
-    QApplication::setPalette(theme == Theme::Dark ? darkPalette()
-                                                  : QPalette(QColor(0xEF, 0xEF, 0xEF)));
+void setTheme(DockTheme theme) {
+    QApplication::setPalette(theme == DockTheme::Dark ? darkPalette()
+                                                      : QPalette(QColor(0xEF, 0xEF, 0xEF)));
 }
 
 void screenshot(QWidget& widget, const char* name) {
     const QDir folder(ROTAVUE_SCREENSHOTS_FOLDER);
     ASSERT_TRUE(folder.mkpath("."));
-    for (const Theme theme : {Theme::Dark, Theme::Light}) {
+    for (const DockTheme theme : {DockTheme::Dark, DockTheme::Light}) {
         setTheme(theme);
         QApplication::processEvents();
-        const char* const suffix = theme == Theme::Dark ? "-dark.png" : "-light.png";
+        const char* const suffix = theme == DockTheme::Dark ? "-dark.png" : "-light.png";
         EXPECT_TRUE(widget.grab().save(folder.filePath(QString(name) + suffix)));
     }
 }

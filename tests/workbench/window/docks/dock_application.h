@@ -4,10 +4,10 @@
 
 namespace Rotavue::Workbench {
 
-enum class Theme { Light, Dark };
+enum class DockTheme { Light, Dark };
 
 /// The whole program's palette.
-void setTheme(Theme theme);
+void setTheme(DockTheme theme);
 
 /// Keeps what the widget looks like in both themes, as build/screenshots/NAME-light.png and -dark;
 /// the light one is left.

@@ -3,12 +3,17 @@
 #include "host_kit/loader/module.h"
 #include "host_kit/memory/memory_host.h"
 #include "plugin/framework/message_codes.h"
-#include "workbench/window/docks/control_settings.h"
 #include "workbench/window/docks/property_panel.h"
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+
 namespace Rotavue::Workbench {
+
+/// What a control keeps, by key.
+using ControlSettings = std::map<std::wstring, std::wstring>;
 
 /// A control of the built module with a host in memory.
 class LoadedControl {

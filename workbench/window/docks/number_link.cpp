@@ -1,0 +1,64 @@
+#include "workbench/window/docks/number_link.h"
+
+#include "workbench/analysis/short_text.h"
+#include "workbench/bench/axis_limits.h"
+#include "workbench/scene/shown_span.h"
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+ShownTurns shownTurns(const Plane& plane) {
+    const auto source = plane.sharedShown();
+    return {.plane = QString::fromStdString(plane.name()),
+            .recording = {source, &source->recording},
+            .track = {source, &source->track},
+            .span = stretchOf(plane.span(), source->track)};
+}
+
+QString warning(const Plane& plane, const AxisLimits& limits) {
+    return NumberTable::tr("%1: x spans %2 and y %3, the orbit is out of shape")
+        .arg(QString::fromStdString(plane.name()),
+             QString::fromStdString(shortText(limits.xSpan())),
+             QString::fromStdString(shortText(limits.ySpan())));
+}
+
+}  // namespace
+
+NumberLink::NumberLink(Bench& bench, NumberTable& table, QObject* parent)
+    : QObject(parent), bench_(bench), table_(table) {
+    connect(&bench, &Bench::cursorMoved, this, &NumberLink::showTurns);
+    connect(&bench, &Bench::planesChanged, this, &NumberLink::showTurns);
+    connect(&bench, &Bench::curvesChanged, this, &NumberLink::showTurns);
+    connect(&bench, &Bench::settingsChanged, this, &NumberLink::showTurns);
+    // The control finds its limits while it draws; a table that is up to date comes behind that.
+    connect(&table, &NumberTable::computed, this, &NumberLink::showWarnings);
+    connect(&table, &NumberTable::equalSpansWanted, this, &NumberLink::makeEqual);
+    showTurns();
+}
+
+void NumberLink::showTurns() {
+    std::vector<ShownTurns> turns;
+    for (const auto& plane : bench_.planes())
+        turns.push_back(shownTurns(*plane));
+    table_.showTurns(std::move(turns));
+}
+
+void NumberLink::showWarnings() {
+    std::vector<QString> warnings;
+    for (const auto& plane : bench_.planes()) {
+        const AxisLimits limits = axisLimits(*plane);
+        if (!limits.areEqual()) warnings.push_back(warning(*plane, limits));
+    }
+    table_.showScaleWarnings(warnings);
+}
+
+void NumberLink::makeEqual() {
+    for (const auto& plane : bench_.planes()) {
+        if (axisLimits(*plane).areEqual()) continue;
+        bench_.setSettings(*plane, withEqualAxes(*plane), tr("one scale for both axes"));
+    }
+    showWarnings();
+}
+
+}  // namespace Rotavue::Workbench

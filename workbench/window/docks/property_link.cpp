@@ -1,0 +1,37 @@
+#include "workbench/window/docks/property_link.h"
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+PanelMessages messagesOf(HostKit::DrivenControl& control) {
+    return {.build = [&control](const auto& panel) { control.buildPanel(panel); },
+            .fill = [&control](const auto& panel) { control.fillPanel(panel); },
+            .read =
+                [&control](const auto& widget) {
+                    control.readWidget(widget->GetName(),
+                                       Host::Ref<Host::IHostObject>::share(widget.get()));
+                }};
+}
+
+}  // namespace
+
+PropertyLink::PropertyLink(Bench& bench, PropertyPanel& panel, QObject* parent)
+    : QObject(parent), bench_(bench), panel_(panel) {
+    connect(&panel, &PropertyPanel::changed, this, [this](const QString& caption) {
+        if (plane_ != nullptr) bench_.noticeSettings(*plane_, caption);
+    });
+    connect(&panel, &PropertyPanel::failed, &bench, &Bench::report);
+    connect(&bench, &Bench::settingsChanged, this, [this](const Plane* plane) {
+        if (plane == plane_) panel_.refresh();
+    });
+}
+
+void PropertyLink::setCurrent(Plane* plane) {
+    if (plane == plane_) return;
+    plane_ = plane;
+    if (plane_ == nullptr) return panel_.clear();
+    panel_.show(QString::fromStdString(plane_->name()), messagesOf(plane_->control()));
+}
+
+}  // namespace Rotavue::Workbench
