@@ -1,3 +1,4 @@
+#include "plugin/framework/host/host_error.h"
 #include "plugin/framework/plugin_interfaces.h"
 #include "plugin/module/windows/interfaces/com_ref.h"
 #include "plugin/module/windows/interfaces/platform_guid.h"
@@ -13,6 +14,7 @@ namespace {
 namespace Api = Meridax::VisualControls::Api;
 using Meridax::Host::Binary::ComRef;
 using Meridax::Host::Binary::platformGuid;
+using Meridax::Host::Binary::queried;
 
 const CLSID PluginClass = platformGuid(Api::PluginClass);
 
@@ -22,6 +24,12 @@ protected:
         void* found = nullptr;
         module.classObject(PluginClass, IID_IClassFactory, &found);
         return ComRef<IClassFactory>::adopt(static_cast<IClassFactory*>(found));
+    }
+
+    ComRef<IUnknown> object() const {
+        void* made = nullptr;
+        factory()->CreateInstance(nullptr, IID_IUnknown, &made);
+        return ComRef<IUnknown>::adopt(static_cast<IUnknown*>(made));
     }
 
     LoadedModule module;
@@ -50,10 +58,8 @@ TEST_F(ClassObject, KeepsTheModuleLoadedWhileItIsHeld) {
 
 TEST_F(ClassObject, MakesAnObjectThatKeepsTheModuleLoaded) {
     {
-        ComRef<IUnknown> object;
-        ASSERT_EQ(factory()->CreateInstance(nullptr, IID_IUnknown,
-                                            reinterpret_cast<void**>(object.put())),
-                  S_OK);
+        const auto held = object();
+        ASSERT_TRUE(held);
         EXPECT_EQ(module.canUnloadNow(), S_FALSE);
     }
     EXPECT_EQ(module.canUnloadNow(), S_OK);
@@ -64,6 +70,45 @@ TEST_F(ClassObject, AnswersAnotherInterfaceThanItsObjectsOffer) {
     EXPECT_EQ(factory()->CreateInstance(nullptr, IID_IClassFactory, &found), E_NOINTERFACE);
     EXPECT_EQ(found, nullptr);
     EXPECT_EQ(module.canUnloadNow(), S_OK);
+}
+
+TEST_F(ClassObject, ObjectTellsItsTypeFromTheLibraryInTheModule) {
+    const auto held = object();
+    const auto dispatch = queried<IDispatch>(held.get(), IID_IDispatch);
+    ComRef<ITypeInfo> type;
+    ASSERT_EQ(dispatch->GetTypeInfo(0, LOCALE_NEUTRAL, type.put()), S_OK);
+    TYPEATTR* attributes = nullptr;
+    ASSERT_EQ(type->GetTypeAttr(&attributes), S_OK);
+    EXPECT_EQ(attributes->guid, platformGuid(Api::IVCPluginImpl::Identifier));
+    type->ReleaseTypeAttr(attributes);
+}
+
+TEST_F(ClassObject, ObjectHasNoOperationThatCouldBeCalledByName) {
+    const auto held = object();
+    const auto dispatch = queried<IDispatch>(held.get(), IID_IDispatch);
+    std::wstring name = L"draw";
+    LPOLESTR names[] = {name.data()};
+    DISPID id = 0;
+    EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, names, 1, LOCALE_NEUTRAL, &id), DISP_E_UNKNOWNNAME);
+    DISPPARAMS none{};
+    EXPECT_LT(dispatch->Invoke(1, IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &none, nullptr,
+                               nullptr, nullptr),
+              0);
+}
+
+// The module and this program each have their own copy of the language's library.
+TEST_F(ClassObject, FailureThatIsThrownCrossesIntoTheProgram) {
+    const auto held = object();
+    const auto plugin = queried<Api::Binary::IMeridaxPlugin>(
+        held.get(), platformGuid(Api::IMeridaxPlugin::Identifier));
+    try {
+        plugin->message(42, VARIANT{}, nullptr);
+        FAIL() << "a null list passed";
+    } catch (const Meridax::Host::HostError& failure) {
+        EXPECT_EQ(failure.status, 0x80070057U);
+        EXPECT_EQ(failure.interfaceId, Meridax::Host::Guid{});
+    }
+    EXPECT_EQ(plugin->message(7, VARIANT{}, nullptr), 1);
 }
 
 }  // namespace

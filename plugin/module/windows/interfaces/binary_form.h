@@ -95,6 +95,7 @@ requires requires {
 struct ArgumentForm<Interface&> {
     using Type = IDispatch*;
     static constexpr std::string_view Text = Table<Interface>::Text;
+    static constexpr std::string_view Stars = "*";
 };
 
 /// A result of that type of an interface's class.
@@ -154,13 +155,14 @@ template <class Interface>
 struct ResultForm<Ref<Interface>> {
     using Types = OutPointers<IDispatch**>;
     static constexpr std::string_view Text = Table<Interface>::Text;
+    static constexpr std::string_view Stars = "**";
 };
 
 /// An object that is asked for the interface that is wanted.
 template <>
 struct ResultForm<Ref<IHostObject>> {
     using Types = OutPointers<IUnknown**>;
-    static constexpr std::string_view Text = "IUnknown";
+    static constexpr std::string_view Text = "IUnknown**";
 };
 
 static_assert(sizeof(DataPosition) == 2 * sizeof(LONG) && sizeof(UnusedVersionItem) == 16);
