@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "workbench/recording/input_file.h"
@@ -48,6 +50,17 @@ std::optional<Value> valueFrom(const Json& json, const WordItem<Value>& item) {
     return valueOf(item.words, json.get_ref<const std::string&>());
 }
 
+// What stands in a machine file for the value of an item.
+template <typename Item, typename Value>
+Json jsonOf(const Item&, const Value& value) {
+    return value;
+}
+
+template <typename Value>
+Json jsonOf(const WordItem<Value>& item, Value value) {
+    return wordFor(item.words, value);
+}
+
 // The names that may stand in the object at `parent`, which is "" or such as "/x".
 std::vector<std::string> memberNames(const std::string& parent) {
     std::vector<std::string> names;
@@ -60,7 +73,7 @@ std::vector<std::string> memberNames(const std::string& parent) {
     return names;
 }
 
-const OptionItem* itemAt(const std::string& pointer) {
+const OptionItem* findItem(const std::string& pointer) {
     const auto items = optionItems();
     const auto found = std::find_if(items.begin(), items.end(), [&](const OptionItem& item) {
         return item.pointer == pointer;
@@ -76,7 +89,8 @@ std::string shownValue(const Json& value) {
 
 class MachineReader {
 public:
-    explicit MachineReader(const std::filesystem::path& file) : file_(file) {}
+    MachineReader(const std::filesystem::path& file, std::string text)
+        : file_(file), text_(std::move(text)) {}
 
     RecordingOptions read() {
         takeObject(parse(), Pointer());
@@ -93,6 +107,7 @@ private:
     [[noreturn]] void refuseUnknown(const Pointer& pointer) const;
 
     std::filesystem::path file_;
+    std::string text_;
     RecordingOptions options_;
 };
 
@@ -105,14 +120,13 @@ FilePlace placeOf(const std::filesystem::path& file, std::string_view text, std:
 }
 
 Json MachineReader::parse() const {
-    const std::string text = readSmallFile(file_, LargestFile);
     try {
-        return Json::parse(text);
+        return Json::parse(text_);
     } catch (const Json::parse_error& error) {
         const std::size_t byte = error.byte > 0 ? error.byte - 1 : 0;
         const std::string found =
-            byte < text.size() ? inQuotes(text.substr(byte, 1)) : "the end of the file";
-        throw RecordingError(placeOf(file_, text, byte), found, "a JSON object");
+            byte < text_.size() ? inQuotes(text_.substr(byte, 1)) : "the end of the file";
+        throw RecordingError(placeOf(file_, text_, byte), found, "a JSON object");
     } catch (const Json::exception&) {
         throw RecordingError({file_}, "a number beyond all bounds", "a JSON object");
     }
@@ -126,7 +140,7 @@ void MachineReader::takeObject(const Json& object, const Pointer& pointer) {
 
 void MachineReader::takeMember(const Json& value, const Pointer& pointer) {
     const std::string text = pointer.to_string();
-    if (const OptionItem* item = itemAt(text)) return takeItem(value, *item);
+    if (const OptionItem* item = findItem(text)) return takeItem(value, *item);
     if (memberNames(text).empty()) refuseUnknown(pointer);
     takeObject(value, pointer);
 }
@@ -163,7 +177,24 @@ std::filesystem::path machineFileOf(const std::filesystem::path& recording) {
 }
 
 RecordingOptions readMachineFile(const std::filesystem::path& file) {
-    return MachineReader(file).read();
+    return readMachineText(file, readSmallFile(file, LargestFile));
+}
+
+RecordingOptions readMachineText(const std::filesystem::path& file, const std::string& text) {
+    return MachineReader(file, text).read();
+}
+
+std::string machineText(const RecordingOptions& options) {
+    RecordingOptions source = options;
+    Json json = Json::object();
+    for (const OptionItem& item : optionItems()) {
+        const auto put = [&](const auto& kind) {
+            const auto& value = kind.field(source);
+            if (value) json[Pointer(std::string(item.pointer))] = jsonOf(kind, *value);
+        };
+        std::visit(put, item.kind);
+    }
+    return json.dump(4, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 
 }  // namespace Rotavue::Workbench

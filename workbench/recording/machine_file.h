@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "workbench/recording/recording_options.h"
 
@@ -31,5 +32,11 @@ std::filesystem::path machineFileOf(const std::filesystem::path& recording);
 /// JSON (with line and column), or holds an unknown member, a wrong type or a value out of range
 /// (with the JSON pointer of the member). `machineFile` of the result stays unset.
 RecordingOptions readMachineFile(const std::filesystem::path& file);
+
+/// The same from a text; `file` is what its errors name.
+RecordingOptions readMachineText(const std::filesystem::path& file, const std::string& text);
+
+/// The text of a machine file that tells what is set in the options, but for `machineFile`.
+std::string machineText(const RecordingOptions& options);
 
 }  // namespace Rotavue::Workbench

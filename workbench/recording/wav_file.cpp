@@ -175,6 +175,19 @@ std::vector<std::vector<double>> WavFile::read(std::span<const WantedColumn> wan
     return columns;
 }
 
+std::vector<std::vector<double>> WavFile::firstFrames(std::size_t most) {
+    const std::size_t channelCount = handle_->channelCount();
+    std::vector<double> block(BlockLength * channelCount);
+    handle_->rewind();
+    const std::size_t count = std::min(most, handle_->readBlock(block));
+    std::vector<std::vector<double>> frames(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto begin = block.begin() + static_cast<std::ptrdiff_t>(i * channelCount);
+        frames[i].assign(begin, begin + static_cast<std::ptrdiff_t>(channelCount));
+    }
+    return frames;
+}
+
 void WavFile::checkCount(std::size_t frames) const {
     if (frames <= MaxSampleCount) return;
     throw RecordingError({file_}, "more samples", "at most " + std::to_string(MaxSampleCount));

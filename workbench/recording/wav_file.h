@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <memory>
+#include <vector>
 
 #include "workbench/recording/sample_source.h"
 
@@ -28,6 +29,9 @@ public:
     const SourceHead& head() const override { return head_; }
     std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted,
                                           const ReadingProgress& progress) override;
+
+    /// The first frames, at most so many, each with a value for each channel.
+    std::vector<std::vector<double>> firstFrames(std::size_t most);
 
 private:
     class Handle;

@@ -1,0 +1,72 @@
+#include "workbench/files/background_task.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <thread>
+
+#include "tests/workbench/recording/scratch_folder.h"
+#include "workbench/recording/recording.h"
+
+namespace Rotavue::Workbench {
+namespace {
+
+// Goes on until it is cancelled.
+int endless(const ReadingWatch& watch) {
+    while (watch(0.5))
+        std::this_thread::yield();
+    throw ReadingCancelled();
+}
+
+void waitFor(const BackgroundTask<int>& task) {
+    while (!task.isDone())
+        std::this_thread::yield();
+}
+
+TEST(BackgroundTaskTest, GivesItsResult) {
+    BackgroundTask<int> task([](const ReadingWatch& watch) { return watch(1.0) ? 42 : 0; });
+    waitFor(task);
+    EXPECT_EQ(task.part(), 1.0);
+    EXPECT_EQ(task.take(), 42);
+}
+
+TEST(BackgroundTaskTest, GivesTheErrorInPlaceOfAResult) {
+    BackgroundTask<int> task([](const ReadingWatch&) -> int { throw std::runtime_error("no"); });
+    EXPECT_THROW(task.take(), std::runtime_error);
+}
+
+TEST(BackgroundTaskTest, TellsHowFarItIsAndEndsWhenCancelled) {
+    BackgroundTask<int> task(endless);
+    while (task.part() < 0.5)
+        std::this_thread::yield();
+    EXPECT_FALSE(task.isDone());
+    task.cancel();
+    EXPECT_TRUE(task.isCancelled());
+    EXPECT_THROW(task.take(), ReadingCancelled);
+}
+
+TEST(BackgroundTaskTest, EndsWithTheOneWhoDropsIt) {
+    BackgroundTask<int> task(endless);
+}
+
+class BackgroundReading : public ScratchFolder {};
+
+TEST_F(BackgroundReading, ReadsATableWhileItIsWatched) {
+    std::string text = "t,x,y\n";
+    for (int i = 0; i < 120'000; ++i)
+        text += std::to_string(i) + ",1.5,2.5\n";
+    const auto file = write("f.csv", text);
+    BackgroundTask<Recording> task(
+        [&](const ReadingWatch& watch) { return readRecording(file, {}, watch); });
+    double last = 0.0;
+    while (!task.isDone()) {
+        const double part = task.part();
+        ASSERT_GE(part, last);
+        last = part;
+    }
+    EXPECT_EQ(task.take().x, std::vector<double>(120'000, 1.5));
+}
+
+}  // namespace
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,242 @@
+#include "workbench/files/file_actions.h"
+
+#include <QAction>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QUrl>
+
+#include <algorithm>
+#include <exception>
+
+namespace Rotavue::Workbench {
+namespace {
+
+const QString ViewSuffix = QStringLiteral(".rotavue");
+
+std::filesystem::path pathOf(const QString& file) {
+    return std::filesystem::path(file.toStdString());
+}
+
+QString textOf(const std::filesystem::path& file) {
+    return QString::fromStdString(file.string());
+}
+
+QStringList localFiles(const QMimeData& dropped) {
+    QStringList files;
+    for (const QUrl& url : dropped.urls())
+        if (url.isLocalFile()) files.append(url.toLocalFile());
+    return files;
+}
+
+}  // namespace
+
+FileActions::FileActions(Bench& bench, QMainWindow& window, QMenu& menu, QSettings& settings)
+    : QObject(&window),
+      bench_(bench),
+      window_(window),
+      recent_(settings),
+      opener_(settings, &window),
+      recentMenu_(new QMenu(tr("Open &recent"), &menu)),
+      messages_(new MessageBar(&window)),
+      loading_(new LoadingBar(opener_.loader(), &window)) {
+    setObjectName(QStringLiteral("files"));
+    makeMenu(menu);
+    window.setAcceptDrops(true);
+    window.installEventFilter(this);
+    connect(&opener_, &RecordingOpener::failed, this, &FileActions::tell);
+    connect(&bench, &Bench::troubled, this, &FileActions::tell);
+    connect(&loader(), &RecordingLoader::loaded, this, &FileActions::takeLoaded);
+    connect(&loader(), &RecordingLoader::failed, this,
+            [this](const LoadRequest& request) { dropPendingView(request); });
+    connect(&loader(), &RecordingLoader::cancelled, this,
+            [this](const LoadRequest& request) { dropPendingView(request); });
+}
+
+void FileActions::makeMenu(QMenu& menu) {
+    recentMenu_->setObjectName(QStringLiteral("recentMenu"));
+    recentMenu_->setToolTipsVisible(true);
+    connect(recentMenu_, &QMenu::aboutToShow, this, &FileActions::fillRecent);
+    QAction* const before = menu.actions().value(0);
+    menu.insertAction(before, makeAction(QStringLiteral("open"), tr("&Open..."), QKeySequence::Open,
+                                         &FileActions::askForFiles));
+    menu.insertMenu(before, recentMenu_);
+    menu.insertSeparator(before);
+    menu.insertAction(before, makeAction(QStringLiteral("saveView"), tr("&Save view"),
+                                         QKeySequence::Save, &FileActions::save));
+    menu.insertAction(before, makeAction(QStringLiteral("saveViewAs"), tr("Save view &as..."),
+                                         QKeySequence::SaveAs, &FileActions::saveAs));
+}
+
+QAction* FileActions::makeAction(const QString& name, const QString& text, const QKeySequence& key,
+                                 void (FileActions::*slot)()) {
+    auto* action = new QAction(text, this);
+    action->setObjectName(name);
+    action->setShortcut(key);
+    connect(action, &QAction::triggered, this, slot);
+    return action;
+}
+
+// Files that are gone stay in the list, greyed: a disk may come back.
+void FileActions::fillRecent() {
+    recentMenu_->clear();
+    int number = 0;
+    for (const QString& file : recent_.files()) {
+        const QFileInfo info(file);
+        const QString name = info.fileName().replace(u'&', QStringLiteral("&&"));
+        QAction* action = recentMenu_->addAction(
+            QStringLiteral("&%1  %2").arg(QString::number(++number % 10), name));
+        action->setToolTip(file);
+        action->setEnabled(info.exists());
+        connect(action, &QAction::triggered, this, [this, file] { open({file}); });
+    }
+    if (number > 0) recentMenu_->addSeparator();
+    QAction* clear = recentMenu_->addAction(tr("&Clear this list"));
+    clear->setEnabled(number > 0);
+    connect(clear, &QAction::triggered, this, [this] { recent_.clear(); });
+}
+
+void FileActions::setViewFile(const QString& file) {
+    viewFile_ = QFileInfo(file).absoluteFilePath();
+    recent_.add(viewFile_);
+    Q_EMIT viewFileChanged(viewFile_);
+}
+
+void FileActions::askForFiles() {
+    const QString filter =
+        tr("Recordings and views (*.csv *.txt *.tsv *.wav *.rotavue);;All files (*)");
+    open(QFileDialog::getOpenFileNames(&window_, tr("Open"), recent_.folder(), filter));
+}
+
+void FileActions::open(const QStringList& files, const RecordingOptions& options) {
+    QString view;
+    for (const QString& file : files) {
+        if (isViewName(pathOf(file))) {
+            view = file;
+        } else {
+            opener_.open(pathOf(file), options);
+        }
+    }
+    if (!view.isEmpty()) openView(view);
+}
+
+void FileActions::openView(const QString& file) {
+    if (pending_) return tell(tr("%1: another view is being opened").arg(file));
+    try {
+        PendingView pending{file, readView(pathOf(file)), {}};
+        if (!mayLoseChanges()) return;
+        pending_ = std::move(pending);
+    } catch (const std::exception& error) {
+        return tell(QString::fromUtf8(error.what()));
+    }
+    const std::vector<ViewPlane> planes = pending_->view.planes;
+    if (planes.empty()) return showPendingView();
+    for (std::size_t i = 0; i < planes.size(); ++i)
+        loader().load({planes[i].recording, planes[i].options, true});
+}
+
+void FileActions::takeLoaded(const LoadRequest& request, PreparedPlane& plane) {
+    if (!request.isOfView) return addRecording(request, plane);
+    if (!pending_) return;
+    pending_->planes.push_back(std::move(plane));
+    if (pending_->planes.size() == pending_->view.planes.size()) showPendingView();
+}
+
+// Without one of its recordings a view is not shown, and what was shown stays.
+void FileActions::dropPendingView(const LoadRequest& request) {
+    if (!request.isOfView || !pending_) return;
+    pending_.reset();
+    loader().cancel();
+}
+
+void FileActions::showPendingView() {
+    PendingView pending = std::move(*pending_);
+    pending_.reset();
+    try {
+        showView(bench_, pending.view, std::move(pending.planes), keeper_);
+    } catch (const std::exception& error) {
+        tell(QString::fromUtf8(error.what()));
+    }
+    setViewFile(pending.file);
+}
+
+// To have opened a recording is nothing that could be lost.
+void FileActions::addRecording(const LoadRequest& request, PreparedPlane& plane) {
+    const bool fresh = viewFile_.isEmpty() && bench_.undoStack().isClean();
+    try {
+        PlaneSetup setup{.settings = first_};
+        setup.options.reference = request.options;
+        bench_.addPlane(std::move(plane), setup);
+    } catch (const std::exception& error) {
+        return tell(QString::fromUtf8(error.what()));
+    }
+    if (fresh) bench_.undoStack().setClean();
+    recent_.add(textOf(request.file));
+}
+
+void FileActions::save() {
+    saveOrAsk();
+}
+
+bool FileActions::saveOrAsk() {
+    if (!viewFile_.isEmpty()) return saveTo(viewFile_);
+    saveAs();
+    return bench_.undoStack().isClean();
+}
+
+void FileActions::saveAs() {
+    const QString start = viewFile_.isEmpty() ? recent_.folder() : viewFile_;
+    QString file =
+        QFileDialog::getSaveFileName(&window_, tr("Save view as"), start, tr("Views (*.rotavue)"));
+    if (file.isEmpty()) return;
+    // A name that the dialog hasn't seen may be that of another file.
+    const bool named = file.endsWith(ViewSuffix);
+    if (!named) file += ViewSuffix;
+    if (!named && QFileInfo::exists(file))
+        return tell(tr("%1: found a file of this name, allowed: a new one").arg(file));
+    saveTo(file);
+}
+
+bool FileActions::saveTo(const QString& file) {
+    try {
+        writeView(pathOf(file), viewOf(bench_, keeper_));
+    } catch (const std::exception& error) {
+        tell(QString::fromUtf8(error.what()));
+        return false;
+    }
+    setViewFile(file);
+    bench_.undoStack().setClean();
+    return true;
+}
+
+bool FileActions::mayLoseChanges() {
+    if (bench_.undoStack().isClean()) return true;
+    QMessageBox question(QMessageBox::Question, tr("Unsaved changes"),
+                         tr("Save the changes of this view?"),
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window_);
+    question.setObjectName(QStringLiteral("saveQuestion"));
+    const int answer = question.exec();
+    if (answer == QMessageBox::Save) return saveOrAsk();
+    return answer == QMessageBox::Discard;
+}
+
+bool FileActions::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::DragEnter) {
+        auto* drag = static_cast<QDropEvent*>(event);
+        if (!localFiles(*drag->mimeData()).isEmpty()) drag->acceptProposedAction();
+        return true;
+    }
+    if (event->type() == QEvent::Drop) {
+        auto* drop = static_cast<QDropEvent*>(event);
+        drop->acceptProposedAction();
+        open(localFiles(*drop->mimeData()));
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace Rotavue::Workbench

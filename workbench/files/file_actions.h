@@ -1,0 +1,104 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <filesystem>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "workbench/bench/bench.h"
+#include "workbench/files/loading_bar.h"
+#include "workbench/files/message_bar.h"
+#include "workbench/files/recent_files.h"
+#include "workbench/files/recording_opener.h"
+#include "workbench/files/view_keeper.h"
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QSettings;
+
+namespace Rotavue::Workbench {
+
+/// The files of a window: its File menu, what is dropped on it, and the question before changes are
+/// lost. Recordings are added to what the bench shows; a view takes its place.
+class FileActions : public QObject {
+    Q_OBJECT
+
+public:
+    /// Puts its actions before those that the menu has, and watches the window for drops. Bench and
+    /// settings must outlive this; the window is its parent.
+    FileActions(Bench& bench, QMainWindow& window, QMenu& menu, QSettings& settings);
+
+    /// To be put into the window, where there is room for them.
+    MessageBar& messages() { return *messages_; }
+    LoadingBar& loading() { return *loading_; }
+
+    /// Opens recordings, and the last view among the files.
+    void open(const QStringList& files, const RecordingOptions& options = {});
+
+    /// What controls begin with; unset: what suits the recording.
+    void setFirstSettings(std::optional<Settings> settings) { first_ = std::move(settings); }
+
+    void setCompensationKeeper(CompensationKeeper keeper) { keeper_ = std::move(keeper); }
+
+    /// The view's file; empty for a view that has none yet.
+    const QString& viewFile() const { return viewFile_; }
+
+    /// Saves the view. False, having told why, if that fails.
+    bool saveTo(const QString& file);
+
+    /// Asks whether changes shall be saved, if there are any. False where the user wants to stay.
+    bool mayLoseChanges();
+
+    RecordingLoader& loader() { return opener_.loader(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void viewFileChanged(const QString& file);
+
+private:
+    void makeMenu(QMenu& menu);
+    QAction* makeAction(const QString& name, const QString& text, const QKeySequence& key,
+                        void (FileActions::*slot)());
+    void fillRecent();
+    void setViewFile(const QString& file);
+
+    void askForFiles();
+    void save();
+    void saveAs();
+    bool saveOrAsk();
+
+    void openView(const QString& file);
+    void takeLoaded(const LoadRequest& request, PreparedPlane& plane);
+    void dropPendingView(const LoadRequest& request);
+    void showPendingView();
+    void addRecording(const LoadRequest& request, PreparedPlane& plane);
+    void tell(const QString& line) { messages_->tell(line); }
+
+    // A view is shown only once all of its recordings are there.
+    struct PendingView {
+        QString file;
+        View view;
+        std::vector<PreparedPlane> planes;
+    };
+
+    Bench& bench_;
+    QMainWindow& window_;
+    RecentFiles recent_;
+    RecordingOpener opener_;
+    CompensationKeeper keeper_;
+    QString viewFile_;
+    std::optional<PendingView> pending_;
+    std::optional<Settings> first_;
+    QMenu* recentMenu_;
+    MessageBar* messages_;
+    LoadingBar* loading_;
+};
+
+}  // namespace Rotavue::Workbench

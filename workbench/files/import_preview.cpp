@@ -1,0 +1,95 @@
+#include "workbench/files/import_preview.h"
+
+#include <algorithm>
+
+#include "workbench/recording/column_roles.h"
+#include "workbench/recording/fields.h"
+#include "workbench/recording/line_reader.h"
+#include "workbench/recording/option_items.h"
+#include "workbench/recording/table_layout.h"
+#include "workbench/recording/wav_file.h"
+
+namespace Rotavue::Workbench {
+namespace {
+
+using Rows = std::vector<std::vector<std::string>>;
+
+bool hasRole(const ImportPreview& preview, ColumnRole role) {
+    return std::any_of(preview.columns.begin(), preview.columns.end(),
+                       [&](const RecordingColumn& column) { return column.role == role; });
+}
+
+// The columns as their names, and what is known of them, tell; without roles where that isn't
+// enough.
+std::vector<RecordingColumn> guessedColumns(const std::filesystem::path& file,
+                                            const SourceHead& head,
+                                            const RecordingOptions& options) {
+    try {
+        return assignRoles(file, head, options);
+    } catch (const RecordingError&) {
+        return head.columns;
+    }
+}
+
+std::string shapeOf(const SourceHead& head, const std::string& kind) {
+    std::string shape = kind + ' ' + std::to_string(head.columns.size());
+    for (const RecordingColumn& column : head.columns) {
+        if (head.namesGiven) shape += '|' + column.name + '[' + column.unit + ']';
+    }
+    return shape;
+}
+
+ImportPreview previewOf(const std::filesystem::path& file, const SourceHead& head,
+                        const RecordingOptions& options) {
+    ImportPreview preview;
+    preview.file = file;
+    preview.columns = guessedColumns(file, head, options);
+    preview.rate = options.rate ? options.rate : head.rate;
+    preview.unit = head.unit;
+    const bool rolesTold = head.namesGiven || (options.x.column && options.y.column);
+    preview.isSure = rolesTold && hasRole(preview, ColumnRole::X) &&
+                     hasRole(preview, ColumnRole::Y) &&
+                     (preview.rate || hasRole(preview, ColumnRole::Time));
+    return preview;
+}
+
+Rows rowsOf(const std::filesystem::path& file, const TableLayout& layout) {
+    Rows rows;
+    LineReader reader(file);
+    while (rows.size() < ImportRowCount && reader.next()) {
+        if (reader.number() < layout.firstDataLine || trimmed(reader.line()).empty()) continue;
+        const auto fields = fieldsOf(reader.line(), layout.delimiter);
+        rows.emplace_back(fields.begin(), fields.end());
+        rows.back().resize(layout.columnCount);
+    }
+    return rows;
+}
+
+Rows rowsOf(WavFile& wav) {
+    Rows rows;
+    for (const std::vector<double>& frame : wav.firstFrames(ImportRowCount)) {
+        rows.emplace_back();
+        for (const double value : frame)
+            rows.back().push_back(numberText(value));
+    }
+    return rows;
+}
+
+}  // namespace
+
+ImportPreview previewImport(const std::filesystem::path& file, const RecordingOptions& options) {
+    if (isWavFile(file) || file.extension() == ".wav") {
+        WavFile wav(file);
+        ImportPreview preview = previewOf(file, wav.head(), options);
+        preview.shape = shapeOf(wav.head(), "wav " + numberText(wav.head().rate.value_or(0.0)));
+        preview.rows = rowsOf(wav);
+        return preview;
+    }
+    const TableLayout layout = findTableLayout(file);
+    ImportPreview preview = previewOf(file, layout.head, options);
+    preview.shape = shapeOf(layout.head, std::string("table ") + layout.delimiter);
+    preview.rows = rowsOf(file, layout);
+    return preview;
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,88 @@
+#include "workbench/files/recording_loader.h"
+
+#include <exception>
+#include <utility>
+
+namespace Rotavue::Workbench {
+namespace {
+
+constexpr int LookInterval = 10;     // ms; what is loaded shows so much later at the most
+constexpr qint64 TellInterval = 50;  // ms
+
+// How much of all is done when the file is read; the rest makes it ready for a control.
+constexpr double PartOfReading = 0.7;
+
+PreparedPlane load(const LoadRequest& request, const ReadingWatch& watch) {
+    const ReadingProgress progress(watch);
+    Recording recording = readRecording(request.file, request.options,
+                                        [&](double part) { return watch(part * PartOfReading); });
+    PreparedPlane plane = preparePlane(std::move(recording), request.options);
+    progress.reach(1.0);
+    return plane;
+}
+
+}  // namespace
+
+RecordingLoader::RecordingLoader(QObject* parent) : QObject(parent) {
+    timer_.setInterval(LookInterval);
+    connect(&timer_, &QTimer::timeout, this, &RecordingLoader::look);
+}
+
+RecordingLoader::~RecordingLoader() = default;
+
+void RecordingLoader::load(LoadRequest request) {
+    waiting_.push_back(std::move(request));
+    if (!timer_.isActive()) beginNext();
+}
+
+void RecordingLoader::cancel() {
+    if (task_) task_->cancel();
+    for (std::deque<LoadRequest> dropped = std::exchange(waiting_, {}); !dropped.empty();
+         dropped.pop_front())
+        Q_EMIT cancelled(dropped.front());
+}
+
+// The timer runs for as long as there is something to load.
+void RecordingLoader::beginNext() {
+    current_ = std::move(waiting_.front());
+    waiting_.pop_front();
+    task_ = std::make_unique<Task>([request = current_](const ReadingWatch& watch) {
+        return Workbench::load(request, watch);
+    });
+    clock_.start();
+    lastTold_ = 0;
+    timer_.start();
+}
+
+void RecordingLoader::look() {
+    if (task_->isDone()) {
+        finish();
+        if (!waiting_.empty()) return beginNext();
+        timer_.stop();
+        Q_EMIT idle();
+    } else if (clock_.elapsed() - lastTold_ >= TellInterval) {
+        lastTold_ = clock_.elapsed();
+        Q_EMIT progressed(current_, task_->part(), lastTold_);
+    }
+}
+
+// What was cancelled too late is dropped all the same.
+void RecordingLoader::finish() {
+    const std::unique_ptr<Task> task = std::move(task_);
+    const LoadRequest request = std::move(current_);
+    try {
+        PreparedPlane plane = task->take();
+        if (task->isCancelled()) throw ReadingCancelled();
+        Q_EMIT loaded(request, plane);
+    } catch (const ReadingCancelled&) {
+        Q_EMIT cancelled(request);
+    } catch (const std::bad_alloc&) {
+        Q_EMIT failed(request, QString::fromStdString(request.file.string()) +
+                                   QStringLiteral(": found more than fits into memory, allowed: a "
+                                                  "shorter recording"));
+    } catch (const std::exception& error) {
+        Q_EMIT failed(request, QString::fromUtf8(error.what()));
+    }
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <deque>
+#include <filesystem>
+#include <memory>
+
+#include "workbench/bench/plane_source.h"
+#include "workbench/files/background_task.h"
+
+namespace Rotavue::Workbench {
+
+/// A recording that shall be loaded.
+struct LoadRequest {
+    std::filesystem::path file;
+    RecordingOptions options = {};
+    bool isOfView = false;  ///< wanted for a view, which is shown as a whole
+};
+
+/// Loads recordings on a thread of its own, one after the other in the order in which they were
+/// asked for. All signals come on the thread that the loader lives on.
+class RecordingLoader : public QObject {
+    Q_OBJECT
+
+public:
+    explicit RecordingLoader(QObject* parent = nullptr);
+
+    /// Cancels what is being loaded and waits for that, a moment at the most.
+    ~RecordingLoader() override;
+
+    void load(LoadRequest request);
+
+    /// Cancels the recording that is being loaded and all that wait behind it; each has its signal.
+    void cancel();
+
+    bool isLoading() const { return task_ != nullptr || !waiting_.empty(); }
+
+Q_SIGNALS:
+    /// About twenty times a second while a recording is being loaded: how much of it is done, 0 to
+    /// 1, and for how long it has been loaded, in ms.
+    void progressed(const Rotavue::Workbench::LoadRequest& request, double part, qint64 elapsed);
+
+    /// Each recording ends with one of these. Whoever wants the plane moves it out.
+    void loaded(const Rotavue::Workbench::LoadRequest& request,
+                Rotavue::Workbench::PreparedPlane& plane);
+    void failed(const Rotavue::Workbench::LoadRequest& request, const QString& line);
+    void cancelled(const Rotavue::Workbench::LoadRequest& request);
+
+    /// After the last of them.
+    void idle();
+
+private:
+    using Task = BackgroundTask<PreparedPlane>;
+
+    void beginNext();
+    void look();
+    void finish();
+
+    std::deque<LoadRequest> waiting_;
+    LoadRequest current_;
+    std::unique_ptr<Task> task_;
+    QTimer timer_;
+    QElapsedTimer clock_;
+    qint64 lastTold_ = 0;
+};
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include <deque>
+
+#include "workbench/files/import_memory.h"
+#include "workbench/files/import_preview.h"
+#include "workbench/files/recording_loader.h"
+
+class QSettings;
+class QWidget;
+
+namespace Rotavue::Workbench {
+
+class ImportDialog;
+
+/// Opens recordings: finds out what they hold, asks where that isn't sure, and loads them in the
+/// order in which they were named. It doesn't ask where a machine file lies beside the recording,
+/// where names tell all, or where it has been told for this shape to go on without.
+class RecordingOpener : public QObject {
+    Q_OBJECT
+
+public:
+    /// `window` is the parent of what asks; the settings must outlive this.
+    RecordingOpener(QSettings& settings, QWidget* window);
+
+    /// `options` are what is known of the recording beyond its machine file.
+    void open(const std::filesystem::path& file, const RecordingOptions& options = {});
+
+    RecordingLoader& loader() { return loader_; }
+
+Q_SIGNALS:
+    /// The recording cannot be opened, or what was told of it cannot be kept: one line.
+    void failed(const QString& line);
+
+    /// Nobody answered what the recording holds.
+    void declined(const std::filesystem::path& file);
+
+private:
+    void takeNext();
+    /// False where a person has to be asked.
+    bool takeKnown(const LoadRequest& request, const ImportPreview& preview);
+    void ask(const LoadRequest& request, const ImportPreview& preview);
+    void takeAnswer(const ImportPreview& preview, const ImportDialog& dialog);
+    void keepBeside(const std::filesystem::path& file, const RecordingOptions& options);
+
+    ImportMemory memory_;
+    QWidget* window_;
+    RecordingLoader loader_;
+    std::deque<LoadRequest> waiting_;
+    QPointer<ImportDialog> dialog_;
+};
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "workbench/analysis/time_span.h"
+#include "workbench/recording/recording_options.h"
+#include "workbench/scene/curve_options.h"
+#include "workbench/scene/curve_request.h"
+
+namespace Rotavue::Workbench {
+
+/// What is taken off a plane's recording.
+struct ViewCompensation {
+    std::string form;                               ///< "vector" or "waveform"
+    TimeSpan span;                                  ///< of slow roll
+    std::optional<std::filesystem::path> slowRoll;  ///< its recording; unset: the plane's own
+};
+
+/// One plane of a view.
+struct ViewPlane {
+    std::filesystem::path recording;
+    RecordingOptions options;  ///< beyond its machine file
+    std::vector<CurveRequest> curves;
+    CurveOptions curveOptions;                 ///< `reference` is not kept: it follows `options`
+    std::map<std::string, std::string> setup;  ///< the control's settings as it saved them
+    std::optional<ViewCompensation> compensation;
+};
+
+/// What a window shows: enough to show it again. docs/workbench.md tells the file member by member.
+struct View {
+    std::vector<ViewPlane> planes;
+    double cursor = 0.0;  ///< s after the first sample
+};
+
+/// Reads a view. Recordings and references in it are found from the file's own folder. Throws
+/// RecordingError if the file cannot be read, is larger than 4 MiB, is no JSON or holds anything
+/// that no view holds; the recordings themselves are not looked at.
+View readView(const std::filesystem::path& file);
+
+/// Writes a view, beside and renamed: a full disk or a crash leaves the old one whole. Throws
+/// RecordingError if that fails.
+void writeView(const std::filesystem::path& file, const View& view);
+
+/// Whether the name is one of a view: it ends with .rotavue.
+bool isViewName(const std::filesystem::path& file);
+
+}  // namespace Rotavue::Workbench
