@@ -74,11 +74,14 @@ TEST(IncludeOrder, HasNoCycleBetweenFiles) {
 /// the node layer's exception, which reaches the host, the registry file, which a host reads, and
 /// the binary form of the interfaces.
 bool isShared(const std::string& header) {
-    static const std::set<std::string> Shared{
-        "plugin/framework/guid_text.h",           "plugin/framework/message_arguments.h",
-        "plugin/framework/plugin_interfaces.h",   "plugin/framework/unicode.h",
-        "plugin/module/portable/registry_file.h", "plugin/module/windows/platform_headers.h",
-        "plugin/setup_document/xml_exception.h"};
+    static const std::set<std::string> Shared{"plugin/framework/guid_text.h",
+                                              "plugin/framework/message_arguments.h",
+                                              "plugin/framework/message_codes.h",
+                                              "plugin/framework/plugin_interfaces.h",
+                                              "plugin/framework/unicode.h",
+                                              "plugin/module/portable/registry_file.h",
+                                              "plugin/module/windows/platform_headers.h",
+                                              "plugin/setup_document/xml_exception.h"};
     return header.starts_with("plugin/framework/host/") ||
            header.starts_with("plugin/module/windows/interfaces/") || Shared.contains(header);
 }

@@ -75,9 +75,8 @@ void writeInterface(std::ostream& page) {
 std::string hostInterfacesPage() {
     std::ostringstream page;
     page << Head;
-    forEachInterface([&]<class Interface>(std::type_identity<Interface>) {
-        writeInterface<Interface>(page);
-    });
+    forEachInterface(
+        [&]<class Interface>(std::type_identity<Interface>) { writeInterface<Interface>(page); });
     return page.str();
 }
 

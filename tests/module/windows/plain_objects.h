@@ -39,8 +39,26 @@ typedef struct Seen {
 
 extern Seen seen;
 
-/* Fills all tables. */
+/* Fills all tables, one file's objects after the other's. The operation at place p stands in slot
+ * 6 + p. */
 void makeObjects(void);
+void makeData(void);
+void makeChannel(void);
+void makeCanvas(void);
+void makeDocument(void);
+
+/* Begins a table: the common operations, and in every other slot one that is counted. */
+void begin(Object* object, const wchar_t* name, const wchar_t* identifier);
+
+/* Results of operations. */
+HRESULT give(Object* object, void** out);
+HRESULT giveLong(LONG value, LONG* out);
+HRESULT giveText(const wchar_t* text, BSTR* out);
+
+/* Operations that several interfaces share. */
+HRESULT STDMETHODCALLTYPE giveNone(Object* self, LONG* out);
+HRESULT STDMETHODCALLTYPE giveOne(Object* self, LONG* out);
+HRESULT STDMETHODCALLTYPE getRate(Object* self, double* out);
 
 /* References to objects of the host that somebody else holds. */
 LONG referencesHeld(void);

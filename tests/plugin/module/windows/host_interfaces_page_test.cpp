@@ -18,9 +18,10 @@ TEST(HostInterfacesPage, IsCurrent) {
 TEST(HostInterfacesPage, TellsWhatCrossesInASlot) {
     const std::string page = hostInterfacesPage();
     // Place 7, so slot 13; true is -1 in this one operation.
-    EXPECT_NE(page.find("| 7 | 13 | `requestData` | LONGLONG, LONGLONG, LONG, VARIANT_BOOL (true is "
-                        "-1), IHostChannelList* | |\n"),
-              std::string::npos);
+    EXPECT_NE(
+        page.find("| 7 | 13 | `requestData` | LONGLONG, LONGLONG, LONG, VARIANT_BOOL (true is "
+                  "-1), IHostChannelList* | |\n"),
+        std::string::npos);
     EXPECT_NE(page.find("| 1 | 7 | `GetChecked` | | SHORT* |\n"), std::string::npos);
     EXPECT_NE(page.find("| 4 | 10 | `FindControl` | BSTR | IUnknown** |\n"), std::string::npos);
 }
