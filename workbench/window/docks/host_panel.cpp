@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QScrollArea>
@@ -33,6 +34,23 @@ template <class Interface, class Object>
 Ref<Interface> asInterface(const Ref<Object>& object) {
     return Ref<Interface>::share(object.get());
 }
+
+/// Keeps the wheel, which scrolls the page, from changing a setting that the pointer happens to
+/// pass: an editor takes it once it has the focus.
+class WheelGuard final : public QObject {
+public:
+    explicit WheelGuard(QWidget& editor) : QObject(&editor) {
+        editor.setFocusPolicy(Qt::StrongFocus);
+        editor.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::Wheel) return false;
+        if (static_cast<QWidget*>(watched)->hasFocus()) return false;
+        event->ignore();
+        return true;
+    }
+};
 
 /// The place of the page of that name, or behind the last one.
 int tabOf(const QTabWidget& tabs, const QString& name) {
@@ -84,6 +102,7 @@ Ref<Widget> HostPage::enter(const std::wstring& name, const std::wstring& captio
     if (const auto old = widgets_.find(name); old != widgets_.end()) old->second.row.remove();
     editor.setObjectName(QString::fromStdWString(name));
     editor.setAccessibleName(QString::fromStdWString(caption));
+    new WheelGuard(editor);
     auto* object = static_cast<Host::IHostPropertyControl*>(widget.get());
     widgets_.insert_or_assign(name, Entry{Ref<Host::IHostObject>::share(object), row});
     return widget;

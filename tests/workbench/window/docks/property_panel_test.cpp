@@ -4,6 +4,7 @@
 #include "tests/workbench/window/docks/loaded_control.h"
 #include "workbench/window/docks/color_button.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -12,6 +13,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -157,6 +159,23 @@ TEST_F(PropertyPanelTest, ShowsANumberOutsideItsLimitsAsItStands) {
     QTest::keyClick(&revolutions, Qt::Key_Down);
     EXPECT_EQ(revolutions.value(), 25);  // the greatest that the panel offers
     EXPECT_EQ(changes.back().after[L"revolutions"], L"25");
+}
+
+TEST_F(PropertyPanelTest, WheelChangesOnlyWhatHasTheFocus) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    auto& ticks = editor<QSpinBox>("TickCount");
+    const auto turnWheel = [&ticks] {
+        const QPoint place = ticks.rect().center();
+        QWheelEvent event(place, ticks.mapToGlobal(place), {}, {0, 120}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&ticks, &event);
+    };
+    editor<QCheckBox>("SingleAxis").setFocus();
+    turnWheel();
+    EXPECT_EQ(ticks.value(), 5);
+    ticks.setFocus();
+    turnWheel();
+    EXPECT_EQ(ticks.value(), 6);
 }
 
 TEST_F(PropertyPanelTest, UndoneStepIsLoadedAndShown) {

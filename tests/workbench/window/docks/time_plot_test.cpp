@@ -203,7 +203,8 @@ TEST_F(TimePlotTest, DotsStandOnTheTraceWhereTheyHaveRoom) {
         const LaneMapping mapping = plot.mapping(lane);
         const QPoint place(static_cast<int>(mapping.xOf(time)),
                            static_cast<int>(mapping.yOf(value)));
-        return plot.grab().toImage().pixel(place) == dot;
+        const QImage image = plot.grab().toImage();
+        return image.pixel(place * static_cast<int>(image.devicePixelRatio())) == dot;
     };
     EXPECT_FALSE(dotAt(5.0, 0, 30.0));  // 200 dots in 570 pixels
     plot.setCursor(5.02);
