@@ -179,15 +179,21 @@ void ChannelTree::makeActions() {
 }
 
 void ChannelTree::setPlanes(std::vector<TreePlane> planes) {
-    const bool same = planes.size() == planes_.size() &&
-                      std::equal(planes.begin(), planes.end(), planes_.begin(),
-                                 [](const auto& a, const auto& b) { return a.file == b.file; });
+    std::vector<Curves> offered;
+    for (const TreePlane& plane : planes)
+        offered.push_back(takeOffered(plane.file));
     planes_ = std::move(planes);
-    if (!same) offered_.assign(planes_.size(), {UsualCurves.begin(), UsualCurves.end()});
+    offered_ = std::move(offered);
     for (std::size_t i = 0; i < planes_.size(); ++i)
         for (const TreeCurve& curve : planes_[i].shown)
             offer(i, curve.request);
     rebuild();
+}
+
+ChannelTree::Curves ChannelTree::takeOffered(const QString& file) {
+    for (std::size_t i = 0; i < planes_.size(); ++i)
+        if (planes_[i].file == file && !offered_[i].empty()) return std::exchange(offered_[i], {});
+    return {UsualCurves.begin(), UsualCurves.end()};
 }
 
 void ChannelTree::offer(std::size_t plane, CurveRequest request) {

@@ -77,6 +77,7 @@ private:
     void buildRows();
     void addPlane(std::size_t plane);
     void addCurve(QTreeWidgetItem& parent, std::size_t plane, std::size_t curve);
+    Curves takeOffered(const QString& file);
     void offer(std::size_t plane, CurveRequest request);
     void add(std::size_t plane, const CurveRequest& request);
     void want(std::size_t plane, const CurveRequest& request, bool shown);

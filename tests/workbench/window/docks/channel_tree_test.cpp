@@ -137,6 +137,18 @@ TEST_F(ChannelTreeTest, ReferenceIsShownUntilItIsRemoved) {
     EXPECT_THROW(row(0, "reference slow-roll"), std::logic_error);
 }
 
+TEST_F(ChannelTreeTest, RowsStayWithTheirPlaneWhenOthersComeAndGo) {
+    tree.addReference(1, "/data/slow-roll.json");
+    press(1, "reference slow-roll", Qt::Key_Space);  // hidden, but known
+    planes.erase(planes.begin());
+    tree.setPlanes(planes);
+    EXPECT_EQ(row(0, "reference slow-roll").checkState(0), Qt::Unchecked);
+    planes.push_back({.name = "Bearing 3", .file = "c.csv", .shown = {}});
+    tree.setPlanes(planes);
+    EXPECT_EQ(row(0, "reference slow-roll").checkState(0), Qt::Unchecked);
+    EXPECT_THROW(row(1, "reference slow-roll"), std::logic_error);
+}
+
 TEST_F(ChannelTreeTest, UsualCurveIsHiddenAndNotRemoved) {
     press(0, "raw", Qt::Key_Delete);
     ASSERT_EQ(wanted.size(), 1U);
