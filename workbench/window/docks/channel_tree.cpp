@@ -76,8 +76,8 @@ QString obstacle(const TreePlane& plane, CurveKind kind) {
 }
 
 QString kindText(CurveKind kind) {
-    constexpr std::array Kinds{"raw",       "average",     "harmonic", "sub-synchronous",
-                               "reference", "shaft centre"};
+    constexpr std::array Kinds{"raw",      "average",   "harmonic",
+                               "sub-sync", "reference", "shaft centre"};
     return ChannelTree::tr(Kinds[static_cast<std::size_t>(kind)]);
 }
 
@@ -118,6 +118,7 @@ QTreeWidget* channelTree() {
     tree->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     tree->setContextMenuPolicy(Qt::ActionsContextMenu);
     tree->setUniformRowHeights(true);
+    tree->setIndentation(tree->fontMetrics().height());
     return tree;
 }
 

@@ -57,6 +57,8 @@ public:
     /// Adds a stored orbit, a .json file or a recording, to a plane and shows it.
     void addReference(std::size_t plane, const QString& file);
 
+    QSize sizeHint() const override { return {240, 280}; }
+
 Q_SIGNALS:
     /// The user wants a plane to show these curves from now on.
     void curvesWanted(std::size_t plane,

@@ -1,5 +1,7 @@
 #include "workbench/window/docks/number_model.h"
 
+#include <QSize>
+
 #include <utility>
 
 namespace Rotavue::Workbench {
@@ -27,6 +29,8 @@ QVariant NumberModel::data(const QModelIndex& index, int role) const {
     const bool whole = isWholeOrbit(index.row(), index.column());
     if (role == Qt::DisplayRole) return row.cells[static_cast<std::size_t>(index.column())];
     if (role == Qt::ToolTipRole) return row.help;
+    // Two columns wide, it has no say in the width of one.
+    if (role == Qt::SizeHintRole && whole) return QSize(1, 1);
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignVCenter | (whole ? Qt::AlignHCenter : Qt::AlignRight));
     return {};

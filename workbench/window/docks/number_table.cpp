@@ -20,6 +20,8 @@ namespace Rotavue::Workbench {
 
 namespace {
 
+constexpr int RowRoom = 4;  ///< above and below a row's text, together
+
 QStringList listOf(const std::vector<QString>& lines) {
     return {lines.begin(), lines.end()};
 }
@@ -48,9 +50,10 @@ QTableView* tableOf(QAbstractItemModel& model) {
     view->setAlternatingRowColors(true);
     view->setWordWrap(false);
     view->setTabKeyNavigation(false);
-    view->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + RowRoom);
     view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    view->horizontalHeader()->setMinimumSectionSize(view->fontMetrics().averageCharWidth() * 12);
+    view->horizontalHeader()->setMinimumSectionSize(view->fontMetrics().averageCharWidth() * 11);
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
     return view;
 }

@@ -38,6 +38,8 @@ public:
 
     const NumberModel& model() const { return model_; }
 
+    QSize sizeHint() const override { return {330, 400}; }
+
     static constexpr int LeastInterval = 100;  ///< ms from one computation to the next
 
 Q_SIGNALS:

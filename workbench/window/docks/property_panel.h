@@ -45,6 +45,8 @@ public:
     /// Fills the widgets anew: the settings have changed elsewhere, by an edit in place or by undo.
     void refresh();
 
+    QSize sizeHint() const override { return {260, 380}; }
+
 Q_SIGNALS:
     /// The control has taken a change of the widget with that caption, and its settings may be
     /// others than before.

@@ -1,10 +1,13 @@
 #include "workbench/window/docks/time_lanes.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace Rotavue::Workbench {
 
 namespace {
+
+constexpr double Gap = std::numeric_limits<double>::quiet_NaN();
 
 PlotLane probeLane(const std::shared_ptr<const PlaneSource>& source, LaneColor color) {
     const Recording& recording = source->recording;
@@ -16,15 +19,16 @@ PlotLane probeLane(const std::shared_ptr<const PlaneSource>& source, LaneColor c
                                                    recording.sampleRate, source)};
 }
 
-/// A few values for each pixel of a wide screen, and no more than the shaft makes turns in each.
+/// A few values for each pixel of a wide screen; a gap where no turn is seen.
 PlotLane speedLane(const PlaneSource& source) {
     constexpr std::size_t Values = 4000;
     const double duration = source.recording.duration();
     const std::size_t count = std::clamp<std::size_t>(source.recording.sampleCount(), 2, Values);
     const double rate = static_cast<double>(count - 1) / duration;
-    const auto speeds = std::make_shared<std::vector<double>>(count);
+    const auto speeds = std::make_shared<std::vector<double>>(count, Gap);
     for (std::size_t i = 0; i < count; ++i)
-        (*speeds)[i] = source.track.speedAt(static_cast<double>(i) / rate);
+        if (const double speed = source.track.speedAt(static_cast<double>(i) / rate); speed > 0.0)
+            (*speeds)[i] = speed;
     return {.name = QStringLiteral("Speed"),
             .unit = QStringLiteral("rpm"),
             .color = LaneColor::Neutral,

@@ -80,7 +80,7 @@ TEST_F(ChannelTreeTest, ShowsThePlanesWithTheirChannelsAndKinds) {
     EXPECT_EQ(view.topLevelItem(0)->text(0), "Bearing 1");
     EXPECT_EQ(row(0, "raw").checkState(0), Qt::Checked);
     EXPECT_EQ(row(0, "1X").checkState(0), Qt::Unchecked);
-    EXPECT_EQ(row(0, "below 1X").text(1), "sub-synchronous");
+    EXPECT_EQ(row(0, "below 1X").text(1), "sub-sync");
     EXPECT_EQ(row(0, "keyphasor").text(1), "tacho");
     EXPECT_EQ(row(1, "keyphasor").text(1), "none");
     EXPECT_TRUE(wanted.empty());

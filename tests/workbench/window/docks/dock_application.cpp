@@ -8,6 +8,7 @@
 
 #include <clocale>
 #include <optional>
+#include <string>
 
 namespace Rotavue::Workbench {
 
@@ -52,15 +53,18 @@ void setTheme(DockTheme theme) {
                                                       : QPalette(QColor(0xEF, 0xEF, 0xEF)));
 }
 
-void screenshot(QWidget& widget, const char* name) {
+void shoot(QWidget& widget, const char* name) {
     const QDir folder(ROTAVUE_SCREENSHOTS_FOLDER);
     ASSERT_TRUE(folder.mkpath("."));
-    for (const DockTheme theme : {DockTheme::Dark, DockTheme::Light}) {
-        setTheme(theme);
-        QApplication::processEvents();
-        const char* const suffix = theme == DockTheme::Dark ? "-dark.png" : "-light.png";
-        EXPECT_TRUE(widget.grab().save(folder.filePath(QString(name) + suffix)));
-    }
+    QApplication::processEvents();
+    EXPECT_TRUE(widget.grab().save(folder.filePath(QString(name) + ".png")));
+}
+
+void screenshot(QWidget& widget, const char* name) {
+    setTheme(DockTheme::Dark);
+    shoot(widget, (std::string(name) + "-dark").c_str());
+    setTheme(DockTheme::Light);
+    shoot(widget, (std::string(name) + "-light").c_str());
 }
 
 }  // namespace Rotavue::Workbench
