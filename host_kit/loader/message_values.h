@@ -50,6 +50,9 @@ public:
 
     std::unique_ptr<Api::ArgumentList> copy() const override;
 
+    const std::vector<MessageValue>& values() const { return values_; }
+    std::int32_t lowerBound() const { return lowerBound_; }
+
 private:
     std::vector<MessageValue> values_;
     std::int32_t lowerBound_ = 0;

@@ -12,16 +12,26 @@
 
 namespace Rotavue::HostKit {
 
-/// The module file to load: the one that is named, else the registered one, else `Rotavue64.vc`
-/// beside the program. Raises `LoadError` for a registry that cannot be read.
-std::filesystem::path chooseModule(const std::optional<std::filesystem::path>& named);
+/// Which module to load.
+struct ModuleChoice {
+    ModuleChoice(std::filesystem::path moduleFile, bool isRegistered = false)
+        : file(std::move(moduleFile)), registered(isRegistered) {}
+
+    std::filesystem::path file;
+    bool registered;  ///< the registry names it: it is found the way a host finds it
+};
+
+/// The module to load: the file that is named, else the registered one, else `Rotavue64.vc` beside
+/// the program. Raises `LoadError` for a registry that cannot be read.
+ModuleChoice chooseModule(const std::optional<std::filesystem::path>& named);
 
 /// The loaded plug-in. It is unloaded when this object ends, unless something of it is still held;
 /// then it stays in the process.
 class Module {
 public:
-    /// Loads the file and asks for the class factory. Raises `LoadError`.
-    explicit Module(const std::filesystem::path& file);
+    /// Loads the module and asks for the class of its controls. Raises `LoadError`.
+    explicit Module(const ModuleChoice& choice);
+    explicit Module(const std::filesystem::path& file) : Module(ModuleChoice(file)) {}
     ~Module();
     Module(const Module&) = delete;
     Module& operator=(const Module&) = delete;
@@ -34,13 +44,9 @@ public:
     void supplyClipboard(Api::IHostClipboard* clipboard);
 
 private:
-    template <class Function>
-    Function* entryPoint(const char* name) const;
+    class Loaded;  ///< by the platform's means
 
-    std::filesystem::path file_;
-    std::unique_ptr<SharedLibrary> library_;
-    Api::EntryPoint::CanUnloadNowFunction* canUnloadNow_ = nullptr;
-    Host::Ref<Api::IClassFactory> factory_;
+    std::unique_ptr<Loaded> loaded_;
 };
 
 }  // namespace Rotavue::HostKit

@@ -56,35 +56,35 @@ protected:
 
 TEST_F(RegisteredModule, IsTheOneThatTheAnnouncementLeadsTo) {
     write("machine", announcement() + classKey("/opt/machine.vc"));
-    EXPECT_EQ(chooseModule(std::nullopt), "/opt/machine.vc");
+    EXPECT_EQ(chooseModule(std::nullopt).file, "/opt/machine.vc");
 }
 
 TEST_F(RegisteredModule, MayLieInAFolderOfAnyName) {
     write("machine", announcement() + classKey("/opt/M\u00E4dchen \u4E2D/machine.vc"));
-    EXPECT_EQ(chooseModule(std::nullopt), "/opt/M\u00E4dchen \u4E2D/machine.vc");
+    EXPECT_EQ(chooseModule(std::nullopt).file, "/opt/M\u00E4dchen \u4E2D/machine.vc");
 }
 
 TEST_F(RegisteredModule, OfTheUserComesBeforeThatOfTheMachine) {
     write("machine", announcement() + classKey("/opt/machine.vc"));
     write("user", announcement() + classKey("/home/user.vc"));
-    EXPECT_EQ(chooseModule(std::nullopt), "/home/user.vc");
+    EXPECT_EQ(chooseModule(std::nullopt).file, "/home/user.vc");
 }
 
 TEST_F(RegisteredModule, MayHaveItsTwoKeysInDifferentHalves) {
     write("machine", announcement());
     write("user", classKey("/home/user.vc"));
-    EXPECT_EQ(chooseModule(std::nullopt), "/home/user.vc");
+    EXPECT_EQ(chooseModule(std::nullopt).file, "/home/user.vc");
 }
 
 TEST_F(RegisteredModule, GivesWayToOneThatIsNamed) {
     write("user", announcement() + classKey("/home/user.vc"));
-    EXPECT_EQ(chooseModule(fs::path("named.vc")), "named.vc");
+    EXPECT_EQ(chooseModule(fs::path("named.vc")).file, "named.vc");
 }
 
 TEST_F(RegisteredModule, IsTheOneBesideTheProgramWhereNoneIsAnnounced) {
-    EXPECT_EQ(chooseModule(std::nullopt), programFolder() / "Rotavue64.vc");
+    EXPECT_EQ(chooseModule(std::nullopt).file, programFolder() / "Rotavue64.vc");
     write("user", classKey("/home/left_behind.vc"));
-    EXPECT_EQ(chooseModule(std::nullopt), programFolder() / "Rotavue64.vc");
+    EXPECT_EQ(chooseModule(std::nullopt).file, programFolder() / "Rotavue64.vc");
 }
 
 TEST_F(RegisteredModule, MustHaveAFile) {

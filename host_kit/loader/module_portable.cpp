@@ -2,13 +2,12 @@
 
 #include "host_kit/memory/call.h"
 
+#include <cstdint>
 #include <string>
 
 namespace Rotavue::HostKit {
 
 namespace {
-
-constexpr const char* ModuleFileName = "Rotavue64.vc";
 
 std::string failure(const char* what, std::int32_t status) {
     return std::string(what) + " (status " + statusText(static_cast<std::uint32_t>(status)) + ")";
@@ -16,13 +15,32 @@ std::string failure(const char* what, std::int32_t status) {
 
 }  // namespace
 
-std::filesystem::path chooseModule(const std::optional<std::filesystem::path>& named) {
-    if (named) return *named;
-    if (const auto registered = registeredModule()) return *registered;
-    return programFolder() / ModuleFileName;
-}
+class Module::Loaded {
+public:
+    explicit Loaded(const std::filesystem::path& file);
+    ~Loaded();
+    Loaded(const Loaded&) = delete;
+    Loaded& operator=(const Loaded&) = delete;
 
-Module::Module(const std::filesystem::path& file)
+    Api::IClassFactory& factory() { return *factory_; }
+
+    void supplyClipboard(Api::IHostClipboard* clipboard) {
+        if (const auto services = factory_.offered<Api::IModuleServices>()) {
+            services->supplyClipboard(clipboard);
+        }
+    }
+
+private:
+    template <class Function>
+    Function* entryPoint(const char* name) const;
+
+    std::filesystem::path file_;
+    std::unique_ptr<SharedLibrary> library_;
+    Api::EntryPoint::CanUnloadNowFunction* canUnloadNow_ = nullptr;
+    Host::Ref<Api::IClassFactory> factory_;
+};
+
+Module::Loaded::Loaded(const std::filesystem::path& file)
     : file_(file),
       library_(SharedLibrary::load(file)),
       canUnloadNow_(
@@ -36,13 +54,13 @@ Module::Module(const std::filesystem::path& file)
     if (!factory_) throw LoadError(failure("the module gives no class factory", status));
 }
 
-Module::~Module() {
+Module::Loaded::~Loaded() {
     factory_ = nullptr;
     if (canUnloadNow_() != 0) library_->keepLoaded();
 }
 
 template <class Function>
-Function* Module::entryPoint(const char* name) const {
+Function* Module::Loaded::entryPoint(const char* name) const {
     void* address = library_->find(name);
     if (address == nullptr) {
         throw LoadError(file_.string() + " is no module of a control: it exports no " + name);
@@ -50,18 +68,20 @@ Function* Module::entryPoint(const char* name) const {
     return reinterpret_cast<Function*>(address);
 }
 
+Module::Module(const ModuleChoice& choice) : loaded_(std::make_unique<Loaded>(choice.file)) {}
+
+Module::~Module() = default;
+
 Host::Ref<Api::IMeridaxPlugin> Module::makeControl() {
     void* control = nullptr;
     const std::int32_t status =
-        factory_->createInstance(nullptr, Api::IMeridaxPlugin::Identifier, &control);
+        loaded_->factory().createInstance(nullptr, Api::IMeridaxPlugin::Identifier, &control);
     if (control == nullptr) throw LoadError(failure("the module makes no control", status));
     return Host::Ref<Api::IMeridaxPlugin>::adopt(static_cast<Api::IMeridaxPlugin*>(control));
 }
 
 void Module::supplyClipboard(Api::IHostClipboard* clipboard) {
-    if (const auto services = factory_.offered<Api::IModuleServices>()) {
-        services->supplyClipboard(clipboard);
-    }
+    loaded_->supplyClipboard(clipboard);
 }
 
 }  // namespace Rotavue::HostKit
