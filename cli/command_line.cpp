@@ -1,13 +1,6 @@
 #include "cli/command_line.h"
 
-#include "cli/analyze_command.h"
-#include "cli/copy_command.h"
 #include "cli/help_formatter.h"
-#include "cli/info_command.h"
-#include "cli/play_command.h"
-#include "cli/register_command.h"
-#include "cli/render_command.h"
-#include "cli/setup_command.h"
 #include "workbench/recording/nearest_name.h"
 #include "workbench/recording/recording_error.h"
 
@@ -20,16 +13,6 @@ namespace Rotavue::Cli {
 
 namespace {
 
-constexpr const char* Help =
-    "Orbit plots of rotating shafts\n\n"
-    "Examples:\n"
-    "  rotavue render unbalance.csv -o unbalance.png\n"
-    "  rotavue info unbalance.csv\n"
-    "  rotavue analyze unbalance.csv\n"
-    "  rotavue register --user\n"
-    "  rotavue play raw-orbit.json\n\n"
-    "Exit status: 0 done, 1 failed, 2 wrong use (play also: 3 no plug-in).\n";
-
 std::string withNearest(const std::string& what, const std::string& found,
                         const std::vector<std::string>& names) {
     return what + Workbench::inQuotes(found) + ", did you mean " +
@@ -38,19 +21,13 @@ std::string withNearest(const std::string& what, const std::string& found,
 
 }  // namespace
 
-CommandLine::CommandLine() : app_(Help, "rotavue") {
+CommandLine::CommandLine(Program program) : app_(program.help, "rotavue") {
     app_.formatter(std::make_shared<HelpFormatter>());
     app_.set_version_flag("--version", std::string("rotavue ") + ROTAVUE_VERSION);
     app_.require_subcommand(0, 1);
     app_.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-    add(std::make_unique<RenderCommand>());
-    add(std::make_unique<InfoCommand>());
-    add(std::make_unique<AnalyzeCommand>());
-    add(std::make_unique<CopyCommand>());
-    add(std::make_unique<SetupCommand>());
-    add(std::make_unique<PlayCommand>());
-    add(std::make_unique<RegisterCommand>());
-    add(std::make_unique<UnregisterCommand>());
+    for (std::unique_ptr<Command>& command : program.commands)
+        add(std::move(command));
 }
 
 void CommandLine::add(std::unique_ptr<Command> command) {

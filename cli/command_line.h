@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/command.h"
+#include "cli/program.h"
 
 #include <CLI/App.hpp>
 
@@ -14,7 +14,7 @@ namespace Rotavue::Cli {
 /// The program: its sub-commands, its help, its exit status.
 class CommandLine {
 public:
-    CommandLine();
+    explicit CommandLine(Program program);
 
     /// Runs what the arguments ask for. Data goes to standard output, one line for each error to
     /// standard error.

@@ -1,15 +1,9 @@
 #include "cli/play_command.h"
 
-#include "cli/output_file.h"
-#include "cli/picture_name.h"
-#include "cli/studio_library.h"
 #include "host_kit/session/play.h"
-#include "workbench/scene/scheme_colors.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <iostream>
-#include <memory>
 
 namespace Rotavue::Cli {
 
@@ -19,8 +13,11 @@ constexpr const char* Help =
     "Play a session on the loaded plug-in\n\n"
     "Examples:\n"
     "  rotavue play raw-orbit.json\n"
-    "  rotavue play raw-orbit.json --calls all > raw-orbit.log\n"
-    "  rotavue play raw-orbit.json --picture raw-orbit.png\n"
+    "  rotavue play raw-orbit.json --calls all > raw-orbit.log\n";
+
+constexpr const char* PictureHelp = "  rotavue play raw-orbit.json --picture raw-orbit.png\n";
+
+constexpr const char* FolderHelp =
     "  rotavue play sessions/ --out logs/\n\n"
     "Exit status: 0 all steps were sent, 1 a log or picture cannot be written, 2 no valid\n"
     "session or wrong use, 3 the plug-in cannot be loaded.\n";
@@ -28,38 +25,6 @@ constexpr const char* Help =
 constexpr const char* CallGroupHelp =
     "groups of calls in the log, joined by commas: draw, measure, panel, setup, control, data, or "
     "all (draw,panel,setup,control)";
-
-/// The text height at which a session's canvas starts.
-constexpr int SessionTextHeight = 16;
-
-/// The frame of a session as a picture: as large as the frame reaches from the canvas's origin.
-class SessionPicture {
-public:
-    SessionPicture(const std::string& file, bool force)
-        : format_(pictureFormatOf(file)), file_(file, force) {}
-
-    HostKit::PictureMaker maker() {
-        return [this](const HostKit::FrameEdges& edges) {
-            Workbench::PictureOrder order{.format = format_, .textHeight = SessionTextHeight};
-            order.width = std::clamp(edges.right, 1, Workbench::LargestSide);
-            order.height = std::clamp(edges.bottom, 1, Workbench::LargestSide);
-            order.colors = Workbench::colorsOf(edges.scheme);
-            picture_ = studio_->open(order, {});
-            return picture_->canvas();
-        };
-    }
-
-    void write() {
-        if (!picture_) throw std::runtime_error("the session draws no frame: there is no picture");
-        file_.write(picture_->finish());
-    }
-
-private:
-    Workbench::PictureFormat format_;
-    OutputFile file_;
-    StudioLibrary studio_;
-    std::unique_ptr<Workbench::OpenPicture> picture_;
-};
 
 HostKit::PlayOptions optionsFor(const std::optional<std::string>& calls,
                                 const std::optional<std::string>& module) {
@@ -78,21 +43,26 @@ HostKit::PlayOptions optionsFor(const std::optional<std::string>& calls,
 }  // namespace
 
 CLI::App* PlayCommand::declare(CLI::App& program) {
-    CLI::App* command = program.add_subcommand("play", Help);
+    const std::string help = std::string(Help) + (openPicture_ ? PictureHelp : "") + FolderHelp;
+    CLI::App* command = program.add_subcommand("play", help);
     command->add_option("SESSION", session_, "a session file, or a folder of them")
         ->required()
         ->type_name("");
     command->add_option("--calls", calls_, CallGroupHelp)->type_name("GROUPS");
-    command
-        ->add_option("--picture", picture_, "paint the frame of the last draw message into a file")
-        ->type_name("FILE");
     command->add_option("--out", out_, "the folder for the logs of a folder")->type_name("FOLDER");
     command
         ->add_option("--module", module_,
                      "the module file, if not the registered one or the one beside the program")
         ->type_name("FILE");
-    command->add_flag("--force", force_, "replace a picture that is there");
+    if (openPicture_) declarePicture(*command);
     return command;
+}
+
+void PlayCommand::declarePicture(CLI::App& command) {
+    command
+        .add_option("--picture", picture_, "paint the frame of the last draw message into a file")
+        ->type_name("FILE");
+    command.add_flag("--force", force_, "replace a picture that is there");
 }
 
 int PlayCommand::run() {
@@ -102,8 +72,11 @@ int PlayCommand::run() {
 int PlayCommand::playOne() const {
     if (out_) throw UsageError("--out goes with a folder of sessions");
     HostKit::PlayOptions options = optionsFor(calls_, module_);
-    std::optional<SessionPicture> picture;
-    if (picture_) options.log.picture = picture.emplace(*picture_, force_).maker();
+    std::unique_ptr<SessionPicture> picture;
+    if (picture_) {
+        picture = openPicture_(*picture_, force_);
+        options.log.picture = picture->maker();
+    }
     const auto status = HostKit::playSession(session_, options, std::cout, std::cerr);
     if (status == HostKit::PlayStatus::Done && picture) picture->write();
     return static_cast<int>(status);

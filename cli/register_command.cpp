@@ -17,14 +17,14 @@ constexpr const char* RegisterHelp =
     "Announce the plug-in to hosts\n\n"
     "Examples:\n"
     "  rotavue register --user\n"
-    "  sudo rotavue register\n"
+    "  rotavue register          (as root or administrator: for all users)\n"
     "  rotavue register --user --module /opt/rotavue/Rotavue64.vc\n";
 
 constexpr const char* UnregisterHelp =
     "Take the announcement back\n\n"
     "Examples:\n"
     "  rotavue unregister --user\n"
-    "  sudo rotavue unregister\n\n"
+    "  rotavue unregister        (as root or administrator: for all users)\n\n"
     "What names the module file to a host that asks for the class stays in the registry;\n"
     "the command says where.\n";
 
@@ -70,14 +70,6 @@ private:
 bool isSameFile(const std::filesystem::path& a, const std::filesystem::path& b) {
     std::error_code ignored;
     return std::filesystem::equivalent(a, b, ignored);
-}
-
-std::string notWritten(Scope scope) {
-    const std::string file = registryFileOf(scope).string();
-    if (file.empty()) return "there is no place for the user's registry: HOME is not set";
-    const std::string advice =
-        scope == Scope::Machine ? "; run as root, or register with --user" : "";
-    return file + ": the registry was not changed: it cannot be written" + advice;
 }
 
 }  // namespace
@@ -126,10 +118,9 @@ int UnregisterCommand::run() {
     Registrar(module(*registered)).remove(scope());
     if (registeredIn(scope())) throw std::runtime_error(notWritten(scope()));
     std::cerr << "unregistered " << forWhom() << '\n';
-    if (const auto key = classKeyIn(scope())) {
-        std::cerr << "the class key stays, as the module leaves it; to remove it by hand, delete "
-                     "the sections that begin with ["
-                  << *key << " in " << registryFileOf(scope()).string() << '\n';
+    if (const auto how = removalByHand(scope())) {
+        std::cerr << "the class key stays, as the module leaves it; to remove it by hand, " << *how
+                  << '\n';
     }
     return 0;
 }

@@ -51,12 +51,21 @@ std::optional<std::wstring> registryText(HKEY root, const std::wstring& key,
     return text;
 }
 
+std::wstring classKeyOf(const std::wstring& classId) {
+    return L"SOFTWARE\\Classes\\CLSID\\" + classId;
+}
+
 std::wstring moduleKeyOf(const std::wstring& classId) {
-    return L"SOFTWARE\\Classes\\CLSID\\" + classId + L"\\InprocServer32";
+    return classKeyOf(classId) + L"\\InprocServer32";
+}
+
+std::optional<std::wstring> announcedClass(HKEY root) {
+    return registryText(root, ControlKey, L"GUID");
 }
 
 std::optional<std::wstring> registeredClass() {
-    return textInEither(ControlKey, L"GUID");
+    const auto own = announcedClass(HKEY_CURRENT_USER);
+    return own ? own : announcedClass(HKEY_LOCAL_MACHINE);
 }
 
 std::unique_ptr<SharedLibrary> SharedLibrary::load(const std::filesystem::path& file) {

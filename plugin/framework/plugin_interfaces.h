@@ -122,7 +122,8 @@ using RegisterServerFunction = std::int32_t();
 using UnregisterServerFunction = std::int32_t();
 /// Registers or removes. `commandLine` may be null; "user" in any case of letters chooses the
 /// user's own registry, for this call and every later registration while the module is loaded.
-using InstallFunction = std::int32_t(bool install, const wchar_t* commandLine);
+/// `install` is 0 to remove.
+using InstallFunction = std::int32_t(std::int32_t install, const wchar_t* commandLine);
 
 }  // namespace EntryPoint
 

@@ -13,11 +13,14 @@ namespace Rotavue::HostKit {
 std::optional<std::wstring> registryText(HKEY root, const std::wstring& key,
                                          const std::wstring& name);
 
-/// The key below which the file of a class is named, whichever root.
+/// The key of a class, and the one below it that names the class's file, whichever root.
+std::wstring classKeyOf(const std::wstring& classId);
 std::wstring moduleKeyOf(const std::wstring& classId);
 
-/// The identifier, as text in braces, of the class that the control announces in its key, the
-/// user's own before the machine's; nothing where it announces none.
+/// The identifier, as text in braces, of the class that the control announces below a root.
+std::optional<std::wstring> announcedClass(HKEY root);
+
+/// The one that it announces to this user: in the user's own half, else in the machine's.
 std::optional<std::wstring> registeredClass();
 
 }  // namespace Rotavue::HostKit

@@ -31,6 +31,6 @@ ROTAVUE_ENTRY_POINT DllUnregisterServer() {
     return module.unregisterServer();
 }
 
-ROTAVUE_ENTRY_POINT DllInstall(bool install, const wchar_t* commandLine) {
-    return module.install(install, commandLine);
+ROTAVUE_ENTRY_POINT DllInstall(std::int32_t install, const wchar_t* commandLine) {
+    return module.install(install != 0, commandLine);
 }

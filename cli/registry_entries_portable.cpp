@@ -14,6 +14,10 @@ namespace Api = Meridax::VisualControls::Api;
 
 constexpr const wchar_t* ControlKey = L"SOFTWARE\\Meridax\\VCs\\Rotavue";
 
+std::filesystem::path registryFileOf(Scope scope) {
+    return Registry::registryFilePath(scope);
+}
+
 Registry::RegistryFile load(Scope scope) {
     const std::filesystem::path file = registryFileOf(scope);
     return file.empty() ? Registry::RegistryFile{} : Registry::RegistryFile::load(file);
@@ -25,10 +29,6 @@ std::wstring classKey() {
 
 }  // namespace
 
-std::filesystem::path registryFileOf(Scope scope) {
-    return Registry::registryFilePath(scope);
-}
-
 std::optional<std::filesystem::path> registeredIn(Scope scope) {
     const Registry::RegistryFile file = load(scope);
     if (file.find(ControlKey) == nullptr) return std::nullopt;
@@ -38,9 +38,18 @@ std::optional<std::filesystem::path> registeredIn(Scope scope) {
                              : std::filesystem::path();
 }
 
-std::optional<std::string> classKeyIn(Scope scope) {
+std::string notWritten(Scope scope) {
+    const std::string file = registryFileOf(scope).string();
+    if (file.empty()) return "there is no place for the user's registry: HOME is not set";
+    const std::string advice =
+        scope == Scope::Machine ? "; run as root, or register with --user" : "";
+    return file + ": the registry was not changed: it cannot be written" + advice;
+}
+
+std::optional<std::string> removalByHand(Scope scope) {
     if (load(scope).find(classKey()) == nullptr) return std::nullopt;
-    return HostKit::toUtf8(classKey());
+    return "delete the sections that begin with [" + HostKit::toUtf8(classKey()) + " in " +
+           registryFileOf(scope).string();
 }
 
 }  // namespace Rotavue::Cli

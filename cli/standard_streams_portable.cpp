@@ -1,0 +1,7 @@
+#include "cli/standard_streams.h"
+
+namespace Rotavue::Cli {
+
+void keepLineEnds() {}
+
+}  // namespace Rotavue::Cli
