@@ -15,6 +15,9 @@ if(WIN32)
 else()
     list(FILTER headers EXCLUDE REGEX "/windows/")
 endif()
+if(NOT ROTAVUE_WORKBENCH)
+    list(FILTER headers EXCLUDE REGEX "^(workbench|cli)/")
+endif()
 
 # rotavue_begins_with(SOURCE HEADER RESULT): whether HEADER is the first that SOURCE includes.
 function(rotavue_begins_with source header result)
