@@ -130,9 +130,10 @@ RenderOptions RenderCommand::options() const {
 void RenderCommand::readPicture(RenderOptions& options) const {
     Workbench::PictureOrder& picture = options.picture;
     picture.format = pictureFormatOf(output_, format_);
-    if (scale_) picture.scale = wholeNumber("--scale", *scale_, 1, LargestScale);
+    const int scale = scale_ ? wholeNumber("--scale", *scale_, 1, LargestScale) : 1;
+    picture.scale = scale;
     if (size_) {
-        const PixelSize size = pixelSize("--size", *size_, Workbench::LargestSide / picture.scale);
+        const PixelSize size = pixelSize("--size", *size_, Workbench::LargestSide / scale);
         picture.width = size.width;
         picture.height = size.height;
     }

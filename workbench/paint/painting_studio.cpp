@@ -51,7 +51,9 @@ public:
         const TextForm form = textFormOf(order.format);
         const HeaderStrip strip = stripOf(order, header);
         QPainter& painter = file_->painter();
-        painter.fillRect(0, 0, order.width, order.height, fromHostColor(order.colors.background));
+        // A part of a pixel may lie beyond the last whole one.
+        painter.fillRect(0, 0, order.width + 1, order.height + 1,
+                         fromHostColor(order.colors.background));
         strip.drawOn(painter, order.colors, form);
         painter.translate(0, order.height - area.height);
         canvas_.emplace(painter, QSize(area.width, area.height),
@@ -72,6 +74,8 @@ private:
         return {.width = order.width,
                 .height = order.height,
                 .scale = order.scale,
+                .fileWidth = order.fileWidth,
+                .fileHeight = order.fileHeight,
                 .title = QString::fromStdString(header.title)};
     }
 

@@ -20,10 +20,16 @@ namespace {
 
 constexpr int DotsPerInch = 96;
 
+QSize fileSize(const PictureShape& shape) {
+    const auto side = [&](int given, int pixels) {
+        return given > 0 ? given : static_cast<int>(std::lround(pixels * shape.scale));
+    };
+    return {side(shape.fileWidth, shape.width), side(shape.fileHeight, shape.height)};
+}
+
 class PngFile final : public PictureFile {
 public:
-    explicit PngFile(const PictureShape& shape)
-        : image_(shape.width * shape.scale, shape.height * shape.scale, QImage::Format_RGB32) {
+    explicit PngFile(const PictureShape& shape) : image_(fileSize(shape), QImage::Format_RGB32) {
         if (image_.isNull()) throw PaintError("there is not enough memory for the picture");
         const int dotsPerMetre = static_cast<int>(std::lround(DotsPerInch * shape.scale / 0.0254));
         image_.setDevicePixelRatio(shape.scale);
@@ -33,10 +39,10 @@ public:
         paintOn(image_);
     }
 
-    ~PngFile() override { painter_.end(); }
+    ~PngFile() override { endPainting(); }
 
     QByteArray finish() override {
-        painter_.end();
+        endPainting();
         return toPngFile(image_);
     }
 
@@ -56,10 +62,10 @@ public:
         paintOn(generator_);
     }
 
-    ~SvgFile() override { painter_.end(); }
+    ~SvgFile() override { endPainting(); }
 
     QByteArray finish() override {
-        painter_.end();
+        endPainting();
         return file_.data();
     }
 
@@ -83,10 +89,10 @@ public:
         paintOn(*writer_);
     }
 
-    ~PdfFile() override { painter_.end(); }
+    ~PdfFile() override { endPainting(); }
 
     QByteArray finish() override {
-        painter_.end();
+        endPainting();
         writer_.reset();
         QByteArray bytes = file_.data();
         fixDate(bytes);
@@ -109,8 +115,13 @@ private:
 };
 
 void checkShape(const PictureShape& shape) {
-    const auto fits = [&](int side) { return side >= 1 && side <= LargestSide / shape.scale; };
-    if (shape.scale < 1 || !fits(shape.width) || !fits(shape.height)) {
+    constexpr double LeastScale = 0.01;
+    const auto fits = [&](int side, int given) {
+        return side >= 1 && side <= LargestSide && side * shape.scale <= LargestSide &&
+               given >= 0 && given <= LargestSide;
+    };
+    if (!(shape.scale >= LeastScale) || !fits(shape.width, shape.fileWidth) ||
+        !fits(shape.height, shape.fileHeight)) {
         throw PaintError("a picture is 1 to " + std::to_string(LargestSide) +
                          " pixels wide and high");
     }

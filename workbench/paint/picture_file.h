@@ -14,7 +14,9 @@ namespace Rotavue::Workbench {
 struct PictureShape {
     int width = 800;     ///< pixels that the painter sees
     int height = 600;    ///< likewise
-    int scale = 1;       ///< pixels of the file for each of those, each way; PNG only
+    double scale = 1.0;  ///< pixels of the file for each of those, each way; PNG only
+    int fileWidth = 0;   ///< pixels of a PNG file, with a part of one of those; 0: width * scale
+    int fileHeight = 0;  ///< likewise
     QString title = {};  ///< stands in an SVG or PDF file as its title
 };
 
@@ -40,6 +42,11 @@ protected:
     PictureFile() = default;
 
     void paintOn(QPaintDevice& device);
+
+    /// To be called before the device goes; again is no fault.
+    void endPainting() {
+        if (painter_.isActive()) painter_.end();
+    }
 
     QPainter painter_;
 };

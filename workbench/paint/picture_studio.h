@@ -36,7 +36,9 @@ struct PictureOrder {
     PictureFormat format = PictureFormat::Png;
     int width = 800;       ///< pixels, with the strip
     int height = 600;      ///< likewise
-    int scale = 1;         ///< pixels of a PNG file for each of those, each way
+    double scale = 1.0;    ///< pixels of a PNG file for each of those, each way
+    int fileWidth = 0;     ///< pixels of a PNG file, with a part of one of those; 0: width * scale
+    int fileHeight = 0;    ///< likewise
     int textHeight = 0;    ///< pixels; 0: what suits the size
     bool readout = false;  ///< the plug-in will write at the upper edge of its area
     PictureColors colors = {};

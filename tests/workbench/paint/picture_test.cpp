@@ -25,7 +25,7 @@ void paintSomething(QPainter& painter, PictureFormat format) {
     canvas.TextOut(70, 60, L"Shaft");
 }
 
-QByteArray pictureOf(PictureFormat format, int scale = 1) {
+QByteArray pictureOf(PictureFormat format, double scale = 1.0) {
     const PictureShape shape{
         .width = 100, .height = 80, .scale = scale, .title = "Kit <1> & \"2\""};
     const auto file = PictureFile::begin(format, shape);
@@ -96,7 +96,8 @@ TEST(Picture, NoFileHoldsTheDate) {
 TEST(Picture, ASizeBeyondTheLargestIsRefused) {
     for (const PictureShape& shape :
          {PictureShape{.width = 0}, PictureShape{.height = -5}, PictureShape{.width = 8193},
-          PictureShape{.width = 4097, .scale = 2}, PictureShape{.scale = 0}}) {
+          PictureShape{.width = 4097, .scale = 2}, PictureShape{.fileWidth = 8193},
+          PictureShape{.scale = 0}}) {
         EXPECT_THROW(PictureFile::begin(PictureFormat::Png, shape), PaintError);
     }
     EXPECT_NO_THROW(PictureFile::begin(PictureFormat::Png, {.width = 8192, .height = 1}));

@@ -1,0 +1,184 @@
+#include "workbench/export/export_dialog.h"
+
+#include "tests/workbench/export/widget_test.h"
+#include "workbench/paint/painting_studio.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTest>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+std::string empty(const PictureOrder& order, const ExportSettings&) {
+    PaintingStudio studio;
+    return studio.open(order, {})->finish();
+}
+
+std::string failing(const PictureOrder&, const ExportSettings&) {
+    throw std::runtime_error("the plug-in failed");
+}
+
+class ExportDialogTest : public WidgetTest {
+protected:
+    ExportSubject subject(PicturePainter painter = empty) {
+        return {.title = "Save the picture",
+                .key = "picture",
+                .name = "bearing",
+                .usual = {},
+                .painter = std::move(painter)};
+    }
+
+    static void press(ExportDialog& dialog) { QTest::mouseClick(&dialog.save, Qt::LeftButton); }
+
+    void writeOld(const QString& name) const {
+        QFile file(at(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("old");
+    }
+
+    QByteArray read(const QString& name) const {
+        QFile file(at(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+TEST_F(ExportDialogTest, SavesThePictureInTheSizeThatWasEntered) {
+    ExportDialog dialog(subject());
+    dialog.unit.setCurrentIndex(1);
+    dialog.width.setValue(160);
+    dialog.height.setValue(120);
+    dialog.dotsPerInch.setValue(300);
+    dialog.file.setText(at("orbit.png"));
+    press(dialog);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.savedFile(), at("orbit.png"));
+    const QImage image(at("orbit.png"));
+    EXPECT_EQ(image.size(), QSize(1890, 1417));
+    EXPECT_EQ(image.dotsPerMeterX(), 11811);
+    EXPECT_EQ(names(), Names{"orbit.png"});
+}
+
+TEST_F(ExportDialogTest, RemembersFormAndFolder) {
+    {
+        ExportDialog dialog(subject());
+        dialog.format.setCurrentIndex(1);
+        dialog.width.setValue(640);
+        dialog.header.setChecked(false);
+        dialog.file.setText(at("one.svg"));
+        press(dialog);
+    }
+    const ExportDialog next(subject());
+    EXPECT_EQ(next.settings().format, PictureFormat::Svg);
+    EXPECT_EQ(next.settings().width, 640);
+    EXPECT_FALSE(next.settings().header);
+    EXPECT_EQ(next.file.text(), at("bearing.svg"));
+}
+
+TEST_F(ExportDialogTest, FileThatIsThereIsReplacedByASecondPressAlone) {
+    writeOld("orbit.png");
+    ExportDialog dialog(subject());
+    dialog.file.setText(at("orbit.png"));
+    press(dialog);
+    EXPECT_EQ(read("orbit.png"), "old");
+    EXPECT_EQ(dialog.message.text(), "orbit.png is there already.");
+    EXPECT_EQ(dialog.save.text(), "&Replace");
+    EXPECT_TRUE(dialog.savedFile().isEmpty());
+    press(dialog);
+    EXPECT_TRUE(read("orbit.png").startsWith("\x89PNG"));
+    EXPECT_EQ(names(), Names{"orbit.png"});
+}
+
+TEST_F(ExportDialogTest, AnotherNameIsAskedForAnew) {
+    writeOld("one.png");
+    writeOld("two.png");
+    ExportDialog dialog(subject());
+    dialog.file.setText(at("one.png"));
+    press(dialog);
+    dialog.file.setText(at("two.png"));
+    EXPECT_EQ(dialog.save.text(), "&Save");
+    press(dialog);
+    EXPECT_EQ(read("two.png"), "old");
+}
+
+TEST_F(ExportDialogTest, EndingFollowsTheKind) {
+    ExportDialog dialog(subject());
+    dialog.file.setText(at("orbit.PNG"));
+    dialog.format.setCurrentIndex(2);
+    EXPECT_EQ(dialog.file.text(), at("orbit.pdf"));
+    EXPECT_FALSE(dialog.dotsPerInch.isEnabled());
+    dialog.format.setCurrentIndex(0);
+    EXPECT_EQ(dialog.file.text(), at("orbit.png"));
+    EXPECT_TRUE(dialog.dotsPerInch.isEnabled());
+}
+
+TEST_F(ExportDialogTest, AnotherUnitTellsTheSameSize) {
+    ExportDialog dialog(subject());
+    dialog.width.setValue(1200);
+    dialog.height.setValue(960);
+    // 960 / 96 inches are 254 mm.
+    EXPECT_EQ(dialog.otherSize.text(), QStringLiteral("317.5 \u00d7 254.0 mm"));
+    dialog.unit.setCurrentIndex(1);
+    EXPECT_NEAR(dialog.width.value(), 317.5, 0.01);
+    EXPECT_NEAR(dialog.height.value(), 254.0, 0.01);
+    EXPECT_EQ(dialog.otherSize.text(), QStringLiteral("1200 \u00d7 960 pixels"));
+    dialog.unit.setCurrentIndex(0);
+    EXPECT_EQ(dialog.width.value(), 1200.0);
+}
+
+TEST_F(ExportDialogTest, PreviewHasTheShapeOfThePicture) {
+    ExportDialog dialog(subject());
+    dialog.width.setValue(1000);
+    dialog.height.setValue(500);
+    dialog.showPreview();
+    const QSizeF size = dialog.preview.pixmap().deviceIndependentSize();
+    EXPECT_NEAR(size.width(), 460.0, 1.0);
+    EXPECT_NEAR(size.height(), 230.0, 1.0);
+}
+
+TEST_F(ExportDialogTest, SizeThatCannotBeMadeIsToldAndNotSaved) {
+    ExportDialog dialog(subject());
+    dialog.file.setText(at("orbit.png"));
+    dialog.width.setValue(20'000);
+    EXPECT_EQ(dialog.message.text(), "The picture would be larger than 8192 pixels.");
+    EXPECT_FALSE(dialog.save.isEnabled());
+    press(dialog);
+    EXPECT_TRUE(names().empty());
+}
+
+TEST_F(ExportDialogTest, FailureLeavesNoFileAndTheOldOneAsItWas) {
+    writeOld("orbit.png");
+    ExportDialog dialog(subject(failing));
+    dialog.file.setText(at("orbit.png"));
+    press(dialog);
+    press(dialog);
+    EXPECT_EQ(dialog.message.text(), "the plug-in failed");
+    EXPECT_EQ(read("orbit.png"), "old");
+    EXPECT_EQ(names(), Names{"orbit.png"});
+    EXPECT_TRUE(dialog.savedFile().isEmpty());
+}
+
+TEST_F(ExportDialogTest, PlaceThatCannotBeWrittenIsToldInALine) {
+    ExportDialog dialog(subject());
+    dialog.file.setText(at("missing/orbit.png"));
+    press(dialog);
+    EXPECT_EQ(dialog.message.text(),
+              at("missing/orbit.png") + " cannot be written: No such file or directory.");
+    EXPECT_TRUE(dialog.savedFile().isEmpty());
+    EXPECT_TRUE(names().empty());
+}
+
+TEST_F(ExportDialogTest, EscapeSavesNothing) {
+    ExportDialog dialog(subject());
+    dialog.file.setText(at("orbit.png"));
+    dialog.show();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_TRUE(names().empty());
+}
+
+}  // namespace
+}  // namespace Rotavue::Workbench

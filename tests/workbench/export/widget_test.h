@@ -1,0 +1,41 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace Rotavue::Workbench {
+
+/// A folder of each test's own, in which files and the program's memory of the user's choices lie.
+class WidgetTest : public testing::Test {
+protected:
+    WidgetTest() {
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, at("settings"));
+        QCoreApplication::setOrganizationName("Rotavue");
+        QCoreApplication::setApplicationName("rotavue-test");
+    }
+
+    QString at(const QString& name) const { return folder_.filePath(name); }
+
+    /// The names of the files in the folder.
+    std::vector<std::string> names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.path().toStdString()))
+            if (entry.is_regular_file()) names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+}  // namespace Rotavue::Workbench
