@@ -1,6 +1,5 @@
 #include "cli/orbit_picture.h"
 
-#include "cli/picture_facts.h"
 #include "cli/setup_texts.h"
 #include "cli/usage_error.h"
 #include "workbench/analysis/raw_channels.h"
@@ -64,7 +63,7 @@ GraphScale OrbitPicture::scaleFor(const PictureArea& area) const {
 
 std::string OrbitPicture::paint() {
     // The strip is as high as its lines, and the scale that stands in it needs the area below.
-    const PictureArea roughly = areaWith(pictureHeader(scene_, GraphScale{}));
+    const PictureArea roughly = areaWith(pictureHeader(scene_.subject(), GraphScale{}));
     const GraphScale scale = scaleFor(roughly);
     const bool known = scale.limit > 0.0;
     const PictureHeader header = pictureHeader(

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "workbench/scene/graph_scale.h"
 #include "cli/render_options.h"
 #include "cli/shown_scene.h"
+#include "workbench/scene/graph_scale.h"
 
 #include <string>
 

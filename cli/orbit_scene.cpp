@@ -95,6 +95,15 @@ std::vector<Recording> OrbitScene::readAll(const RenderOptions& options) {
     return recordings;
 }
 
+PictureSubject OrbitScene::subject() const {
+    return {.machine = machine_,
+            .name = names_.front(),
+            .curves = show_,
+            .coupling = coupling_,
+            .span = span_,
+            .compensation = compensation_ ? compensationText(*compensation_) : ""};
+}
+
 void OrbitScene::note(const Recording& recording, const std::vector<std::string>& notes) {
     for (const std::string& note : notes)
         notes_.push_back(recording.file.string() + ": " + note);

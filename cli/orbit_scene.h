@@ -3,6 +3,7 @@
 #include "cli/render_options.h"
 #include "host_kit/memory/memory_host.h"
 #include "workbench/recording/recording.h"
+#include "workbench/scene/picture_facts.h"
 #include "workbench/scene/shown_span.h"
 
 #include <cstddef>
@@ -22,11 +23,10 @@ public:
 
     HostKit::MemoryHost& host() { return host_; }
     const Workbench::MachineFacts& machine() const { return machine_; }
-    Workbench::Coupling coupling() const { return coupling_; }
     const Workbench::ShownSpan& span() const { return span_; }
 
-    /// How the recordings' run-out has been taken away; nothing where it has not.
-    std::optional<Workbench::CompensationForm> compensation() const { return compensation_; }
+    /// What a picture of the scene must tell.
+    Workbench::PictureSubject subject() const;
 
     /// Whether the first recording tells the shaft's speed.
     bool hasSpeed() const { return hasSpeed_; }
