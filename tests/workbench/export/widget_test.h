@@ -13,10 +13,10 @@
 
 namespace Rotavue::Workbench {
 
-/// A folder of each test's own, in which files and the program's memory of the user's choices lie.
-class WidgetTest : public testing::Test {
-protected:
-    WidgetTest() {
+/// A folder of a test's own, in which files and the program's memory of the user's choices lie.
+class ScratchSettings {
+public:
+    ScratchSettings() {
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, at("settings"));
         QCoreApplication::setOrganizationName("Rotavue");
@@ -37,5 +37,7 @@ protected:
 private:
     QTemporaryDir folder_;
 };
+
+class WidgetTest : public testing::Test, protected ScratchSettings {};
 
 }  // namespace Rotavue::Workbench

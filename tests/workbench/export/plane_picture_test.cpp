@@ -1,0 +1,101 @@
+#include "workbench/export/plane_picture.h"
+
+#include "tests/workbench/bench/bench_fixture.h"
+#include "workbench/paint/painting_studio.h"
+#include "workbench/scene/scheme_colors.h"
+
+#include <algorithm>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+class PlanePictureTest : public BenchTest {
+protected:
+    std::string picture(Plane& plane) {
+        PaintingStudio studio;
+        return PlanePicture(plane, bench_).paint(studio, {.format = PictureFormat::Svg}, true);
+    }
+};
+
+TEST_F(PlanePictureTest, IsDarkOnLightWhateverTheScreenIs) {
+    Plane& plane = add();
+    bench_.setScheme(LightNumber);
+    const std::string light = picture(plane);
+    bench_.setScheme(DarkNumber);
+    EXPECT_EQ(picture(plane), light);
+}
+
+TEST_F(PlanePictureTest, LeavesTheScreensColoursAndListenerAsTheyWere) {
+    struct Listener : HostKit::HostListener {
+        void invalidated() override { ++count; }
+        int count = 0;
+    } listener;
+    Plane& plane = add();
+    bench_.setScheme(DarkNumber);
+    plane.host().listen(&listener);
+    const std::uint32_t color = plane.host().description.channels.at("orbit1").color;
+    picture(plane);
+    EXPECT_EQ(plane.host().description.channels.at("orbit1").color, color);
+    EXPECT_EQ(plane.host().listener(), &listener);
+    EXPECT_EQ(listener.count, 0);
+    plane.host().listen(nullptr);
+}
+
+TEST_F(PlanePictureTest, HasNoReadoutOfThePointerOnTheScreen) {
+    Plane& plane = add();
+    const std::string before = picture(plane);
+    plane.control().draw(plane.host().canvas(), 600, 600, DarkNumber);
+    plane.control().enterPointer();
+    plane.control().movePointer(400, 300);
+    EXPECT_EQ(picture(plane), before);
+}
+
+TEST_F(PlanePictureTest, LimitIsTheScreensAndCanBeFixed) {
+    // X reaches 40, Y 30; the automatic scale leaves a tenth free.
+    Plane& plane = add();
+    PlanePicture picture(plane, bench_);
+    EXPECT_NEAR(picture.limit(), 44.0, 0.1);
+    EXPECT_NEAR(picture.extent(), 40.0, 0.1);
+    picture.setLimit(60.0);
+    EXPECT_EQ(picture.limit(), 60.0);
+    EXPECT_EQ(plane.settings().count(L"useManualMagnitudeLimits") == 0 ||
+                  plane.settings().at(L"useManualMagnitudeLimits") == L"False",
+              true);
+}
+
+TEST_F(PlanePictureTest, StripTellsWhatIsShown) {
+    Recording recording = rotor();
+    recording.machine.machine = "Kit";
+    recording.machine.point = "Bearing 1";
+    recording.machine.xAngle = 45;
+    recording.machine.yAngle = 315;
+    recording.machine.rotation = Rotation::CounterClockwise;
+    Plane& plane = add(recording);
+    PlanePicture picture(plane, bench_);
+    picture.setLimit(60.0);
+    const PictureHeader header = picture.header();
+    EXPECT_EQ(header.title, "Kit, Bearing 1");
+    const auto says = [&](const std::string& fact) {
+        return std::find(header.facts.begin(), header.facts.end(), fact) != header.facts.end();
+    };
+    EXPECT_TRUE(says("direct, 8 turns"));
+    EXPECT_TRUE(says("3000 rpm"));
+    EXPECT_TRUE(says("X 45\u00b0 R, Y 45\u00b0 L"));
+    EXPECT_TRUE(says("rotation CCW"));
+    EXPECT_FALSE(says("run-out compensated: waveform"));
+}
+
+TEST_F(PlanePictureTest, StripSaysThatRunOutIsTakenAway) {
+    Plane& plane = add();
+    bench_.showCompensated(plane, plane.sharedOriginal(), "run-out compensated: waveform");
+    const auto facts = [&] { return PlanePicture(plane, bench_).header().facts; };
+    const auto on = facts();
+    EXPECT_EQ(std::count(on.begin(), on.end(), "run-out compensated: waveform"), 1);
+    bench_.showOriginal(plane);
+    const auto off = facts();
+    EXPECT_EQ(std::count(off.begin(), off.end(), "run-out compensated: waveform"), 0);
+}
+
+}  // namespace
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,178 @@
+#include "workbench/export/out_actions.h"
+
+#include "host_kit/memory/memory_clipboard.h"
+#include "workbench/export/plane_picture.h"
+#include "workbench/export/plane_report.h"
+#include "workbench/paint/painting_studio.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+#include <QKeySequence>
+#include <QSettings>
+
+#include <algorithm>
+#include <exception>
+#include <optional>
+#include <utility>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+constexpr const char* PictureKey = "picture";
+
+constexpr ExportSettings A4{
+    .format = PictureFormat::Pdf, .unit = SizeUnit::Millimetres, .width = 210.0, .height = 297.0};
+
+/// The module's clipboard while one message is sent.
+class SuppliedClipboard {
+public:
+    explicit SuppliedClipboard(HostKit::Module& module) : module_(module) {
+        module_.supplyClipboard(&clipboard_);
+    }
+    ~SuppliedClipboard() { module_.supplyClipboard(nullptr); }
+    SuppliedClipboard(const SuppliedClipboard&) = delete;
+    SuppliedClipboard& operator=(const SuppliedClipboard&) = delete;
+
+    std::optional<std::wstring> take() { return clipboard_.takeText(); }
+
+private:
+    HostKit::Module& module_;
+    HostKit::MemoryClipboard clipboard_;
+};
+
+/// A name that any file may have.
+QString fileName(const std::string& name) {
+    QString text = QString::fromStdString(name).simplified();
+    for (QChar& character : text)
+        if (QStringLiteral("/\\:*?\"<>|").contains(character)) character = u'-';
+    return text.isEmpty() ? QStringLiteral("orbit") : text.left(80);
+}
+
+std::string paintPlane(Plane& plane, Bench& bench, const PictureOrder& order, bool withHeader) {
+    PaintingStudio studio;
+    return PlanePicture(plane, bench).paint(studio, order, withHeader);
+}
+
+void prepare(QAction& action, const char* name, const QString& text, const QKeySequence& keys,
+             const QString& help) {
+    action.setObjectName(name);
+    action.setText(text);
+    action.setShortcut(keys);
+    action.setToolTip(help + " (" + keys.toString(QKeySequence::NativeText) + ')');
+}
+
+}  // namespace
+
+OutActions::OutActions(Bench& bench, CurrentPlane current, Tell tell, QWidget& window)
+    : QObject(&window),
+      bench_(bench),
+      current_(std::move(current)),
+      tell_(std::move(tell)),
+      window_(window) {
+    prepare(copyNumbers, "copyNumbers", tr("&Copy numbers"), QKeySequence::Copy,
+            tr("The curves' values as a table for a spreadsheet"));
+    // A table or a text that has the focus copies what is selected in it.
+    copyNumbers.setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    prepare(copyPicture, "copyPicture", tr("Copy &picture"),
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), tr("The current plane as a picture"));
+    prepare(exportPicture, "exportPicture", tr("&Export picture..."),
+            QKeySequence(Qt::CTRL | Qt::Key_E), tr("The current plane as PNG, SVG or PDF"));
+    prepare(exportReport, "exportReport", tr("Export &report page..."),
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
+            tr("All planes with their numbers on one page"));
+    connect(&copyNumbers, &QAction::triggered, this, [this] { attempt([this] { putNumbers(); }); });
+    connect(&copyPicture, &QAction::triggered, this, [this] { attempt([this] { putPicture(); }); });
+    connect(&exportPicture, &QAction::triggered, this,
+            [this] { attempt([this] { openPicture(); }); });
+    connect(&exportReport, &QAction::triggered, this,
+            [this] { attempt([this] { openReport(); }); });
+    connect(&bench_, &Bench::planesChanged, this, [this] { refresh(); });
+    refresh();
+}
+
+template <class Deed>
+void OutActions::attempt(Deed deed) {
+    try {
+        deed();
+    } catch (const std::exception& error) {
+        bench_.report(QString::fromUtf8(error.what()));
+    }
+}
+
+void OutActions::refresh() {
+    for (QAction* action : {&copyNumbers, &copyPicture, &exportPicture, &exportReport})
+        action->setEnabled(!bench_.planes().empty());
+}
+
+std::shared_ptr<Plane> OutActions::current() const {
+    const auto& planes = bench_.planes();
+    const auto found = std::find_if(planes.begin(), planes.end(),
+                                    [&](const auto& one) { return one.get() == current_(); });
+    if (found != planes.end()) return *found;
+    return planes.empty() ? nullptr : planes.front();
+}
+
+void OutActions::putNumbers() {
+    const auto plane = current();
+    if (!plane) return;
+    SuppliedClipboard clipboard(bench_.module());
+    plane->control().copy();
+    const auto text = clipboard.take();
+    if (!text) {
+        bench_.report(tr("There are no numbers to copy."));
+        return;
+    }
+    QGuiApplication::clipboard()->setText(QString::fromStdWString(*text));
+    tell_(tr("The numbers are on the clipboard."));
+}
+
+void OutActions::putPicture() {
+    const auto plane = current();
+    if (!plane) return;
+    QSettings place;
+    place.beginGroup(QStringLiteral("export/") + PictureKey);
+    ExportSettings settings = stored(place, {});
+    settings.format = PictureFormat::Png;
+    if (!faultOf(settings).isEmpty()) settings = {};
+    const std::string png = paintPlane(*plane, bench_, orderOf(settings), settings.header);
+    QGuiApplication::clipboard()->setImage(QImage::fromData(QByteArray::fromStdString(png), "png"));
+    tell_(tr("The picture is on the clipboard."));
+}
+
+void OutActions::openPicture() {
+    const auto plane = current();
+    if (!plane) return;
+    open({.title = tr("Export picture"),
+          .key = PictureKey,
+          .name = fileName(plane->name()),
+          .usual = {},
+          .painter = [this, plane](const PictureOrder& order, const ExportSettings& settings) {
+              return paintPlane(*plane, bench_, order, settings.header);
+          }});
+}
+
+void OutActions::openReport() {
+    if (bench_.planes().empty()) return;
+    open({.title = tr("Export report page"),
+          .key = "report",
+          .name = fileName(bench_.planes().front()->name()) + tr(" report"),
+          .usual = A4,
+          .planes = true,
+          .painter = [this](const PictureOrder& order, const ExportSettings& settings) {
+              return paintPlaneReport(bench_, order, settings.sameScale);
+          }});
+}
+
+/// The dialog stands in front of the window, and what plays stops: a picture is of one moment.
+void OutActions::open(ExportSubject subject) {
+    bench_.playback().pause();
+    auto* dialog = new ExportDialog(std::move(subject), &window_);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog] { tell_(tr("Saved %1").arg(dialog->savedFile())); });
+    dialog->open();
+}
+
+}  // namespace Rotavue::Workbench

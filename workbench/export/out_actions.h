@@ -1,0 +1,49 @@
+#pragma once
+
+#include "workbench/bench/bench.h"
+#include "workbench/export/export_dialog.h"
+
+#include <QAction>
+#include <QObject>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+namespace Rotavue::Workbench {
+
+/// What goes out of a window: numbers and pictures to the clipboard, pictures and report pages to
+/// files. Each speaks of the current plane, the report of all; without a plane all are disabled.
+class OutActions final : public QObject {
+public:
+    using CurrentPlane = std::function<Plane*()>;
+    using Tell = std::function<void(const QString&)>;
+
+    /// Dialogs belong to `window`; `tell` hears of what has been done, in one line.
+    OutActions(Bench& bench, CurrentPlane current, Tell tell, QWidget& window);
+
+    QAction copyNumbers;    ///< what the control itself copies, by message
+    QAction copyPicture;    ///< as the last export had it, but as pixels
+    QAction exportPicture;  ///< asks how and where
+    QAction exportReport;   ///< likewise
+
+private:
+    void refresh();
+    std::shared_ptr<Plane> current() const;
+    void putNumbers();
+    void putPicture();
+    void openPicture();
+    void openReport();
+    void open(ExportSubject subject);
+
+    /// Does it, and reports what it fails with.
+    template <class Deed>
+    void attempt(Deed deed);
+
+    Bench& bench_;
+    CurrentPlane current_;
+    Tell tell_;
+    QWidget& window_;
+};
+
+}  // namespace Rotavue::Workbench

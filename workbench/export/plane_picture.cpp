@@ -1,0 +1,121 @@
+#include "workbench/export/plane_picture.h"
+
+#include "workbench/scene/picture_facts.h"
+#include "workbench/scene/scheme_colors.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cwchar>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+constexpr const wchar_t* LimitKeys[] = {L"minXValue", L"maxXValue", L"minYValue", L"maxYValue"};
+constexpr const wchar_t* ManualKey = L"useManualMagnitudeLimits";
+
+/// A limit that a control leaves out has the value that a missing key reads as.
+double limitIn(const Settings& settings, int place) {
+    const auto found = settings.find(LimitKeys[place]);
+    if (found == settings.end()) return place % 2 == 0 ? -1.0 : 1.0;
+    return std::wcstod(found->second.c_str(), nullptr);
+}
+
+/// Fixed-point notation, the form in which a control writes its numbers.
+std::wstring textOf(double value) {
+    char digits[512];
+    const int length = std::snprintf(digits, sizeof digits, "%.15f", value);
+    return {digits, digits + length};
+}
+
+bool isOn(const Settings& settings, const wchar_t* key) {
+    const auto found = settings.find(key);
+    return found != settings.end() && (found->second == L"1" || found->second == L"True");
+}
+
+std::int32_t ticksOf(const Settings& settings) {
+    const auto found = settings.find(L"tickCount");
+    return found == settings.end()
+               ? 0
+               : static_cast<std::int32_t>(std::wcstol(found->second.c_str(), nullptr, 10));
+}
+
+}  // namespace
+
+PlanePicture::PlanePicture(Plane& plane, Bench& bench)
+    : plane_(plane),
+      wasLight_(bench.scheme() == LightNumber),
+      listener_(plane.host().listener()),
+      settings_(plane.settings()) {
+    plane_.host().listen(nullptr);
+    plane_.setLight(true);
+    control_.emplace(bench.module(), plane_.host());
+    control_->assignmentChanged();
+    control_->load(settings_);
+    findLimits();
+}
+
+PlanePicture::~PlanePicture() {
+    control_.reset();
+    plane_.setLight(wasLight_);
+    plane_.host().listen(listener_);
+}
+
+void PlanePicture::findLimits() {
+    constexpr std::int32_t Side = 600;
+    control_->draw(plane_.host().canvas(), Side, Side, LightNumber);
+    const Settings found = control_->save();
+    limit_ = 0.0;
+    for (int i = 0; i < 4; ++i)
+        limit_ = std::max(limit_, std::abs(limitIn(found, i)));
+    constexpr double Visible = 1e-3;
+    alike_ = true;
+    for (int i = 0; i < 4; ++i)
+        alike_ = alike_ && std::abs(std::abs(limitIn(found, i)) - limit_) <= Visible * limit_;
+}
+
+double PlanePicture::extent() const {
+    // The plug-in's automatic limit is so many times the largest value.
+    constexpr double AutomaticHeadroom = 1.1;
+    return isOn(settings_, ManualKey) ? limit_ : limit_ / AutomaticHeadroom;
+}
+
+void PlanePicture::setLimit(double limit) {
+    settings_[ManualKey] = L"True";
+    for (int i = 0; i < 4; ++i)
+        settings_[LimitKeys[i]] = textOf(i % 2 == 0 ? -limit : limit);
+    control_->load(settings_);
+    limit_ = limit;
+    alike_ = true;
+}
+
+PictureHeader PlanePicture::header() const {
+    std::optional<GraphScale> scale;
+    const bool circle = isOn(settings_, L"graphType");
+    if (alike_ && limit_ > 0.0)
+        scale =
+            plainScale(limit_, circle ? Background::Circle : Background::Grid, ticksOf(settings_));
+    const Recording& recording = plane_.shown().recording;
+    return pictureHeader({.machine = recording.machine,
+                          .name = plane_.name(),
+                          .curves = plane_.curves(),
+                          .coupling = recording.coupling,
+                          .span = plane_.span(),
+                          .compensation = plane_.compensation()},
+                         scale);
+}
+
+void PlanePicture::draw(const Meridax::Host::Ref<Meridax::Host::IHostCanvas>& canvas,
+                        const PictureArea& area) {
+    control_->draw(canvas, area.width, area.height, LightNumber);
+}
+
+std::string PlanePicture::paint(PictureStudio& studio, const PictureOrder& order, bool withHeader) {
+    const PictureHeader strip = withHeader ? header() : PictureHeader{};
+    const auto picture = studio.open(order, strip);
+    draw(picture->canvas(), studio.areaOf(order, strip));
+    return picture->finish();
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host_kit/control/driven_control.h"
+#include "host_kit/loader/module.h"
+#include "workbench/bench/bench.h"
+#include "workbench/bench/plane.h"
+#include "workbench/paint/picture_studio.h"
+#include "workbench/scene/graph_scale.h"
+
+#include <optional>
+#include <string>
+
+namespace Rotavue::Workbench {
+
+/// A plane as it goes into a picture: dark on light, with the settings and the moment of the plane
+/// on the screen, drawn by a control of its own. The one on the screen is not disturbed, and where
+/// its user's pointer happens to be is in no picture.
+///
+/// While it lives, the host of the plane has light colours and tells no listener of anything.
+class PlanePicture {
+public:
+    /// Raises `std::runtime_error` where the plug-in fails.
+    PlanePicture(Plane& plane, Bench& bench);
+    ~PlanePicture();
+    PlanePicture(const PlanePicture&) = delete;
+    PlanePicture& operator=(const PlanePicture&) = delete;
+
+    /// The axes' largest limit, as the plane has it or as its automatic scale finds it.
+    double limit() const { return limit_; }
+
+    /// How far what is drawn reaches; what the limits hold where the user has set them.
+    double extent() const;
+
+    /// Both axes run from -limit to limit.
+    void setLimit(double limit);
+
+    /// What stands in the strip: machine, point, curves, probes, rotation, speed, scale,
+    /// compensation and time.
+    PictureHeader header() const;
+
+    void draw(const Meridax::Host::Ref<Meridax::Host::IHostCanvas>& canvas,
+              const PictureArea& area);
+
+    /// The bytes of a file with the plane alone, with or without the strip.
+    std::string paint(PictureStudio& studio, const PictureOrder& order, bool withHeader);
+
+private:
+    void findLimits();
+
+    Plane& plane_;
+    bool wasLight_;
+    HostKit::HostListener* listener_;
+    std::optional<HostKit::DrivenControl> control_;
+    Settings settings_;
+    double limit_ = 0.0;
+    bool alike_ = true;
+};
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,116 @@
+#include "workbench/export/plane_report.h"
+
+#include "workbench/export/plane_picture.h"
+#include "workbench/export/report_page.h"
+#include "workbench/scene/graph_scale.h"
+#include "workbench/scene/shown_span.h"
+#include "workbench/window/docks/number_sheet.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+#include <memory>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+using Pictures = std::vector<std::unique_ptr<PlanePicture>>;
+
+/// The first machine that has a name, else the first plane's.
+std::string titleOf(const Bench& bench) {
+    for (const auto& plane : bench.planes())
+        if (!plane->shown().recording.machine.machine.empty())
+            return plane->shown().recording.machine.machine;
+    return bench.planes().empty() ? "No recording" : bench.planes().front()->name();
+}
+
+std::string fileLine(const Bench& bench) {
+    std::string line;
+    for (const auto& plane : bench.planes())
+        line += (line.empty() ? "" : ", ") + plane->shown().recording.file.filename().string();
+    return (bench.planes().size() == 1 ? "Recording: " : "Recordings: ") + line;
+}
+
+std::shared_ptr<const Recording> recordingOf(const Plane& plane) {
+    const auto source = plane.sharedShown();
+    return {source, &source->recording};
+}
+
+std::shared_ptr<const ShaftTrack> trackOf(const Plane& plane) {
+    const auto source = plane.sharedShown();
+    return {source, &source->track};
+}
+
+NumberSheet sheetOf(const Bench& bench) {
+    std::vector<ShownTurns> turns;
+    for (const auto& plane : bench.planes())
+        turns.push_back({.plane = QString::fromStdString(plane->name()),
+                         .recording = recordingOf(*plane),
+                         .track = trackOf(*plane),
+                         .span = stretchOf(plane->span(), plane->shown().track)});
+    return numberSheet(turns);
+}
+
+std::string headText(const NumberColumn& column, bool alone) {
+    return ((alone ? QString() : column.plane + ' ') + column.probe).toStdString();
+}
+
+ReportTable tableOf(const NumberSheet& sheet) {
+    ReportTable table{.head = {""}, .rows = {}};
+    for (const NumberColumn& column : sheet.columns)
+        table.head.push_back(headText(column, sheet.columns.size() == 2));
+    for (const NumberRow& row : sheet.rows) {
+        table.rows.push_back({row.name.toStdString()});
+        for (const QString& cell : row.cells)
+            table.rows.back().push_back(cell.toStdString());
+    }
+    return table;
+}
+
+void addNotes(const Bench& bench, const NumberSheet& sheet, ReportContent& content) {
+    for (const auto& plane : bench.planes())
+        for (const std::string& note : plane->notes())
+            content.notes.push_back(plane->name() + ": " + note);
+    for (const QString& note : sheet.notes)
+        content.notes.push_back(note.toStdString());
+}
+
+/// One scale for all planes of a unit, in round numbers.
+void shareScale(const Bench& bench, Pictures& pictures) {
+    std::map<std::string, double> extents;
+    const auto unitOf = [&](std::size_t i) -> const std::string& {
+        return bench.planes()[i]->shown().recording.machine.unit;
+    };
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        double& extent = extents[unitOf(i)];
+        extent = std::max(extent, pictures[i]->extent());
+    }
+    constexpr std::int32_t Ticks = 5;
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        const double extent = extents[unitOf(i)];
+        if (extent > 0.0) pictures[i]->setLimit(roundScale(extent, Background::Grid, Ticks).limit);
+    }
+}
+
+}  // namespace
+
+std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameScale) {
+    Pictures pictures;
+    for (const auto& plane : bench.planes())
+        pictures.push_back(std::make_unique<PlanePicture>(*plane, bench));
+    if (sameScale) shareScale(bench, pictures);
+    const NumberSheet sheet = sheetOf(bench);
+    ReportContent content{
+        .title = titleOf(bench), .facts = {fileLine(bench)}, .numbers = tableOf(sheet)};
+    for (const auto& picture : pictures) {
+        PlanePicture* const plane = picture.get();
+        content.orbits.push_back({plane->header(), [plane](auto canvas, const PictureArea& area) {
+                                      plane->draw(canvas, area);
+                                  }});
+    }
+    addNotes(bench, sheet, content);
+    return paintReport(content, order);
+}
+
+}  // namespace Rotavue::Workbench

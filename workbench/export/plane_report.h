@@ -1,0 +1,16 @@
+#pragma once
+
+#include "workbench/bench/bench.h"
+#include "workbench/paint/picture_studio.h"
+
+#include <string>
+#include <vector>
+
+namespace Rotavue::Workbench {
+
+/// A report page of these planes, all of the bench: their orbits, at one scale if that is asked
+/// for, the numbers of the shown turns, and what a reader should know. Raises `std::runtime_error`
+/// where the plug-in fails or the page has no room.
+std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameScale);
+
+}  // namespace Rotavue::Workbench
