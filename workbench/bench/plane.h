@@ -45,6 +45,7 @@ public:
 
     /// The recording as it was read.
     const PlaneSource& original() const { return *original_; }
+    std::shared_ptr<const PlaneSource> sharedOriginal() const { return original_; }
 
     /// The recording that the control and all panels show: the original one, or what is left of it
     /// when run-out is taken off.

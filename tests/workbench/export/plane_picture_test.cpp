@@ -34,9 +34,9 @@ TEST_F(PlanePictureTest, LeavesTheScreensColoursAndListenerAsTheyWere) {
     Plane& plane = add();
     bench_.setScheme(DarkNumber);
     plane.host().listen(&listener);
-    const std::uint32_t color = plane.host().description.channels.at("orbit1").color;
+    const std::uint32_t color = plane.host().description.channels["orbit1"].color;
     picture(plane);
-    EXPECT_EQ(plane.host().description.channels.at("orbit1").color, color);
+    EXPECT_EQ(plane.host().description.channels["orbit1"].color, color);
     EXPECT_EQ(plane.host().listener(), &listener);
     EXPECT_EQ(listener.count, 0);
     plane.host().listen(nullptr);

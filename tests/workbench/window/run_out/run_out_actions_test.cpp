@@ -1,0 +1,129 @@
+#include "workbench/window/run_out/run_out_actions.h"
+
+#include "tests/workbench/bench/bench_fixture.h"
+#include "workbench/analysis/analysis_error.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+/// All of the rotor's motion is taken for run-out, so that nothing is left of it.
+class RunOutActionsTest : public BenchTest {
+protected:
+    RunOutActionsTest() { plane_ = &add(); }
+
+    void takeFrom(const TimeSpan& stretch) {
+        marked_ = stretch;
+        actions_.refresh();
+        actions_.take.trigger();
+    }
+
+    static double largest(const Plane& plane) {
+        double largest = 0.0;
+        for (const double value : plane.shown().recording.x)
+            largest = std::max(largest, std::abs(value));
+        return largest;
+    }
+
+    bool becomes(const std::string& words) {
+        return QTest::qWaitFor([&] { return plane_->compensation() == words; });
+    }
+
+    Plane* plane_ = nullptr;
+    std::optional<TimeSpan> marked_;
+    RunOutActions actions_{bench_, [this] { return plane_; }, [this] { return marked_; }};
+};
+
+constexpr const char* VectorWords = "run-out compensated: 1X, 2X vector";
+constexpr const char* WaveformWords = "run-out compensated: waveform";
+
+TEST_F(RunOutActionsTest, WithoutAMarkedStretchThereIsNothingToTake) {
+    EXPECT_FALSE(actions_.take.isEnabled());
+    marked_ = TimeSpan{0.1, 0.5};
+    actions_.refresh();
+    EXPECT_TRUE(actions_.take.isEnabled());
+    EXPECT_FALSE(actions_.vector.isEnabled());
+    EXPECT_TRUE(actions_.none.isChecked());
+}
+
+TEST_F(RunOutActionsTest, TakenRunOutIsTakenAwayAndCanBeUndone) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    EXPECT_NEAR(largest(*plane_), 0.0, 1e-3);
+    EXPECT_TRUE(actions_.vector.isChecked());
+    bench_.undoStack().undo();
+    EXPECT_EQ(plane_->compensation(), "");
+    EXPECT_NEAR(largest(*plane_), 40.0, 0.1);
+    EXPECT_TRUE(actions_.none.isChecked());
+    bench_.undoStack().redo();
+    EXPECT_EQ(plane_->compensation(), VectorWords);
+    EXPECT_NEAR(largest(*plane_), 0.0, 1e-3);
+}
+
+TEST_F(RunOutActionsTest, FormIsChosenAndRunOutLetBackIn) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    actions_.waveform.trigger();
+    ASSERT_TRUE(becomes(WaveformWords));
+    EXPECT_NEAR(largest(*plane_), 0.0, 0.01);
+    actions_.none.trigger();
+    EXPECT_EQ(plane_->compensation(), "");
+    EXPECT_EQ(&plane_->shown(), &plane_->original());
+    actions_.waveform.trigger();  // the run-out is still known
+    EXPECT_TRUE(becomes(WaveformWords));
+}
+
+TEST_F(RunOutActionsTest, WhatDoubtsTheRunOutIsANoteOfThePlane) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    const std::vector<std::string> notes = plane_->notes();
+    EXPECT_EQ(std::count(notes.begin(), notes.end(),
+                         "run-out taken at 3000 rpm: above 1000 rpm the shaft's own motion is part "
+                         "of it"),
+              1);
+}
+
+TEST_F(RunOutActionsTest, WhatGivesNoneIsReportedInALine) {
+    QSignalSpy reports(&bench_, &Bench::troubled);
+    takeFrom({0.1, 0.101});
+    ASSERT_TRUE(reports.wait());
+    EXPECT_EQ(reports[0][0].toString(),
+              "rotor: the run-out needs a whole turn of the shaft, and there is none between 0.1 s "
+              "and 0.101 s");
+    EXPECT_EQ(plane_->compensation(), "");
+}
+
+TEST_F(RunOutActionsTest, PlaneThatIsGoneMeanwhileIsNoMatter) {
+    takeFrom({0.1, 0.5});
+    Plane* const gone = plane_;
+    plane_ = nullptr;
+    bench_.removePlane(*gone);
+    QTest::qWait(200);
+    EXPECT_TRUE(bench_.planes().empty());
+}
+
+TEST_F(RunOutActionsTest, IsKeptAndRestoredForAnotherPlaneOfTheSameBearing) {
+    EXPECT_FALSE(actions_.runOutOf(*plane_).has_value());
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    const auto kept = actions_.runOutOf(*plane_);
+    ASSERT_TRUE(kept.has_value());
+    EXPECT_EQ(kept->form, CompensationForm::Vector);
+    plane_ = &add();
+    actions_.restore(*plane_, *kept);
+    EXPECT_TRUE(becomes(VectorWords));
+    EXPECT_NEAR(largest(*plane_), 0.0, 1e-3);
+    Recording other = rotor();
+    other.machine.xAngle = 45.0;
+    Plane& elsewhere = add(other);
+    EXPECT_THROW(actions_.restore(elsewhere, *kept), AnalysisError);
+}
+
+}  // namespace
+}  // namespace Rotavue::Workbench
