@@ -67,7 +67,7 @@ std::string OrbitPicture::paint() {
     const GraphScale scale = scaleFor(roughly);
     const bool known = scale.limit > 0.0;
     const PictureHeader header = pictureHeader(
-        scene_, known && shown_.limitsAreAlike() ? std::optional(scale) : std::nullopt);
+        scene_.subject(), known && shown_.limitsAreAlike() ? std::optional(scale) : std::nullopt);
     const bool manual = known && options_.limits != LimitChoice::Auto;
     setAxisDecimals(scene_.host().description, scale.decimals);
     shown_.control().load(settingsFor(options_, scene_,

@@ -11,7 +11,6 @@
 #include <QImage>
 #include <QPixmap>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,9 +25,8 @@ constexpr int PreviewSide = 460;
 constexpr int PreviewDelay = 120;  // ms, so that a spin box can be turned
 constexpr double LargestEntry = 99'999.0;
 
-QString folderOf(QSettings& place) {
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    const QString folder = place.value("folder", pictures).toString();
+QString folderOf(QSettings& place, const QString& usual) {
+    const QString folder = place.value("folder", usual).toString();
     return QDir(folder).exists() ? folder : QDir::currentPath();
 }
 
@@ -71,10 +69,12 @@ ExportDialog::ExportDialog(ExportSubject subject, QWidget* parent)
     buttons->addButton(&save, QDialogButtonBox::AcceptRole);
     right->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    QSettings place;
+    const auto memory = subject_.memory();
+    QSettings& place = *memory;
     place.beginGroup("export/" + subject_.key);
     fill(stored(place, subject_.usual));
-    file.setText(QDir(folderOf(place)).filePath(subject_.name + '.' + endingOf(settings().format)));
+    file.setText(QDir(folderOf(place, subject_.folder))
+                     .filePath(subject_.name + '.' + endingOf(settings().format)));
     connectWidgets();
     changed();
     showPreview();
@@ -108,12 +108,17 @@ QFormLayout* ExportDialog::makeForm() {
     place->addWidget(&file, 1);
     place->addWidget(browseButton);
     auto* form = new QFormLayout;
+    const auto labelled = [](const QString& text, QWidget& buddy) {
+        auto* label = new QLabel(text);
+        label->setBuddy(&buddy);
+        return label;
+    };
     form->addRow(tr("&Kind"), &format);
-    form->addRow(tr("Si&ze"), size);
+    form->addRow(labelled(tr("Si&ze"), width), size);
     form->addRow(QString(), &otherSize);
     form->addRow(tr("&Resolution"), &dotsPerInch);
     form->addRow(QString(), subject_.planes ? &sameScale : &header);
-    form->addRow(tr("&File"), place);
+    form->addRow(labelled(tr("&File"), file), place);
     (subject_.planes ? header : sameScale).setParent(nullptr);
     return form;
 }
@@ -237,7 +242,8 @@ void ExportDialog::saveFile() try {
         say(tr("%1 cannot be written: %2.").arg(path, QString::fromStdString(fault.message())));
         return;
     }
-    QSettings place;
+    const auto memory = subject_.memory();
+    QSettings& place = *memory;
     place.beginGroup("export/" + subject_.key);
     store(settings(), place);
     place.setValue("folder", QFileInfo(path).absolutePath());

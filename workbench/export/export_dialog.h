@@ -13,23 +13,30 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <string>
 
 class QFormLayout;
+class QSettings;
 
 namespace Rotavue::Workbench {
 
 /// Gives the bytes of a picture's file. Raises `std::runtime_error` where there can be none.
 using PicturePainter = std::function<std::string(const PictureOrder&, const ExportSettings&)>;
 
+/// Opens what the program remembers from one start to the next.
+using OpenMemory = std::function<std::unique_ptr<QSettings>()>;
+
 /// What is exported, and how a dialog speaks of it.
 struct ExportSubject {
     QString title;           ///< of the dialog
     QString key;             ///< under which the settings are remembered
+    QString folder;          ///< where the file goes until there is something to remember
     QString name;            ///< of the file, without its ending
     ExportSettings usual;    ///< until there is something to remember
     bool planes = false;     ///< there are several, that could share one scale
     PicturePainter painter;  ///< must not outlive what it paints
+    OpenMemory memory = {};  ///< of the dialog
 };
 
 /// Asks how a picture is to be saved, shows it as it will be, and saves it. A file that is there is

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <filesystem>
 #include <optional>
 #include <utility>
 
@@ -50,6 +51,12 @@ QString fileName(const std::string& name) {
     return text.isEmpty() ? QStringLiteral("orbit") : text.left(80);
 }
 
+/// Beside the recording.
+QString folderOf(const Plane& plane) {
+    const auto folder = std::filesystem::absolute(plane.original().recording.file).parent_path();
+    return QString::fromStdString(folder.string());
+}
+
 std::string paintPlane(Plane& plane, Bench& bench, const PictureOrder& order, bool withHeader) {
     PaintingStudio studio;
     return PlanePicture(plane, bench).paint(studio, order, withHeader);
@@ -65,11 +72,13 @@ void prepare(QAction& action, const char* name, const QString& text, const QKeyS
 
 }  // namespace
 
-OutActions::OutActions(Bench& bench, CurrentPlane current, Tell tell, QWidget& window)
+OutActions::OutActions(Bench& bench, CurrentPlane current, Tell tell, OpenMemory memory,
+                       QWidget& window)
     : QObject(&window),
       bench_(bench),
       current_(std::move(current)),
       tell_(std::move(tell)),
+      memory_(std::move(memory)),
       window_(window) {
     prepare(copyNumbers, "copyNumbers", tr("&Copy numbers"), QKeySequence::Copy,
             tr("The curves' values as a table for a spreadsheet"));
@@ -78,9 +87,10 @@ OutActions::OutActions(Bench& bench, CurrentPlane current, Tell tell, QWidget& w
     prepare(copyPicture, "copyPicture", tr("Copy &picture"),
             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), tr("The current plane as a picture"));
     prepare(exportPicture, "exportPicture", tr("&Export picture..."),
-            QKeySequence(Qt::CTRL | Qt::Key_E), tr("The current plane as PNG, SVG or PDF"));
-    prepare(exportReport, "exportReport", tr("Export &report page..."),
             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
+            tr("The current plane as PNG, SVG or PDF"));
+    prepare(exportReport, "exportReport", tr("Export &report page..."),
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R),
             tr("All planes with their numbers on one page"));
     connect(&copyNumbers, &QAction::triggered, this, [this] { attempt([this] { putNumbers(); }); });
     connect(&copyPicture, &QAction::triggered, this, [this] { attempt([this] { putPicture(); }); });
@@ -131,7 +141,8 @@ void OutActions::putNumbers() {
 void OutActions::putPicture() {
     const auto plane = current();
     if (!plane) return;
-    QSettings place;
+    const auto memory = memory_();
+    QSettings& place = *memory;
     place.beginGroup(QStringLiteral("export/") + PictureKey);
     ExportSettings settings = stored(place, {});
     settings.format = PictureFormat::Png;
@@ -146,6 +157,7 @@ void OutActions::openPicture() {
     if (!plane) return;
     open({.title = tr("Export picture"),
           .key = PictureKey,
+          .folder = folderOf(*plane),
           .name = fileName(plane->name()),
           .usual = {},
           .painter = [this, plane](const PictureOrder& order, const ExportSettings& settings) {
@@ -157,6 +169,7 @@ void OutActions::openReport() {
     if (bench_.planes().empty()) return;
     open({.title = tr("Export report page"),
           .key = "report",
+          .folder = folderOf(*bench_.planes().front()),
           .name = fileName(bench_.planes().front()->name()) + tr(" report"),
           .usual = A4,
           .planes = true,
@@ -168,6 +181,7 @@ void OutActions::openReport() {
 /// The dialog stands in front of the window, and what plays stops: a picture is of one moment.
 void OutActions::open(ExportSubject subject) {
     bench_.playback().pause();
+    subject.memory = memory_;
     auto* dialog = new ExportDialog(std::move(subject), &window_);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this,

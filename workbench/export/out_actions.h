@@ -20,7 +20,7 @@ public:
     using Tell = std::function<void(const QString&)>;
 
     /// Dialogs belong to `window`; `tell` hears of what has been done, in one line.
-    OutActions(Bench& bench, CurrentPlane current, Tell tell, QWidget& window);
+    OutActions(Bench& bench, CurrentPlane current, Tell tell, OpenMemory memory, QWidget& window);
 
     QAction copyNumbers;    ///< what the control itself copies, by message
     QAction copyPicture;    ///< as the last export had it, but as pixels
@@ -43,6 +43,7 @@ private:
     Bench& bench_;
     CurrentPlane current_;
     Tell tell_;
+    OpenMemory memory_;
     QWidget& window_;
 };
 

@@ -1,5 +1,6 @@
 #include "workbench/export/plane_picture.h"
 
+#include "workbench/scene/bearing_facts.h"
 #include "workbench/scene/picture_facts.h"
 #include "workbench/scene/scheme_colors.h"
 
@@ -34,10 +35,15 @@ bool isOn(const Settings& settings, const wchar_t* key) {
     return found != settings.end() && (found->second == L"1" || found->second == L"True");
 }
 
+Background backgroundOf(const Settings& settings) {
+    return isOn(settings, L"graphType") ? Background::Circle : Background::Grid;
+}
+
 std::int32_t ticksOf(const Settings& settings) {
     const auto found = settings.find(L"tickCount");
+    constexpr std::int32_t WhenLeftOut = 5;
     return found == settings.end()
-               ? 0
+               ? WhenLeftOut
                : static_cast<std::int32_t>(std::wcstol(found->second.c_str(), nullptr, 10));
 }
 
@@ -90,12 +96,29 @@ void PlanePicture::setLimit(double limit) {
     alike_ = true;
 }
 
+GraphScale PlanePicture::scaleWith(std::int32_t ticks) const {
+    GraphScale scale = plainScale(limit_, backgroundOf(settings_), ticks);
+    scale.decimals = axisDecimals(plane_.shown().recording);
+    return scale;
+}
+
+void PlanePicture::fit(const PictureArea& area) {
+    constexpr int PlotMargins = 120;  // that the plug-in keeps free, both sides together
+    const ScaleRoom room{.background = backgroundOf(settings_),
+                         .plotSide = std::min(area.width, area.height) - PlotMargins,
+                         .textHeight = area.textHeight};
+    std::int32_t ticks = ticksOf(settings_);
+    // Odd ones, so that a line of the grid runs through 0.
+    while (ticks > 0 && limit_ > 0.0 && !fits(scaleWith(ticks), room))
+        ticks -= ticks % 2 == 0 ? 1 : std::min(ticks, 2);
+    if (ticks == ticksOf(settings_)) return;
+    settings_[L"tickCount"] = std::to_wstring(ticks);
+    control_->load(settings_);
+}
+
 PictureHeader PlanePicture::header() const {
     std::optional<GraphScale> scale;
-    const bool circle = isOn(settings_, L"graphType");
-    if (alike_ && limit_ > 0.0)
-        scale =
-            plainScale(limit_, circle ? Background::Circle : Background::Grid, ticksOf(settings_));
+    if (alike_ && limit_ > 0.0) scale = scaleWith(ticksOf(settings_));
     const Recording& recording = plane_.shown().recording;
     return pictureHeader({.machine = recording.machine,
                           .name = plane_.name(),
@@ -112,6 +135,7 @@ void PlanePicture::draw(const Meridax::Host::Ref<Meridax::Host::IHostCanvas>& ca
 }
 
 std::string PlanePicture::paint(PictureStudio& studio, const PictureOrder& order, bool withHeader) {
+    fit(studio.areaOf(order, withHeader ? header() : PictureHeader{}));
     const PictureHeader strip = withHeader ? header() : PictureHeader{};
     const auto picture = studio.open(order, strip);
     draw(picture->canvas(), studio.areaOf(order, strip));

@@ -7,6 +7,7 @@
 #include "workbench/paint/picture_studio.h"
 #include "workbench/scene/graph_scale.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -34,6 +35,9 @@ public:
     /// Both axes run from -limit to limit.
     void setLimit(double limit);
 
+    /// Takes as many ticks as the axes of an area have room for, at most those of the plane.
+    void fit(const PictureArea& area);
+
     /// What stands in the strip: machine, point, curves, probes, rotation, speed, scale,
     /// compensation and time.
     PictureHeader header() const;
@@ -46,6 +50,7 @@ public:
 
 private:
     void findLimits();
+    GraphScale scaleWith(std::int32_t ticks) const;
 
     Plane& plane_;
     bool wasLight_;

@@ -105,9 +105,12 @@ std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameS
         .title = titleOf(bench), .facts = {fileLine(bench)}, .numbers = tableOf(sheet)};
     for (const auto& picture : pictures) {
         PlanePicture* const plane = picture.get();
-        content.orbits.push_back({plane->header(), [plane](auto canvas, const PictureArea& area) {
-                                      plane->draw(canvas, area);
-                                  }});
+        content.orbits.push_back(
+            {[plane](const PictureArea& area) {
+                 plane->fit(area);
+                 return plane->header();
+             },
+             [plane](auto canvas, const PictureArea& area) { plane->draw(canvas, area); }});
     }
     addNotes(bench, sheet, content);
     return paintReport(content, order);

@@ -158,11 +158,12 @@ private:
                                  .width = place.width(),
                                  .height = place.height(),
                                  .colors = colors_};
-        const PictureArea area = studio_.areaOf(order, orbit.header);
+        const PictureHeader header = orbit.header(studio_.areaOf(order, {}));
+        const PictureArea area = studio_.areaOf(order, header);
         QPainter& painter = file_->painter();
         painter.save();
         painter.translate(place.topLeft());
-        HeaderStrip(orbit.header, order, area.textHeight)
+        HeaderStrip(header, order, area.textHeight)
             .drawOn(painter, colors_, textFormOf(order_.format));
         painter.translate(0, place.height() - area.height);
         {

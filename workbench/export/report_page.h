@@ -8,9 +8,10 @@
 
 namespace Rotavue::Workbench {
 
-/// One orbit of a report: its strip, and who draws it on a canvas of that area.
+/// One orbit of a report: what stands in its strip, given the area without one, and who draws it on
+/// a canvas of the area that is left.
 struct ReportOrbit {
-    PictureHeader header;
+    std::function<PictureHeader(const PictureArea&)> header;
     std::function<void(Meridax::Host::Ref<Meridax::Host::IHostCanvas>, const PictureArea&)> draw;
 };
 

@@ -32,11 +32,13 @@ public:
     explicit PngFile(const PictureShape& shape) : image_(fileSize(shape), QImage::Format_RGB32) {
         if (image_.isNull()) throw PaintError("there is not enough memory for the picture");
         const int dotsPerMetre = static_cast<int>(std::lround(DotsPerInch * shape.scale / 0.0254));
-        image_.setDevicePixelRatio(shape.scale);
+        // Qt takes no ratio below 1 into account.
+        if (shape.scale >= 1.0) image_.setDevicePixelRatio(shape.scale);
         image_.setDotsPerMeterX(dotsPerMetre);
         image_.setDotsPerMeterY(dotsPerMetre);
         image_.fill(Qt::white);
         paintOn(image_);
+        if (shape.scale < 1.0) painter_.scale(shape.scale, shape.scale);
     }
 
     ~PngFile() override { endPainting(); }

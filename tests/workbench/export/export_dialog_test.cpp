@@ -1,5 +1,7 @@
 #include "workbench/export/export_dialog.h"
 
+#include "plugin/framework/host/drawing/host_brush.h"
+#include "plugin/framework/host/drawing/host_pen.h"
 #include "tests/workbench/export/widget_test.h"
 #include "workbench/paint/painting_studio.h"
 
@@ -27,9 +29,11 @@ protected:
     ExportSubject subject(PicturePainter painter = empty) {
         return {.title = "Save the picture",
                 .key = "picture",
+                .folder = {},
                 .name = "bearing",
                 .usual = {},
-                .painter = std::move(painter)};
+                .painter = std::move(painter),
+                .memory = [this] { return memory(); }};
     }
 
     static void press(ExportDialog& dialog) { QTest::mouseClick(&dialog.save, Qt::LeftButton); }
@@ -137,6 +141,29 @@ TEST_F(ExportDialogTest, PreviewHasTheShapeOfThePicture) {
     const QSizeF size = dialog.preview.pixmap().deviceIndependentSize();
     EXPECT_NEAR(size.width(), 460.0, 1.0);
     EXPECT_NEAR(size.height(), 230.0, 1.0);
+}
+
+TEST_F(ExportDialogTest, PreviewShowsAllOfThePicture) {
+    // Red is what lies in the lower right ninth.
+    const auto corner = [](const PictureOrder& order, const ExportSettings&) {
+        PaintingStudio studio;
+        const auto picture = studio.open(order, {});
+        picture->canvas()->GetBrush()->SetColor(0xFF0000);
+        picture->canvas()->GetPen()->SetColor(0xFF0000);
+        picture->canvas()->Rectangle(order.width * 2 / 3, order.height * 2 / 3, order.width,
+                                     order.height);
+        return picture->finish();
+    };
+    for (const double side : {300.0, 900.0, 3000.0}) {
+        ExportDialog dialog(subject(corner));
+        dialog.width.setValue(side);
+        dialog.height.setValue(side);
+        dialog.showPreview();
+        const QImage image = dialog.preview.pixmap().toImage();
+        EXPECT_EQ(image.pixelColor(450, 450), QColor(Qt::red)) << side;
+        EXPECT_EQ(image.pixelColor(320, 320), QColor(Qt::red)) << side;
+        EXPECT_EQ(image.pixelColor(290, 290), QColor(Qt::white)) << side;
+    }
 }
 
 TEST_F(ExportDialogTest, SizeThatCannotBeMadeIsToldAndNotSaved) {

@@ -97,13 +97,15 @@ TEST_F(ExportSettingsTest, ArePutAwayAndComeBack) {
                                   .dotsPerInch = 300,
                                   .header = false,
                                   .sameScale = true};
-    QSettings place;
+    const auto memory = this->memory();
+    QSettings& place = *memory;
     store(settings, place);
     EXPECT_EQ(stored(place, {}), settings);
 }
 
 TEST_F(ExportSettingsTest, NonsenseThatWasPutAwayIsNotTaken) {
-    QSettings place;
+    const auto memory = this->memory();
+    QSettings& place = *memory;
     EXPECT_EQ(stored(place, A4), A4);
     for (const char* width : {"nan", "-5", "1e300", "words"}) {
         store(A4, place);

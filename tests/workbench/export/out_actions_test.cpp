@@ -47,7 +47,7 @@ protected:
     QString told_;
     Plane* current_ = nullptr;
     OutActions out_{bench_, [this] { return current_; }, [this](const QString& t) { told_ = t; },
-                    window_};
+                    [this] { return memory(); }, window_};
 };
 
 TEST_F(OutActionsTest, WithoutAPlaneThereIsNothingToTakeOut) {

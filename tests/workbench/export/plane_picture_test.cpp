@@ -64,6 +64,24 @@ TEST_F(PlanePictureTest, LimitIsTheScreensAndCanBeFixed) {
               true);
 }
 
+TEST_F(PlanePictureTest, HasAsManyTicksAsThereIsRoomFor) {
+    Plane& plane = add();
+    PlanePicture picture(plane, bench_);
+    picture.setLimit(60.0);
+    const auto division = [&](int side) -> std::string {
+        picture.fit({.width = side, .height = side, .textHeight = 14});
+        const auto facts = picture.header().facts;
+        const auto found = std::find_if(facts.begin(), facts.end(), [](const std::string& fact) {
+            return fact.ends_with("/div");
+        });
+        return found == facts.end() ? "" : *found;
+    };
+    // "-60.0" needs 70 pixels from tick to tick; the plot is 120 pixels smaller than its area.
+    EXPECT_EQ(division(800), "20 um/div");  // five ticks: 680 / 6 pixels
+    EXPECT_EQ(division(400), "30 um/div");  // three: 280 / 4
+    EXPECT_EQ(division(300), "60 um/div");  // one: 180 / 2
+}
+
 TEST_F(PlanePictureTest, StripTellsWhatIsShown) {
     Recording recording = rotor();
     recording.machine.machine = "Kit";

@@ -17,7 +17,9 @@ class ReportPageTest : public WidgetTest {
 protected:
     /// An orbit that fills its area and notes it.
     ReportOrbit orbit(std::uint32_t color) {
-        return {{"Bearing", {"direct"}},
+        return {[](const PictureArea&) {
+                    return PictureHeader{"Bearing", {"direct"}};
+                },
                 [this, color](const Meridax::Host::Ref<Meridax::Host::IHostCanvas>& canvas,
                               const PictureArea& area) {
                     areas.push_back(area);

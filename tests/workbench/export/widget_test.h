@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -16,11 +16,8 @@ namespace Rotavue::Workbench {
 /// A folder of a test's own, in which files and the program's memory of the user's choices lie.
 class ScratchSettings {
 public:
-    ScratchSettings() {
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, at("settings"));
-        QCoreApplication::setOrganizationName("Rotavue");
-        QCoreApplication::setApplicationName("rotavue-test");
+    std::unique_ptr<QSettings> memory() const {
+        return std::make_unique<QSettings>(memory_.filePath("test.ini"), QSettings::IniFormat);
     }
 
     QString at(const QString& name) const { return folder_.filePath(name); }
@@ -36,6 +33,7 @@ public:
 
 private:
     QTemporaryDir folder_;
+    QTemporaryDir memory_;
 };
 
 class WidgetTest : public testing::Test, protected ScratchSettings {};

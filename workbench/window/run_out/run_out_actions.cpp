@@ -1,5 +1,6 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
+#include <QFileDialog>
 #include <QKeySequence>
 
 #include <algorithm>
@@ -17,16 +18,6 @@ std::shared_ptr<const PlaneSource> withoutRunOut(const PlaneSource& original,
     return std::make_shared<const PlaneSource>(std::move(recording), original.options);
 }
 
-RunOutActions::Compensated compensatedBy(const PlaneSource& original, CompensationForm form,
-                                         const RunOutActions::SlowRollMaker& make) try {
-    RunOutActions::Compensated result;
-    result.slowRoll = make(original);
-    result.source = withoutRunOut(original, result.slowRoll, form);
-    return result;
-} catch (const std::exception& error) {
-    return {.slowRoll = {}, .source = nullptr, .failure = error.what()};
-}
-
 }  // namespace
 
 std::optional<CompensationForm> compensationOf(const Plane& plane) {
@@ -42,10 +33,10 @@ RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch m
       current_(std::move(current)),
       marked_(std::move(marked)),
       forms_(this) {
-    take.setObjectName("takeRunOut");
-    take.setText(tr("&Take run-out from the marked stretch"));
+    take.setText(tr("&Take from the marked stretch"));
     take.setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_U));
     take.setToolTip(tr("What the probes report in slow roll is run-out: mark whole turns of it"));
+    takeFile.setText(tr("Take from a &recording of slow roll..."));
     none.setText(tr("&Leave run-out in"));
     vector.setText(tr("Compensate 1X and 2X &vectors"));
     waveform.setText(tr("Compensate the &waveform"));
@@ -53,7 +44,8 @@ RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch m
         form->setCheckable(true);
         forms_.addAction(form);
     }
-    connect(&take, &QAction::triggered, this, [this] { takeSlowRoll(); });
+    connect(&take, &QAction::triggered, this, [this] { takeMarked(); });
+    connect(&takeFile, &QAction::triggered, this, [this] { askForFile(); });
     connect(&none, &QAction::triggered, this, [this] { choose(std::nullopt); });
     connect(&vector, &QAction::triggered, this, [this] { choose(CompensationForm::Vector); });
     connect(&waveform, &QAction::triggered, this, [this] { choose(CompensationForm::Waveform); });
@@ -73,6 +65,7 @@ void RunOutActions::refresh() {
     const auto plane = shared(current_());
     const bool known = plane && known_.contains(plane.get());
     take.setEnabled(plane && marked_().has_value());
+    takeFile.setEnabled(plane != nullptr);
     const auto form = plane ? compensationOf(*plane) : std::nullopt;
     for (QAction* action : {&none, &vector, &waveform})
         action->setEnabled(known);
@@ -81,36 +74,75 @@ void RunOutActions::refresh() {
     waveform.setChecked(form == CompensationForm::Waveform);
 }
 
-void RunOutActions::start(Plane& plane, CompensationForm form, SlowRollMaker make) {
+CompensationForm RunOutActions::formFor(const Plane& plane) const {
+    return compensationOf(plane).value_or(CompensationForm::Vector);
+}
+
+RunOutActions::Maker RunOutActions::makerOf(const RunOutSource& source) {
+    return [source](const PlaneSource& original) {
+        if (!source.slowRoll) return takeSlowRoll(original.recording, original.track, source.span);
+        const Recording recording = readRecording(*source.slowRoll, original.options);
+        return takeSlowRoll(recording, ShaftTrack(recording), source.span);
+    };
+}
+
+RunOutActions::Result RunOutActions::resultOf(const PlaneSource& original,
+                                              const RunOutSource& source, const Maker& make) {
+    Result result;
+    try {
+        result.known = {source, make(original)};
+        result.shown = withoutRunOut(original, result.known.slowRoll, source.form);
+    } catch (const std::exception& error) {
+        result.failure = error.what();
+    }
+    return result;
+}
+
+void RunOutActions::start(Plane& plane, const RunOutSource& source, Maker make) {
     // The plane itself belongs to this thread; what the worker reads outlives it there.
-    job_.start([this, place = &plane, form, make = std::move(make),
+    std::unique_ptr<LatestJob>& job = jobs_[&plane];
+    if (!job) job = std::make_unique<LatestJob>();
+    job->start([this, place = &plane, source, make = std::move(make),
                 original = plane.sharedOriginal()]() -> LatestJob::Deliver {
-        const Compensated result = compensatedBy(*original, form, make);
-        return [this, place, form, result] { deliver(place, form, result); };
+        const Result result = resultOf(*original, source, make);
+        return [this, place, result] { deliver(place, result); };
     });
 }
 
-void RunOutActions::deliver(Plane* place, CompensationForm form, const Compensated& result) {
+void RunOutActions::deliver(Plane* place, const Result& result) {
     const auto plane = shared(place);
     if (!plane) return;
-    if (!result.source) {
+    if (!result.shown) {
         bench_.report(QString::fromStdString(plane->name() + ": " + result.failure));
         refresh();
         return;
     }
-    known_[place] = result.slowRoll;
-    bench_.showCompensated(*plane, result.source, compensationText(form));
+    known_[place] = result.known;
+    std::erase_if(taken_, [](const Taken& one) { return one.shown.expired(); });
+    taken_.push_back({result.shown, result.known.source});
+    bench_.showCompensated(*plane, result.shown, compensationText(result.known.source.form));
     refresh();
 }
 
-void RunOutActions::takeSlowRoll() {
+void RunOutActions::takeMarked() {
     Plane* const plane = current_();
     const auto stretch = marked_();
     if (plane == nullptr || !stretch) return;
-    start(*plane, compensationOf(*plane).value_or(CompensationForm::Vector),
-          [span = *stretch](const PlaneSource& original) {
-              return Workbench::takeSlowRoll(original.recording, original.track, span);
-          });
+    const RunOutSource source{.form = formFor(*plane), .span = *stretch};
+    start(*plane, source, makerOf(source));
+}
+
+void RunOutActions::askForFile() {
+    const QString file = QFileDialog::getOpenFileName(
+        nullptr, tr("Recording of slow roll"), {}, tr("Recordings (*.csv *.txt *.wav);;All (*)"));
+    if (!file.isEmpty()) takeFrom(file.toStdString());
+}
+
+void RunOutActions::takeFrom(const std::filesystem::path& slowRoll) {
+    Plane* const plane = current_();
+    if (plane == nullptr) return;
+    const RunOutSource source{.form = formFor(*plane), .slowRoll = slowRoll};
+    start(*plane, source, makerOf(source));
 }
 
 void RunOutActions::choose(std::optional<CompensationForm> form) {
@@ -122,22 +154,20 @@ void RunOutActions::choose(std::optional<CompensationForm> form) {
     }
     const auto known = known_.find(plane);
     if (known == known_.end()) return;
-    start(*plane, *form, [slowRoll = known->second](const PlaneSource&) { return slowRoll; });
+    RunOutSource source = known->second.source;
+    source.form = *form;
+    start(*plane, source,
+          [slowRoll = known->second.slowRoll](const PlaneSource&) { return slowRoll; });
 }
 
-std::optional<PlaneRunOut> RunOutActions::runOutOf(const Plane& plane) const {
-    const auto known = known_.find(&plane);
-    if (known == known_.end()) return std::nullopt;
-    return PlaneRunOut{known->second, compensationOf(plane)};
+std::optional<RunOutSource> RunOutActions::runOutOf(const Plane& plane) const {
+    for (const Taken& one : taken_)
+        if (one.shown.lock().get() == &plane.shown()) return one.source;
+    return std::nullopt;
 }
 
-void RunOutActions::restore(Plane& plane, const PlaneRunOut& runOut) {
-    checkCompensable(plane.original().recording, runOut.slowRoll);
-    known_[&plane] = runOut.slowRoll;
-    if (runOut.form)
-        start(plane, *runOut.form,
-              [slowRoll = runOut.slowRoll](const PlaneSource&) { return slowRoll; });
-    refresh();
+void RunOutActions::restore(Plane& plane, const RunOutSource& source) {
+    start(plane, source, makerOf(source));
 }
 
 }  // namespace Rotavue::Workbench

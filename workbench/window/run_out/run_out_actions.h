@@ -8,43 +8,38 @@
 #include <QActionGroup>
 #include <QObject>
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Rotavue::Workbench {
 
-/// The run-out that is known of a plane, and whether it is taken away.
-struct PlaneRunOut {
-    SlowRoll slowRoll;
-    std::optional<CompensationForm> form;  ///< empty: it stays in
+/// Where the run-out of a plane is taken from, and how it is taken away: enough to do it again.
+struct RunOutSource {
+    CompensationForm form = CompensationForm::Vector;
+    TimeSpan span = {};                                  ///< of slow roll
+    std::optional<std::filesystem::path> slowRoll = {};  ///< unset: the plane's own recording
 };
 
 /// Run-out compensation in a window: takes the run-out of the current plane from the marked stretch
-/// of its recording, and takes it away or lets it back in. What takes long is done off the window's
-/// thread; every change of a plane is undoable; what cannot be done the bench reports.
+/// of its recording, or from a recording of slow roll, and takes it away or lets it back in. What
+/// takes long is done off the window's thread; every change of a plane is undoable; what cannot be
+/// done the bench reports.
 class RunOutActions final : public QObject {
 public:
     /// Tell which plane the user speaks of and which stretch of it is marked.
     using CurrentPlane = std::function<Plane*()>;
     using MarkedStretch = std::function<std::optional<TimeSpan>()>;
 
-    /// Gives the slow roll of a plane, on a worker. Raises `AnalysisError`.
-    using SlowRollMaker = std::function<SlowRoll(const PlaneSource&)>;
-
-    /// What a worker has made of a plane's recording.
-    struct Compensated {
-        SlowRoll slowRoll;
-        std::shared_ptr<const PlaneSource> source;  ///< null where it failed
-        std::string failure = {};
-    };
-
     RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch marked,
                   QObject* parent = nullptr);
 
-    QAction take;      ///< the run-out from the marked stretch; as vectors, unless it was waveform
+    QAction take;      ///< from the marked stretch; in the form that is on, vectors at first
+    QAction takeFile;  ///< from a recording that the user chooses
     QAction none;      ///< lets it back in
     QAction vector;    ///< takes 1X and 2X away
     QAction waveform;  ///< takes all of it away
@@ -52,26 +47,49 @@ public:
     /// To be called when another plane or another stretch has become the current one.
     void refresh();
 
-    /// What is known of a plane, for a file that keeps it.
-    std::optional<PlaneRunOut> runOutOf(const Plane& plane) const;
+    /// Takes it from all of a recording [undoable].
+    void takeFrom(const std::filesystem::path& slowRoll);
 
-    /// The same from a file [undoable where the plane's picture changes]. Raises `AnalysisError`
-    /// for the run-out of another bearing.
-    void restore(Plane& plane, const PlaneRunOut& runOut);
+    /// What is taken away of a plane, for a file that keeps it; nothing where nothing is.
+    std::optional<RunOutSource> runOutOf(const Plane& plane) const;
+
+    /// Takes it away again [undoable]. What does not work is reported, and the plane stays.
+    void restore(Plane& plane, const RunOutSource& source);
 
 private:
+    struct Known {
+        RunOutSource source;
+        SlowRoll slowRoll;
+    };
+    struct Result {
+        Known known;
+        std::shared_ptr<const PlaneSource> shown;  ///< null where it failed
+        std::string failure = {};
+    };
+    struct Taken {
+        std::weak_ptr<const PlaneSource> shown;
+        RunOutSource source;
+    };
+    using Maker = std::function<SlowRoll(const PlaneSource&)>;
+
+    static Maker makerOf(const RunOutSource& source);
+    static Result resultOf(const PlaneSource& original, const RunOutSource& source,
+                           const Maker& make);
     std::shared_ptr<Plane> shared(const Plane* plane) const;
-    void takeSlowRoll();
-    void start(Plane& plane, CompensationForm form, SlowRollMaker make);
-    void deliver(Plane* place, CompensationForm form, const Compensated& result);
+    CompensationForm formFor(const Plane& plane) const;
+    void start(Plane& plane, const RunOutSource& source, Maker make);
+    void deliver(Plane* place, const Result& result);
+    void takeMarked();
+    void askForFile();
     void choose(std::optional<CompensationForm> form);
 
     Bench& bench_;
     CurrentPlane current_;
     MarkedStretch marked_;
     QActionGroup forms_;
-    std::map<const Plane*, SlowRoll> known_;
-    LatestJob job_;
+    std::map<const Plane*, Known> known_;  ///< what was taken last
+    std::vector<Taken> taken_;             ///< by what a plane shows, also after an undo
+    std::map<const Plane*, std::unique_ptr<LatestJob>> jobs_;  ///< of each plane, the newest counts
 };
 
 /// How a plane is compensated, by the words that it holds; empty where it is not.

@@ -1,13 +1,15 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
 #include "tests/workbench/bench/bench_fixture.h"
-#include "workbench/analysis/analysis_error.h"
 
+#include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace Rotavue::Workbench {
 
@@ -112,17 +114,70 @@ TEST_F(RunOutActionsTest, IsKeptAndRestoredForAnotherPlaneOfTheSameBearing) {
     EXPECT_FALSE(actions_.runOutOf(*plane_).has_value());
     takeFrom({0.1, 0.5});
     ASSERT_TRUE(becomes(VectorWords));
+    actions_.waveform.trigger();
+    ASSERT_TRUE(becomes(WaveformWords));
     const auto kept = actions_.runOutOf(*plane_);
     ASSERT_TRUE(kept.has_value());
-    EXPECT_EQ(kept->form, CompensationForm::Vector);
+    EXPECT_EQ(kept->form, CompensationForm::Waveform);
+    EXPECT_EQ(kept->span.from, 0.1);
+    EXPECT_EQ(kept->span.to, 0.5);
+    EXPECT_FALSE(kept->slowRoll.has_value());
     plane_ = &add();
     actions_.restore(*plane_, *kept);
-    EXPECT_TRUE(becomes(VectorWords));
-    EXPECT_NEAR(largest(*plane_), 0.0, 1e-3);
-    Recording other = rotor();
-    other.machine.xAngle = 45.0;
-    Plane& elsewhere = add(other);
-    EXPECT_THROW(actions_.restore(elsewhere, *kept), AnalysisError);
+    EXPECT_TRUE(becomes(WaveformWords));
+    EXPECT_NEAR(largest(*plane_), 0.0, 0.01);
+}
+
+TEST_F(RunOutActionsTest, RestoringReachesEveryPlane) {
+    std::vector<Plane*> planes{plane_};
+    for (int i = 0; i < 3; ++i)
+        planes.push_back(&add());
+    for (Plane* const plane : planes)
+        actions_.restore(*plane, {.span = {0.1, 0.5}});
+    for (Plane* const plane : planes) {
+        plane_ = plane;
+        EXPECT_TRUE(becomes(VectorWords));
+    }
+}
+
+TEST_F(RunOutActionsTest, WhatIsKeptFollowsAnUndo) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    const int before = bench_.undoStack().index();
+    takeFrom({0.2, 0.9});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bench_.undoStack().index() > before; }));
+    EXPECT_EQ(actions_.runOutOf(*plane_)->span.from, 0.2);
+    bench_.undoStack().undo();
+    EXPECT_EQ(actions_.runOutOf(*plane_)->span.from, 0.1);
+    bench_.undoStack().undo();
+    EXPECT_FALSE(actions_.runOutOf(*plane_).has_value());
+}
+
+TEST_F(RunOutActionsTest, ARecordingOfSlowRollGivesItToo) {
+    QTemporaryDir folder;
+    const QString file = folder.filePath("slow.csv");
+    QFile slow(file);
+    ASSERT_TRUE(slow.open(QIODevice::WriteOnly));
+    // A turn in 100 samples; 10 of the plane's 40 um are run-out, in phase with the pulses.
+    slow.write("t,x,y,angle\n");
+    for (int i = 0; i < 1000; ++i)
+        slow.write(QString::asprintf("%.3f,%.6f,0,%.1f\n", i / 1000.0,
+                                     10.0 * std::cos(2.0 * std::numbers::pi * i / 100.0),
+                                     3.6 * (i % 100))
+                       .toUtf8());
+    slow.close();
+    actions_.takeFrom(file.toStdString());
+    ASSERT_TRUE(becomes(VectorWords));
+    EXPECT_NEAR(largest(*plane_), 30.0, 0.05);
+    EXPECT_EQ(actions_.runOutOf(*plane_)->slowRoll, file.toStdString());
+}
+
+TEST_F(RunOutActionsTest, RecordingThatCannotBeReadIsReportedAndNothingChanges) {
+    QSignalSpy reports(&bench_, &Bench::troubled);
+    actions_.restore(*plane_, {.slowRoll = "missing.csv"});
+    ASSERT_TRUE(reports.wait());
+    EXPECT_TRUE(reports[0][0].toString().startsWith("rotor: missing.csv: "));
+    EXPECT_EQ(plane_->compensation(), "");
 }
 
 }  // namespace
