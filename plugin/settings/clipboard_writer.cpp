@@ -34,10 +34,9 @@ void ClipboardWriter::addChannel(Host::IHostChannel& channel) {
 }
 
 void ClipboardWriter::addTitle(Host::IHostChannel& channel) {
-    text_ += inserted(channel.getName());
-    text_ += L" (";
-    text_ += inserted(channel.getUnit());
-    text_ += L")\r\n";
+    const std::wstring name = inserted(channel.getName());
+    const std::wstring unit = inserted(channel.getUnit());
+    if (!full()) text_ += name + L" (" + unit + L")\r\n";
 }
 
 void ClipboardWriter::addSection(Host::IHostChannel& channel, OrbitKind kind) {
@@ -137,6 +136,7 @@ std::int32_t ClipboardWriter::rowsFor(std::int64_t wanted) {
 
 // The numbers fill the columns from the left; a column without one stays empty.
 void ClipboardWriter::addRow(std::initializer_list<double> numbers) {
+    if (full()) return;
     const double* next = numbers.begin();
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         if (i > 0) text_ += L'\t';

@@ -6,6 +6,7 @@
 #include "plugin/orbit_graph/orbit_curve.h"
 #include "plugin/orbit_graph/phasor.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <initializer_list>
@@ -30,7 +31,12 @@ public:
     /// spreadsheets, and more than ten seconds at 100 kHz. Rows beyond are left out.
     static constexpr std::int64_t MostRows = 1'048'576;
 
+    /// How long the text grows before rows and titles are left out: 32 characters for each of so
+    /// many rows. A number can have 300 digits, and a name a million characters.
+    static constexpr std::size_t MostCharacters = std::size_t{32} * MostRows;
+
 private:
+    bool full() const { return text_.size() >= MostCharacters; }
     void addTitle(Host::IHostChannel& channel);
     void addSection(Host::IHostChannel& channel, OrbitKind kind);
     void addWindow(Host::IHostChannel& channel, Host::IHostChannel* tacho);

@@ -16,7 +16,7 @@ using HostKit::MessageValue;
 using Meridax::VisualControls::Api::MessageCode;
 
 /// A host that is called more often than this fails from then on: an input ends within a second.
-constexpr std::size_t MostCalls = 100'000;
+constexpr std::size_t MostCalls = 30'000;
 constexpr int DeepestMessage = 3;
 constexpr std::size_t MostChannels = 7;
 

@@ -190,6 +190,23 @@ TEST_F(ClipboardSection, EndsAfterAsManyRowsAsASheetHas) {
     EXPECT_TRUE(text.ends_with(L" ()\r\nX\tY\r\n3.000\t4.000\r\n\r\n"));
 }
 
+TEST_F(ClipboardSection, LeavesOutRowsAndTitlesOfATextThatIsTooLong) {
+    // 400 orders of 360 rows, nearly each of two numbers with 154 digits and 4 characters more: 45
+    // million characters.
+    const std::vector<double> large(800, 1e153);
+    describeArray("harmonic", L"Harmonic", large, large);
+    describeArray("reference", L"Reference", {1}, {2}).name = L"after it";
+    ASSERT_TRUE(key.checkBearingConfig());
+    ClipboardWriter writer(control);
+    writer.addChannel(*host.channel("harmonic"));
+    writer.addChannel(*host.channel("reference"));
+    const std::wstring text = writer.takeText();
+    constexpr std::size_t LongestRow = 400;
+    EXPECT_GE(text.size(), ClipboardWriter::MostCharacters);
+    EXPECT_LT(text.size(), ClipboardWriter::MostCharacters + LongestRow);
+    EXPECT_EQ(text.find(L"after it"), std::wstring::npos);
+}
+
 TEST_F(ClipboardSection, HasNoRowsForCountsBelowZero) {
     describeShaftCenter("center").sampleCount = -5;
     describeArray("reference", L"Reference", {1}, {2}).arraySize = -5;
