@@ -41,6 +41,12 @@ if(ROTAVUE_SANITIZE)
     set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
 endif()
 
+if(ROTAVUE_SANITIZE_THREADS)
+    target_compile_options(rotavue_options INTERFACE -fsanitize=thread)
+    target_link_options(rotavue_options INTERFACE -fsanitize=thread)
+    set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
+endif()
+
 if(ROTAVUE_FUZZ)
     set(instruments -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
     target_compile_options(rotavue_options INTERFACE ${instruments} -fno-omit-frame-pointer)

@@ -28,11 +28,11 @@ TEST(ReadingProgressTest, GoesOnWithoutAWatch) {
 
 class ReadingWatchTest : public ScratchFolder {
 protected:
-    // Some four chunks of text: 400,000 rows of twelve bytes and more.
+    // Some five chunks of text: 30,000 rows of 160 bytes and more.
     std::filesystem::path longTable() const {
-        std::string text = "t,x,y\n";
-        for (int i = 0; i < 400'000; ++i)
-            text += std::to_string(i) + ",1,2.5\n";
+        std::string text = "t,x,y,rest\n";
+        for (int i = 0; i < 30'000; ++i)
+            text += std::to_string(i) + ",1,2.5,0." + std::string(150, '0') + '\n';
         return write("long.csv", text);
     }
     std::filesystem::path longWav() const {
