@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string_view>
 #include <type_traits>
 
@@ -66,16 +67,15 @@ struct ClassOf<Result (Class::*)(Arguments...)> {
     using Type = Class;
 };
 
-template <class Left, class Right>
-constexpr bool isSame(Left left, Right right) {
-    if constexpr (std::is_same_v<Left, Right>) return left == right;
-    return false;
-}
+/// Tells pointers to virtual operations apart by their types: whether two of them compare equal is
+/// left open by the language.
+template <auto Member>
+struct MemberTag {};
 
 /// The one of the operations that is `Member`.
 template <auto Member, class First, class... Rest>
 consteval auto findOperation(OperationList<First, Rest...>) {
-    if constexpr (isSame(First::Call, Member))
+    if constexpr (std::is_same_v<MemberTag<First::Call>, MemberTag<Member>>)
         return std::type_identity<First>{};
     else
         return findOperation<Member>(OperationList<Rest...>{});
