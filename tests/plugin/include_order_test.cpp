@@ -133,7 +133,9 @@ INSTANTIATE_TEST_SUITE_P(
              "neither ours nor of the standard library"},
         Edge{"module/x.cpp", "#include <unistd.h>", "neither ours nor of the standard library"},
         Edge{"module/portable/x.cpp", "#include <unistd.h>", ""},
-        Edge{"module/windows/x.cpp", "#include <oaidl.h>", ""}));
+        Edge{"module/windows/x.cpp", "#include <oaidl.h>", ""},
+        Edge{"module/windows/x.cpp", "#include \"plugin/orbit_control/x.h\"",
+             "against the order"}));
 
 TEST(IncludeCycle, IsFoundWhereThereIsOne) {
     EXPECT_EQ(cycleIn({{"a", {"b"}}, {"b", {"c", "d"}}, {"d", {"b"}}}), "b -> d -> b");
