@@ -5,7 +5,9 @@
 #include "host_kit/memory/utf8.h"
 #include "plugin/module/windows/interfaces/platform_guid.h"
 
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace Rotavue::HostKit {
 
@@ -41,23 +43,6 @@ class ControlClass {
 public:
     virtual ~ControlClass() = default;
     virtual HRESULT create(void** control) = 0;
-};
-
-/// The registered class: the component model finds the file.
-class RegisteredClass final : public ControlClass {
-public:
-    explicit RegisteredClass(const std::wstring& classId) {
-        const HRESULT status = ::CLSIDFromString(classId.c_str(), &classId_);
-        if (FAILED(status)) throw LoadError(failure(toUtf8(classId) + " names no class", status));
-    }
-
-    HRESULT create(void** control) override {
-        return ::CoCreateInstance(classId_, nullptr, CLSCTX_INPROC_SERVER, PluginInterface,
-                                  control);
-    }
-
-private:
-    CLSID classId_{};
 };
 
 /// The class of a file that nobody has registered.
@@ -102,9 +87,33 @@ private:
     ComRef<::IClassFactory> factory_;
 };
 
+/// The registered class: the component model finds the file. A program that runs as administrator
+/// is not shown the classes of a user's own registry; then the file that the registry names is it.
+class RegisteredClass final : public ControlClass {
+public:
+    explicit RegisteredClass(std::filesystem::path file) : file_(std::move(file)) {
+        const std::wstring text = registeredClass().value_or(L"");
+        const HRESULT status = ::CLSIDFromString(text.c_str(), &classId_);
+        if (FAILED(status)) throw LoadError(failure(toUtf8(text) + " names no class", status));
+    }
+
+    HRESULT create(void** control) override {
+        const HRESULT status =
+            ::CoCreateInstance(classId_, nullptr, CLSCTX_INPROC_SERVER, PluginInterface, control);
+        if (status != REGDB_E_CLASSNOTREG) return status;
+        if (!ofFile_) ofFile_.emplace(file_);
+        return ofFile_->create(control);
+    }
+
+private:
+    std::filesystem::path file_;
+    CLSID classId_{};
+    std::optional<ClassOfFile> ofFile_;
+};
+
 std::unique_ptr<ControlClass> classOf(const ModuleChoice& choice) {
     if (!choice.registered) return std::make_unique<ClassOfFile>(choice.file);
-    return std::make_unique<RegisteredClass>(registeredClass().value_or(L""));
+    return std::make_unique<RegisteredClass>(choice.file);
 }
 
 }  // namespace
