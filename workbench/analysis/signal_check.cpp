@@ -15,43 +15,58 @@ constexpr double LeastShareAtLimit = 0.01;
 constexpr std::size_t LeastRun = 4;
 constexpr std::size_t LeastTimesNext = 8;
 
-std::vector<double> valuesOf(const std::vector<double>& probe, double sign) {
-    std::vector<double> values;
-    values.reserve(probe.size());
-    for (const double value : probe) {
-        if (std::isfinite(value)) values.push_back(sign * value);
+// What a probe has values for; gaps are left out, here and below.
+struct ValueRange {
+    std::size_t count = 0;
+    double least = std::numeric_limits<double>::infinity();
+    double most = -std::numeric_limits<double>::infinity();
+};
+
+ValueRange rangeOf(const std::vector<double>& values) {
+    ValueRange range;
+    for (const double value : values) {
+        if (!std::isfinite(value)) continue;
+        ++range.count;
+        range.least = std::min(range.least, value);
+        range.most = std::max(range.most, value);
     }
-    return values;
+    return range;
 }
 
-double largestBelow(const std::vector<double>& values, double bound) {
-    double largest = -std::numeric_limits<double>::infinity();
+std::size_t timesOf(const std::vector<double>& values, double sought) {
+    return static_cast<std::size_t>(std::count(values.begin(), values.end(), sought));
+}
+
+// The value nearest to a limit on its inner side; `sign` is that of the way to the limit.
+double nextTo(const std::vector<double>& values, double limit, double sign) {
+    double next = -std::numeric_limits<double>::infinity();
     for (const double value : values) {
-        if (value < bound) largest = std::max(largest, value);
+        if (sign * value < sign * limit) next = std::max(next, sign * value);
     }
-    return largest;
+    return sign * next;
 }
 
 std::size_t longestRunOf(const std::vector<double>& values, double sought) {
     std::size_t longest = 0;
     std::size_t run = 0;
     for (const double value : values) {
+        if (!std::isfinite(value)) continue;
         run = value == sought ? run + 1 : 0;
         longest = std::max(longest, run);
     }
     return longest;
 }
 
-// The share of the values at the largest one if they are clipped there; else 0.
-double clippedShare(const std::vector<double>& values, double largest) {
-    const auto timesOf = [&](double value) {
-        return static_cast<std::size_t>(std::count(values.begin(), values.end(), value));
-    };
-    const std::size_t atLimit = timesOf(largest);
-    const double share = static_cast<double>(atLimit) / static_cast<double>(values.size());
-    const std::size_t atNext = timesOf(largestBelow(values, largest));
-    const bool clipped = share >= LeastShareAtLimit && atLimit >= LeastTimesNext * atNext &&
-                         longestRunOf(values, largest) >= LeastRun;
+// The share of the values at a limit if they are clipped there; else 0. Hardly any are at the limit
+// of a signal that is not: that much is known from one look at the values.
+double clippedShare(const std::vector<double>& values, std::size_t count, double limit,
+                    double sign) {
+    const std::size_t atLimit = timesOf(values, limit);
+    const double share = static_cast<double>(atLimit) / static_cast<double>(count);
+    if (share < LeastShareAtLimit) return 0.0;
+    const std::size_t atNext = timesOf(values, nextTo(values, limit, sign));
+    const bool clipped =
+        atLimit >= LeastTimesNext * atNext && longestRunOf(values, limit) >= LeastRun;
     return clipped ? share : 0.0;
 }
 
@@ -61,16 +76,15 @@ public:
         : name_(std::move(name)), probe_(probe), unit_(std::move(unit)) {}
 
     void addNotes(std::vector<std::string>& notes) const {
-        const std::vector<double> values = valuesOf(probe_, 1.0);
-        if (values.size() < probe_.size()) notes.push_back(gapNote(values.size()));
-        if (values.empty()) return;
-        const auto [least, most] = std::minmax_element(values.begin(), values.end());
-        if (*least == *most) {
-            notes.push_back(name_ + " stands still at " + shown(*most));
+        const ValueRange range = rangeOf(probe_);
+        if (range.count < probe_.size()) notes.push_back(gapNote(range.count));
+        if (range.count == 0) return;
+        if (range.least == range.most) {
+            notes.push_back(name_ + " stands still at " + shown(range.most));
             return;
         }
-        addClipNote(clippedShare(values, *most), *most, notes);
-        addClipNote(clippedShare(valuesOf(probe_, -1.0), -*least), *least, notes);
+        addClipNote(clippedShare(probe_, range.count, range.most, 1.0), range.most, notes);
+        addClipNote(clippedShare(probe_, range.count, range.least, -1.0), range.least, notes);
     }
 
 private:

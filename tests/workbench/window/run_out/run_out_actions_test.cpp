@@ -1,6 +1,7 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
 #include "tests/workbench/bench/bench_fixture.h"
+#include "workbench/window/run_out/run_out_keeper.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -126,6 +127,22 @@ TEST_F(RunOutActionsTest, IsKeptAndRestoredForAnotherPlaneOfTheSameBearing) {
     actions_.restore(*plane_, *kept);
     EXPECT_TRUE(becomes(WaveformWords));
     EXPECT_NEAR(largest(*plane_), 0.0, 0.01);
+}
+
+TEST_F(RunOutActionsTest, GoesThroughAViewAndBack) {
+    const CompensationKeeper keeper = runOutKeeper(actions_);
+    EXPECT_FALSE(keeper.taken(*plane_));
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    actions_.waveform.trigger();
+    ASSERT_TRUE(becomes(WaveformWords));
+    const auto saved = keeper.taken(*plane_);
+    ASSERT_TRUE(saved);
+    EXPECT_EQ(saved->form, "waveform");
+    EXPECT_EQ(saved->span.to, 0.5);
+    plane_ = &add();
+    keeper.take(*plane_, *saved);
+    EXPECT_TRUE(becomes(WaveformWords));
 }
 
 TEST_F(RunOutActionsTest, RestoringReachesEveryPlane) {
