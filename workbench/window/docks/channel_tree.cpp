@@ -115,7 +115,9 @@ QTreeWidget* channelTree() {
     tree->setObjectName("Channels");
     tree->setColumnCount(2);
     tree->setHeaderLabels({ChannelTree::tr("Channel"), ChannelTree::tr("Kind")});
+    tree->header()->setStretchLastSection(false);
     tree->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    tree->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     tree->setContextMenuPolicy(Qt::ActionsContextMenu);
     tree->setUniformRowHeights(true);
     tree->setIndentation(tree->fontMetrics().height());

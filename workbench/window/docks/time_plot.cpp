@@ -44,7 +44,7 @@ TimePlot::TimePlot(QWidget* parent) : QWidget(parent), colors_(plotColors(palett
     setToolTip(
         tr("Drag: move the cursor. Ctrl+drag or [ and ]: mark a stretch; Delete: unmark.\n"
            "Wheel: zoom (Shift: time alone, Ctrl: values alone); + and -: zoom the time.\n"
-           "Page Up, Page Down: turn over. Double click or 0: show everything."));
+           "Ctrl+Left, Ctrl+Right: turn over. Double click or 0: show everything."));
 }
 
 void TimePlot::setLanes(std::vector<PlotLane> lanes) {
@@ -178,21 +178,24 @@ void TimePlot::wheelEvent(QWheelEvent* event) {
 }
 
 void TimePlot::keyPressEvent(QKeyEvent* event) {
+    const bool turns = event->modifiers().testFlag(Qt::ControlModifier);
     const double page = time_.length();
     switch (lanes_.empty() ? 0 : event->key()) {
         case Qt::Key_Plus:
             return showTime(zoomed(time_, cursor_, 0.5));
         case Qt::Key_Minus:
             return showTime(zoomed(time_, cursor_, 2.0));
-        case Qt::Key_PageUp:
+        case Qt::Key_Left:
+            if (!turns) return QWidget::keyPressEvent(event);
             return showTime({time_.from - page, time_.to - page});
-        case Qt::Key_PageDown:
+        case Qt::Key_Right:
+            if (!turns) return QWidget::keyPressEvent(event);
             return showTime({time_.from + page, time_.to + page});
         case Qt::Key_0:
             return resetView();
-        case Qt::Key_BracketLeft:
+        case Qt::Key_I:
             return markFromCursor(true);
-        case Qt::Key_BracketRight:
+        case Qt::Key_O:
             return markFromCursor(false);
         case Qt::Key_Delete:
             if (mark_) changeMark({});

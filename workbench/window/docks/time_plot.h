@@ -32,10 +32,10 @@ struct PlotLane {
 /// user marks.
 ///
 ///     drag                       moves the cursor
-///     Ctrl+drag, [ and ]         marks a stretch; its begin and its end at the cursor; Delete
+///     Ctrl+drag, I and O         marks a stretch; its begin and its end at the cursor; Delete
 ///     wheel                      zooms about the pointer; Shift: time alone, Ctrl: values alone
 ///     + and -                    zoom the time about the cursor
-///     Page Up, Page Down         the stretch before, the next one
+///     Ctrl+Left, Ctrl+Right      the stretch before, the next one
 ///     double click, 0            shows everything
 ///
 /// The traces are painted once for each view into a pixmap; moving the cursor paints that pixmap
