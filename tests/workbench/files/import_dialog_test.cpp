@@ -174,5 +174,15 @@ TEST_F(ImportDialogTest, KeepsAMachineFileUnlessToldNotToAndAsksAgainUnlessToldN
     EXPECT_TRUE(dialog_->findChild<QCheckBox*>("keepBeside")->text().contains("r.machine.json"));
 }
 
+// For the eye: build/screenshots/import-dialog.png.
+TEST_F(ImportDialogTest, CanBeLookedAt) {
+    open();
+    nameProbes();
+    type("clearanceWidth", "120");
+    EXPECT_FALSE(press());
+    std::filesystem::create_directories(ROTAVUE_SCREENSHOTS_FOLDER);
+    EXPECT_TRUE(dialog_->grab().save(ROTAVUE_SCREENSHOTS_FOLDER "/import-dialog.png"));
+}
+
 }  // namespace
 }  // namespace Rotavue::Workbench
