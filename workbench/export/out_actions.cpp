@@ -92,6 +92,8 @@ OutActions::OutActions(Bench& bench, CurrentPlane current, Tell tell, OpenMemory
     prepare(exportReport, "exportReport", tr("Export &report page..."),
             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R),
             tr("All planes with their numbers on one page"));
+    for (QAction* action : actions())
+        action->setParent(this);
     connect(&copyNumbers, &QAction::triggered, this, [this] { attempt([this] { putNumbers(); }); });
     connect(&copyPicture, &QAction::triggered, this, [this] { attempt([this] { putPicture(); }); });
     connect(&exportPicture, &QAction::triggered, this,
@@ -112,7 +114,7 @@ void OutActions::attempt(Deed deed) {
 }
 
 void OutActions::refresh() {
-    for (QAction* action : {&copyNumbers, &copyPicture, &exportPicture, &exportReport})
+    for (QAction* action : actions())
         action->setEnabled(!bench_.planes().empty());
 }
 

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QWidget>
 
+#include <array>
 #include <functional>
 #include <memory>
 
@@ -28,6 +29,9 @@ public:
     QAction exportReport;   ///< likewise
 
 private:
+    std::array<QAction*, 4> actions() {
+        return {&copyNumbers, &copyPicture, &exportPicture, &exportReport};
+    }
     void refresh();
     std::shared_ptr<Plane> current() const;
     void putNumbers();

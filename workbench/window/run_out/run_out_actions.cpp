@@ -33,6 +33,15 @@ RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch m
       current_(std::move(current)),
       marked_(std::move(marked)),
       forms_(this) {
+    const auto name = [this](QAction& action, const char* objectName) {
+        action.setObjectName(objectName);
+        action.setParent(this);
+    };
+    name(take, "takeRunOut");
+    name(takeFile, "takeRunOutFile");
+    name(none, "leaveRunOut");
+    name(vector, "compensateVector");
+    name(waveform, "compensateWaveform");
     take.setText(tr("&Take from the marked stretch"));
     take.setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_U));
     take.setToolTip(tr("What the probes report in slow roll is run-out: mark whole turns of it"));
