@@ -1,8 +1,8 @@
 #include "cli/recording_facts.h"
 
-#include "workbench/scene/fact_words.h"
 #include "cli/json_values.h"
 #include "cli/signal_span.h"
+#include "workbench/scene/fact_words.h"
 
 namespace Rotavue::Cli {
 

@@ -7,6 +7,7 @@
 #include "cli/render_command.h"
 #include "cli/session_painting.h"
 #include "cli/setup_command.h"
+#include "cli/view_command.h"
 
 namespace Rotavue::Cli {
 
@@ -16,6 +17,7 @@ constexpr const char* Help =
     "Orbit plots of rotating shafts\n\n"
     "Examples:\n"
     "  rotavue render unbalance.csv -o unbalance.png\n"
+    "  rotavue view unbalance.csv\n"
     "  rotavue info unbalance.csv\n"
     "  rotavue analyze unbalance.csv\n"
     "  rotavue register --user\n"
@@ -27,6 +29,7 @@ constexpr const char* Help =
 Program makeProgram() {
     Program program{Help, {}};
     program.commands.push_back(std::make_unique<RenderCommand>());
+    program.commands.push_back(std::make_unique<ViewCommand>());
     program.commands.push_back(std::make_unique<InfoCommand>());
     program.commands.push_back(std::make_unique<AnalyzeCommand>());
     program.commands.push_back(std::make_unique<CopyCommand>());

@@ -168,7 +168,7 @@ void FileActions::showPendingView() {
 void FileActions::addRecording(const LoadRequest& request, PreparedPlane& plane) {
     const bool fresh = viewFile_.isEmpty() && bench_.undoStack().isClean();
     try {
-        PlaneSetup setup{.settings = first_};
+        PlaneSetup setup{.curves = curves_, .settings = first_};
         setup.options.reference = request.options;
         bench_.addPlane(std::move(plane), setup);
     } catch (const std::exception& error) {

@@ -44,6 +44,9 @@ public:
     /// What controls begin with; unset: what suits the recording.
     void setFirstSettings(std::optional<Settings> settings) { first_ = std::move(settings); }
 
+    /// The curves that recordings are first shown with; the raw orbit unless set.
+    void setFirstCurves(std::vector<CurveRequest> curves) { curves_ = std::move(curves); }
+
     void setCompensationKeeper(CompensationKeeper keeper) { keeper_ = std::move(keeper); }
 
     /// The view's file; empty for a view that has none yet.
@@ -96,6 +99,7 @@ private:
     QString viewFile_;
     std::optional<PendingView> pending_;
     std::optional<Settings> first_;
+    std::vector<CurveRequest> curves_{CurveRequest{}};
     QMenu* recentMenu_;
     MessageBar* messages_;
     LoadingBar* loading_;

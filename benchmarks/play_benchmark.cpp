@@ -1,0 +1,93 @@
+#include "host_kit/loader/module.h"
+#include "workbench/bench/bench.h"
+#include "workbench/window/orbit_view.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+
+#include <cmath>
+#include <memory>
+#include <vector>
+
+/// What a moment costs while four planes play: the cursor moves on by a thirtieth of a second and
+/// each control draws its frame, 10,000 points of 25 turns, into 500 x 420 pixels of the screen's
+/// form. benchmarks/README.md has the figures.
+namespace Rotavue::Benchmarks {
+namespace {
+
+using namespace Workbench;
+
+constexpr double SampleRate = 20'000.0;
+constexpr double TurnsPerSecond = 50.0;
+constexpr double Pi = 3.141592653589793;
+
+/// 400 samples a turn, of a shaft that whirls: turns never lie on each other.
+Recording whirling(double seconds) {
+    Recording recording;
+    recording.file = "whirl.csv";
+    recording.sampleRate = SampleRate;
+    recording.machine.unit = "um";
+    recording.machine.xAngle = 45.0;
+    recording.machine.yAngle = 315.0;
+    for (int i = 0; i < static_cast<int>(seconds * SampleRate); ++i) {
+        const double turns = TurnsPerSecond * i / SampleRate;
+        const double angle = 2.0 * Pi * turns;
+        recording.x.push_back(40.0 * std::cos(angle) + 7.0 * std::cos(0.4301 * angle));
+        recording.y.push_back(30.0 * std::sin(angle) + 7.0 * std::sin(0.4301 * angle));
+        recording.angle.push_back(360.0 * (turns - std::floor(turns)));
+    }
+    return recording;
+}
+
+class FourPlanes {
+public:
+    FourPlanes() {
+        for (int i = 0; i < 4; ++i) {
+            Plane& plane = bench_.addPlane(preparePlane(whirling(4.0)));
+            Settings settings = plane.settings();
+            settings[L"revolutions"] = L"25";
+            plane.load(settings);
+            views_.push_back(std::make_unique<OrbitView>(bench_, bench_.planes().back()));
+            views_.back()->resize(500, 420);
+        }
+        bench_.setCursor(1.0);
+        bench_.playback().play();
+    }
+
+    void frame(QImage& screen) {
+        constexpr double FrameTime = 1.0 / 30.0;
+        bench_.playback().advance(FrameTime);
+        for (const auto& view : views_)
+            view->render(&screen);
+    }
+
+private:
+    Bench bench_{std::make_shared<HostKit::Module>(HostKit::programFolder() / "Rotavue64.vc")};
+    std::vector<std::unique_ptr<OrbitView>> views_;
+};
+
+void playFourPlanes(benchmark::State& state) {
+    const double scale = static_cast<double>(state.range(0));
+    FourPlanes planes;
+    QImage screen(QSize(500, 420) * state.range(0), QImage::Format_RGB32);
+    screen.setDevicePixelRatio(scale);
+    for ([[maybe_unused]] auto _ : state)
+        planes.frame(screen);
+    state.counters["frames"] =
+        benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+BENCHMARK(playFourPlanes)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace Rotavue::Benchmarks
+
+int main(int count, char** arguments) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(count, arguments);
+    benchmark::Initialize(&count, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,19 @@
+#include "workbench/window/file_part.h"
+
+#include "workbench/files/file_actions.h"
+#include "workbench/window/app_settings.h"
+#include "workbench/window/main_window.h"
+
+namespace Rotavue::Workbench {
+
+void addFiles(MainWindow& window) {
+    QSettings* settings = appSettings().release();
+    settings->setParent(&window);
+    auto* files = new FileActions(window.bench(), window, window.fileMenu(), *settings);
+    window.addBar(files->loading());
+    window.addBar(files->messages());
+    window.addCloseCheck([files] { return files->mayLoseChanges(); });
+    QObject::connect(files, &FileActions::viewFileChanged, &window, &MainWindow::setViewName);
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host_kit/memory/description.h"
+
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QPoint>
+
+namespace Rotavue::Workbench {
+
+/// A line edit that lies over a text of a control while the user changes it. Return accepts,
+/// Escape and a click elsewhere do not; afterwards the widget below has the focus again.
+class LimitEditor : public QLineEdit {
+    Q_OBJECT
+
+public:
+    /// Over `below`, which owns it and takes the focus afterwards.
+    explicit LimitEditor(QWidget& below);
+    ~LimitEditor() override;
+
+    /// Lets the user change the text, the editor's middle at a point of the widget below but inside
+    /// it. Returns when the user has finished; until then the application goes on, and everything
+    /// else is drawn and answers. One at a time: a second call ends the first.
+    HostKit::EditAnswer edit(QPoint place, const QString& text);
+
+    bool isEditing() const { return loop_.isRunning(); }
+
+    /// Ends the editing as Escape does.
+    void cancel();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    enum Result { Cancelled, Accepted };
+
+    void placeAt(QPoint place, const QString& text);
+
+    QWidget& below_;
+    QEventLoop loop_;
+};
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,250 @@
+#include "workbench/window/main_window.h"
+
+#include "workbench/window/about_box.h"
+#include "workbench/window/app_settings.h"
+#include "workbench/window/window_parts.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+/// Grows when docks come or go, so that an old layout is not forced on new docks.
+constexpr int LayoutVersion = 1;
+
+constexpr const char* GeometryKey = "window/geometry";
+constexpr const char* LayoutKey = "window/layout";
+constexpr const char* ThemeKey = "window/theme";
+
+constexpr QSize UsualSize{1280, 800};
+
+}  // namespace
+
+MainWindow::MainWindow(std::shared_ptr<HostKit::Module> module)
+    : bench_(std::move(module)),
+      tiles_(bench_),
+      transport_(bench_, tiles_),
+      facts_(bench_, tiles_, *statusBar()) {
+    setObjectName("mainWindow");
+    qApp->installEventFilter(&plainKeys_);
+    setDockNestingEnabled(true);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    resize(UsualSize);
+    makeCentre();
+    makeMenus();
+    addWindowParts(*this);
+    makeViewMenu();
+    makeHelpMenu();
+    makeToolTips();
+    sizeDocks();
+    firstLayout_ = saveState(LayoutVersion);
+    connect(&bench_, &Bench::planesChanged, this, &MainWindow::showTitle);
+    connect(&bench_.undoStack(), &QUndoStack::cleanChanged, this, &MainWindow::showTitle);
+    setTheme(themeNamed(appSettings()->value(ThemeKey).toString()));
+    showTitle();
+}
+
+MainWindow::~MainWindow() {
+    bench_.disconnect(this);
+    bench_.undoStack().disconnect(this);
+}
+
+void MainWindow::makeCentre() {
+    centre_ = new QWidget(this);
+    auto* column = new QVBoxLayout(centre_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    column->addWidget(&tiles_, 1);
+    column->addWidget(&transport_);
+    setCentralWidget(centre_);
+}
+
+void MainWindow::addBar(QWidget& bar) {
+    static_cast<QVBoxLayout*>(centre_->layout())->insertWidget(0, &bar);
+}
+
+QAction& MainWindow::addAction(QMenu& menu, const QString& name, const QString& text,
+                               const QKeySequence& key, std::function<void()> run) {
+    QAction* action = menu.addAction(text);
+    action->setObjectName(name);
+    action->setShortcut(key);
+    const QString words = QString(text).remove('&');
+    action->setToolTip(key.isEmpty() ? words
+                                     : words + " (" + key.toString(QKeySequence::NativeText) + ')');
+    connect(action, &QAction::triggered, this, std::move(run));
+    return *action;
+}
+
+void MainWindow::makeMenus() {
+    fileMenu_ = menuBar()->addMenu(tr("&File"));
+    editMenu_ = menuBar()->addMenu(tr("&Edit"));
+    viewMenu_ = menuBar()->addMenu(tr("&View"));
+    timeMenu_ = menuBar()->addMenu(tr("&Time"));
+    helpMenu_ = menuBar()->addMenu(tr("&Help"));
+    QAction* undo = bench_.undoStack().createUndoAction(this);
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* redo = bench_.undoStack().createRedoAction(this);
+    redo->setShortcut(QKeySequence::Redo);
+    editMenu_->addActions({undo, redo});
+    editMenu_->addSeparator();
+    timeMenu_->addActions(transport_.timeActions());
+}
+
+void MainWindow::makeViewMenu() {
+    addAction(*viewMenu_, "nextPlane", tr("&Next plane"), Qt::CTRL | Qt::Key_Tab,
+              [this] { tiles_.step(1); });
+    addAction(*viewMenu_, "previousPlane", tr("&Previous plane"),
+              Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { tiles_.step(-1); });
+    addAction(*viewMenu_, "equalAxes", tr("One scale for both &axes"), Qt::CTRL | Qt::Key_E,
+              [this] { facts_.makeEqual(); });
+    makeThemeMenu();
+    viewMenu_->addSeparator();
+    for (QDockWidget* dock : findChildren<QDockWidget*>())
+        viewMenu_->addAction(dock->toggleViewAction());
+    addAction(*viewMenu_, "resetLayout", tr("&Reset layout"), {}, [this] { resetLayout(); });
+    fileMenu_->addSeparator();
+    addAction(*fileMenu_, "closePlane", tr("&Close plane"), QKeySequence::Close,
+              [this] { closeCurrent(); });
+    addAction(*fileMenu_, "quit", tr("&Quit"), QKeySequence::Quit, [this] { close(); });
+}
+
+void MainWindow::makeThemeMenu() {
+    QMenu* menu = viewMenu_->addMenu(tr("&Theme"));
+    auto* group = new QActionGroup(this);
+    const std::array names{std::pair{Theme::System, tr("As the &system")},
+                           std::pair{Theme::Light, tr("&Light")},
+                           std::pair{Theme::Dark, tr("&Dark")}};
+    for (const auto& [theme, text] : names) {
+        QAction& action =
+            addAction(*menu, "theme." + wordOf(theme), text, {}, [this, chosen = theme] {
+                setTheme(chosen);
+                appSettings()->setValue(ThemeKey, wordOf(chosen));
+            });
+        action.setCheckable(true);
+        group->addAction(&action);
+    }
+}
+
+void MainWindow::makeHelpMenu() {
+    addAction(*helpMenu_, "about", tr("&About"), {}, [this] { showAbout(); });
+}
+
+QDockWidget& MainWindow::addDock(const QString& name, const QString& title, Qt::DockWidgetArea area,
+                                 QWidget& content, bool below) {
+    auto* dock = new QDockWidget(title, this);
+    dock->setObjectName(name);
+    dock->setWidget(&content);
+    const auto docks = findChildren<QDockWidget*>();
+    const auto neighbour = std::find_if(docks.begin(), docks.end(), [&](QDockWidget* other) {
+        return other != dock && dockWidgetArea(other) == area;
+    });
+    addDockWidget(area, dock);
+    if (neighbour == docks.end() || below) return *dock;
+    tabifyDockWidget(*neighbour, dock);
+    (*neighbour)->raise();
+    return *dock;
+}
+
+// The orbits have most of the room.
+void MainWindow::sizeDocks() {
+    constexpr int LeftWidth = 270;
+    constexpr int RightWidth = 290;
+    constexpr int BottomHeight = 170;
+    for (QDockWidget* dock : findChildren<QDockWidget*>()) {
+        const Qt::DockWidgetArea area = dockWidgetArea(dock);
+        if (area == Qt::BottomDockWidgetArea) {
+            resizeDocks({dock}, {BottomHeight}, Qt::Vertical);
+        } else {
+            const bool left = area == Qt::LeftDockWidgetArea;
+            resizeDocks({dock}, {left ? LeftWidth : RightWidth}, Qt::Horizontal);
+        }
+    }
+}
+
+void MainWindow::addCloseCheck(std::function<bool()> mayClose) {
+    closeChecks_.push_back(std::move(mayClose));
+}
+
+void MainWindow::setTheme(Theme theme) {
+    theme_ = theme;
+    bench_.setScheme(apply(theme, *qApp));
+    if (auto* action = findChild<QAction*>("theme." + wordOf(theme))) action->setChecked(true);
+}
+
+void MainWindow::restoreLayout() {
+    const auto settings = appSettings();
+    restoreGeometry(settings->value(GeometryKey).toByteArray());
+    restoreState(settings->value(LayoutKey).toByteArray(), LayoutVersion);
+}
+
+void MainWindow::resetLayout() {
+    restoreState(firstLayout_, LayoutVersion);
+}
+
+void MainWindow::saveLayout() const {
+    const auto settings = appSettings();
+    settings->setValue(GeometryKey, saveGeometry());
+    settings->setValue(LayoutKey, saveState(LayoutVersion));
+}
+
+// An action of a part that brings a key of its own says it like all others.
+void MainWindow::makeToolTips() {
+    for (QAction* action : findChildren<QAction*>()) {
+        const QString key = action->shortcut().toString(QKeySequence::NativeText);
+        if (key.isEmpty() || action->toolTip().contains(key)) continue;
+        action->setToolTip(action->toolTip() + " (" + key + ')');
+    }
+}
+
+void MainWindow::setViewName(const QString& file) {
+    viewName_ = QFileInfo(file).fileName();
+    showTitle();
+}
+
+void MainWindow::showTitle() {
+    QStringList names;
+    for (const auto& plane : bench_.planes())
+        names += QString::fromStdString(plane->name());
+    if (!viewName_.isEmpty()) names = {viewName_};
+    setWindowTitle("[*]" + (names.isEmpty() ? QString() : names.join(", ") + " - ") + "Rotavue");
+    setWindowModified(!bench_.undoStack().isClean());
+}
+
+void MainWindow::closeCurrent() {
+    if (Plane* plane = currentPlane()) bench_.removePlane(*plane);
+}
+
+void MainWindow::showAbout() {
+    auto* box = new AboutBox(diagnostics(), this);
+    box->open();
+}
+
+QString MainWindow::diagnostics() const {
+    return diagnosticsText(*this);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    tiles_.cancelEditing();
+    for (const auto& mayClose : closeChecks_) {
+        if (mayClose()) continue;
+        event->ignore();
+        return;
+    }
+    bench_.playback().pause();
+    saveLayout();
+    event->accept();
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,102 @@
+#include "workbench/window/orbit_tile.h"
+
+#include "workbench/scene/fact_words.h"
+
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QStringList>
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+QString curvesText(const Plane& plane) {
+    QStringList words;
+    for (const CurveRequest& curve : plane.curves())
+        words += curve.kind == CurveKind::Raw ? OrbitTile::tr("direct")
+                                              : QString::fromStdString(wordsOf(curve));
+    if (words.isEmpty()) return OrbitTile::tr("no curve chosen");
+    return words.join(" + ");
+}
+
+QString amountText(const Plane& plane) {
+    const ShownSpan span = plane.span();
+    if (!span.byTurns) {
+        return QString::fromStdString(shortNumber(span.milliseconds)) + OrbitTile::tr(" ms");
+    }
+    return span.turnsThere == 1 ? OrbitTile::tr("1 turn")
+                                : OrbitTile::tr("%1 turns").arg(span.turnsThere);
+}
+
+QString placesText(const MachineFacts& machine) {
+    return QString::fromStdString("X " + placeText(machine.xAngle) + ", Y " +
+                                  placeText(machine.yAngle));
+}
+
+QString speedText(double rpm) {
+    return OrbitTile::tr("%1 rpm").arg(QString::fromStdString(shortNumber(rpm)));
+}
+
+}  // namespace
+
+QString factsOf(const Plane& plane) {
+    const MachineFacts& machine = plane.shown().recording.machine;
+    const double speed = plane.span().speed;
+    QStringList facts{curvesText(plane), amountText(plane)};
+    if (speed > 0.0) facts += speedText(speed);
+    facts += placesText(machine);
+    if (machine.rotation) facts += QString::fromStdString(std::string(toText(*machine.rotation)));
+    if (plane.shown().recording.coupling == Coupling::Ac) facts += OrbitTile::tr("AC");
+    if (!plane.compensation().empty()) facts += QString::fromStdString(plane.compensation());
+    return facts.join(", ");
+}
+
+OrbitTile::OrbitTile(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent)
+    : QFrame(parent), bench_(bench), view_(bench, std::move(plane), this) {
+    setFrameShape(QFrame::StyledPanel);
+    auto* close = new QToolButton(this);
+    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setAutoRaise(true);
+    close->setToolTip(tr("Close this plane (Ctrl+W)"));
+    close->setAccessibleName(tr("Close this plane"));
+    connect(close, &QToolButton::clicked, this, [this] { bench_.removePlane(view_.plane()); });
+    facts_.setMinimumWidth(1);
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(8, 2, 2, 2);
+    line->setSpacing(10);
+    line->addWidget(&name_);
+    line->addWidget(&facts_, 1);
+    line->addWidget(close);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(1, 1, 1, 1);
+    column->setSpacing(0);
+    column->addLayout(line);
+    column->addWidget(&view_, 1);
+    setCurrent(false);
+    tellFacts();
+    // After each frame, which the facts belong to.
+    connect(&view_, &OrbitView::drawn, this, &OrbitTile::tellFacts);
+}
+
+void OrbitTile::setCurrent(bool current) {
+    QFont font = name_.font();
+    font.setBold(true);
+    name_.setFont(font);
+    name_.setText((current ? QString::fromUtf8("\u25b8 ") : QString()) +
+                  QString::fromStdString(view_.plane().name()));
+}
+
+void OrbitTile::tellFacts() {
+    const QString text = factsOf(view_.plane());
+    if (text == facts_.toolTip()) return;
+    facts_.setToolTip(text);
+    facts_.setText(text);
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "workbench/bench/bench.h"
+#include "workbench/window/orbit_view.h"
+
+#include <QFrame>
+#include <QLabel>
+
+namespace Rotavue::Workbench {
+
+/// A plane in the middle of the window: its control, and above it one line that says what is shown.
+class OrbitTile : public QFrame {
+    Q_OBJECT
+
+public:
+    OrbitTile(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent = nullptr);
+
+    OrbitView& view() { return view_; }
+    const OrbitView& view() const { return view_; }
+
+    /// Marks the tile that the docks speak of, where there are several.
+    void setCurrent(bool current);
+
+private:
+    void tellFacts();
+
+    Bench& bench_;
+    OrbitView view_;
+    QLabel name_;
+    QLabel facts_;
+};
+
+/// "direct + 1X, 8 turns, 2998 rpm, X 45° R, Y 45° L, CCW": what a picture of the plane must say.
+QString factsOf(const Plane& plane);
+
+}  // namespace Rotavue::Workbench

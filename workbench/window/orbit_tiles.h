@@ -1,0 +1,54 @@
+#pragma once
+
+#include "workbench/bench/bench.h"
+#include "workbench/window/orbit_tile.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QWidget>
+
+#include <vector>
+
+namespace Rotavue::Workbench {
+
+/// The middle of the window: a tile for each plane, side by side and then below each other. One of
+/// them is the current one, which docks and actions speak of.
+class OrbitTiles : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit OrbitTiles(Bench& bench, QWidget* parent = nullptr);
+
+    /// Null on an empty bench.
+    Plane* current() const { return current_; }
+    void setCurrent(Plane* plane);
+
+    /// The next plane, or the one before for a negative step, becomes the current one.
+    void step(int planes);
+
+    /// The view of a plane; null where there is none.
+    OrbitView* viewOf(const Plane* plane) const;
+
+    const std::vector<OrbitTile*>& tiles() const { return tiles_; }
+
+    /// Ends an open limit editor as Escape does.
+    void cancelEditing();
+
+Q_SIGNALS:
+    void currentChanged(Plane* plane);
+
+private:
+    void rebuild();
+    OrbitTile* tileOf(const Plane* plane) const;
+    OrbitTile* makeTile(const std::shared_ptr<Plane>& plane);
+    void dropTiles();
+    void layOut();
+
+    Bench& bench_;
+    QGridLayout grid_;
+    QLabel hint_;
+    std::vector<OrbitTile*> tiles_;
+    Plane* current_ = nullptr;
+};
+
+}  // namespace Rotavue::Workbench

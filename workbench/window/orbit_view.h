@@ -1,0 +1,68 @@
+#pragma once
+
+#include "host_kit/memory/host_listener.h"
+#include "workbench/bench/bench.h"
+#include "workbench/window/limit_editor.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Rotavue::Workbench {
+
+/// The area of one control: what the control draws with message 42, and what the user's pointer
+/// does there as messages to it. It is the listener of the plane's host.
+///
+/// Coordinates are those of the widget: on a screen with more pixels a line is drawn with as many
+/// of them as it takes, and the control knows nothing of it.
+class OrbitView : public QWidget, public HostKit::HostListener {
+    Q_OBJECT
+
+public:
+    OrbitView(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent = nullptr);
+    ~OrbitView() override;
+
+    Plane& plane() const { return *plane_; }
+
+    /// The editor that lies over a limit while it is changed.
+    LimitEditor& editor() { return editor_; }
+
+    QSize minimumSizeHint() const override { return {220, 220}; }
+    QSize sizeHint() const override { return {520, 480}; }
+
+    // What the control asks for.
+
+    void invalidated() override;
+    void setupRefreshed() override;
+    HostKit::EditAnswer editText(std::int32_t x, std::int32_t y, const std::wstring& text) override;
+    void messageShown(const std::wstring& text) override;
+
+Q_SIGNALS:
+    /// The user has turned to this control.
+    void chosen(Plane* plane);
+
+    /// A frame has been drawn.
+    void drawn();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    /// Runs one message and reports what it fails with.
+    template <class Message>
+    void send(Message message);
+
+    Bench& bench_;
+    std::shared_ptr<Plane> plane_;
+    LimitEditor editor_;
+    QString lastFailure_;
+};
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,50 @@
+#include "workbench/window/out_part.h"
+
+#include "workbench/export/out_actions.h"
+#include "workbench/files/file_actions.h"
+#include "workbench/window/app_settings.h"
+#include "workbench/window/main_window.h"
+#include "workbench/window/run_out/run_out_keeper.h"
+
+#include <QMenu>
+#include <QStatusBar>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+void addPictures(MainWindow& window) {
+    auto* out = new OutActions(
+        window.bench(), [&window] { return window.currentPlane(); },
+        [&window](const QString& line) { window.statusBar()->showMessage(line); }, appSettings,
+        window);
+    out->setParent(&window);
+    window.editMenu().addActions({&out->copyNumbers, &out->copyPicture});
+    window.tiles().addAction(&out->copyNumbers);
+    window.fileMenu().addSeparator();
+    window.fileMenu().addActions({&out->exportPicture, &out->exportReport});
+}
+
+void addRunOut(MainWindow& window) {
+    auto* actions = new RunOutActions(
+        window.bench(), [&window] { return window.currentPlane(); },
+        [&window] { return window.markedStretch().span(); }, &window);
+    QMenu* menu = window.editMenu().addMenu(MainWindow::tr("&Run-out"));
+    menu->addActions({&actions->take, &actions->takeFile});
+    menu->addSeparator();
+    menu->addActions({&actions->none, &actions->vector, &actions->waveform});
+    const auto refresh = [actions] { actions->refresh(); };
+    QObject::connect(&window.tiles(), &OrbitTiles::currentChanged, actions, refresh);
+    QObject::connect(&window.markedStretch(), &MarkedStretch::changed, actions, refresh);
+    if (auto* files = window.findChild<FileActions*>())
+        files->setCompensationKeeper(runOutKeeper(*actions));
+}
+
+}  // namespace
+
+void addOut(MainWindow& window) {
+    addPictures(window);
+    addRunOut(window);
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,108 @@
+#include "workbench/window/window_order.h"
+
+#include "workbench/bench/plane_source.h"
+#include "workbench/files/file_actions.h"
+#include "workbench/recording/recording.h"
+#include "workbench/setup/setup_rules.h"
+#include "workbench/window/app_settings.h"
+#include "workbench/window/main_window.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QPixmap>
+
+#include <clocale>
+#include <stdexcept>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+void setEnvironment(const WindowOrder& order) {
+    if (order.scale > 0.0) qputenv("QT_SCALE_FACTOR", QByteArray::number(order.scale));
+    if (order.screenshot && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
+std::optional<Settings> setupOf(const WindowOrder& order) {
+    if (!order.setup) return std::nullopt;
+    Settings settings;
+    for (const SetupEntry& entry : readCheckedSetup(*order.setup))
+        settings[{entry.key.begin(), entry.key.end()}] = {entry.text.begin(), entry.text.end()};
+    return settings;
+}
+
+FileActions& filesOf(MainWindow& window) {
+    return *window.findChild<FileActions*>();
+}
+
+/// Begins to open what was ordered; the cursor goes to its place when all of it is there.
+void open(MainWindow& window, const WindowOrder& order) {
+    FileActions& files = filesOf(window);
+    files.setFirstSettings(setupOf(order));
+    files.setFirstCurves(order.show);
+    QStringList names;
+    for (const std::string& file : order.recordings)
+        names += QString::fromStdString(file);
+    if (order.at) {
+        QObject::connect(
+            &files.loader(), &RecordingLoader::idle, &window,
+            [&window, at = *order.at] { window.bench().setCursor(at); }, Qt::SingleShotConnection);
+    }
+    files.open(names, order.recording);
+}
+
+/// What a recording holds is not asked for: nobody is there to answer.
+void openAtOnce(MainWindow& window, const WindowOrder& order) {
+    for (const std::string& file : order.recordings) {
+        window.bench().addPlane(preparePlane(readRecording(file, order.recording), order.recording),
+                                {.curves = order.show, .settings = setupOf(order)});
+    }
+    window.bench().undoStack().clear();
+    if (order.at) window.bench().setCursor(*order.at);
+}
+
+void saveScreenshot(MainWindow& window, const std::string& file) {
+    // What was put off until the window is there.
+    constexpr qint64 Enough = 600;  // ms
+    QElapsedTimer clock;
+    for (clock.start(); clock.elapsed() < Enough;)
+        QApplication::processEvents(QEventLoop::AllEvents, 50);
+    const QPixmap picture = window.grab();
+    if (!picture.save(QString::fromStdString(file), "PNG")) {
+        throw std::runtime_error(file + ": cannot be written");
+    }
+}
+
+}  // namespace
+
+int runWindow(const WindowOrder& order) {
+    setEnvironment(order);
+    static int count = 1;
+    static char name[] = "rotavue";
+    static char* arguments[] = {name, nullptr};
+    QApplication application(count, arguments);
+    // Qt has set the locale of the C library; numbers keep their point.
+    std::setlocale(LC_NUMERIC, "C");
+    QLocale::setDefault(QLocale::c());
+    QApplication::setApplicationName("rotavue");
+    QApplication::setApplicationDisplayName("Rotavue");
+    QApplication::setDesktopFileName("rotavue");
+    if (order.resetSettings) appSettings()->clear();
+    MainWindow window(std::make_shared<HostKit::Module>(HostKit::chooseModule(order.module)));
+    if (!order.screenshot) window.restoreLayout();
+    if (!order.theme.empty()) window.setTheme(themeNamed(QString::fromStdString(order.theme)));
+    if (order.width > 0) window.resize(order.width, order.height);
+    window.show();
+    if (!order.screenshot) {
+        open(window, order);
+        return QApplication::exec();
+    }
+    openAtOnce(window, order);
+    saveScreenshot(window, *order.screenshot);
+    return 0;
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,89 @@
+#include "workbench/window/status_facts.h"
+
+#include "workbench/bench/axis_limits.h"
+#include "workbench/scene/fact_words.h"
+
+#include <QStatusBar>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+QString number(double value, int digits = 4) {
+    return QString::fromStdString(shortNumber(value, digits));
+}
+
+QString rateText(double rate) {
+    constexpr double Kilo = 1000.0;
+    return rate < Kilo ? StatusFacts::tr("%1 Hz").arg(number(rate))
+                       : StatusFacts::tr("%1 kHz").arg(number(rate / Kilo, 5));
+}
+
+}  // namespace
+
+StatusFacts::StatusFacts(Bench& bench, OrbitTiles& tiles, QStatusBar& bar)
+    : bench_(bench),
+      tiles_(tiles),
+      place_(new QLabel(&bar)),
+      speed_(new QLabel(&bar)),
+      rate_(new QLabel(&bar)),
+      dropped_(new QLabel(&bar)),
+      scale_(new QToolButton(&bar)) {
+    place_->setObjectName("place");
+    place_->setToolTip(tr("Time of the newest sample, and the length of the recording"));
+    speed_->setToolTip(tr("Speed of the shaft, the mean over what is shown"));
+    rate_->setToolTip(tr("Samples per second"));
+    dropped_->setToolTip(tr("Frames that came later than a thirtieth of a second"));
+    scale_->setObjectName("scale");
+    scale_->setAutoRaise(true);
+    for (QLabel* label : {place_, speed_, rate_, dropped_})
+        bar.addPermanentWidget(label);
+    bar.addPermanentWidget(scale_);
+    connect(scale_, &QToolButton::clicked, this, &StatusFacts::makeEqual);
+    connect(&bench_, &Bench::cursorMoved, this, &StatusFacts::tell);
+    connect(&bench_, &Bench::settingsChanged, this, &StatusFacts::tell);
+    connect(&tiles_, &OrbitTiles::currentChanged, this, &StatusFacts::tell);
+    tell();
+}
+
+void StatusFacts::tell() {
+    Plane* plane = tiles_.current();
+    for (QLabel* label : {place_, speed_, rate_, dropped_})
+        label->setVisible(plane != nullptr);
+    scale_->setVisible(plane != nullptr);
+    if (plane == nullptr) return;
+    place_->setText(
+        tr("%1 of %2 s").arg(bench_.cursor(), 0, 'f', 4).arg(bench_.duration(), 0, 'f', 4));
+    const double speed = plane->span().speed;
+    speed_->setText(speed > 0.0 ? tr("%1 rpm").arg(number(speed)) : tr("no speed"));
+    rate_->setText(rateText(plane->shown().recording.sampleRate));
+    dropped_->setText(tr("%1 late").arg(bench_.playback().droppedFrames()));
+    // The control's scale is known behind its frame.
+    if (!bench_.playback().isPlaying()) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (Plane* current = tiles_.current()) tellScale(*current);
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+void StatusFacts::tellScale(Plane& plane) {
+    const AxisLimits limits = axisLimits(plane);
+    const bool equal = limits.areEqual();
+    scale_->setEnabled(!equal);
+    scale_->setText(equal ? tr("x:y 1:1")
+                          : tr("x:y 1:%1 - make equal").arg(number(limits.ratio(), 3)));
+    scale_->setToolTip(equal ? tr("One unit is as long across as it is upright")
+                             : tr("The axes differ: the shape on the screen is not that of the "
+                                  "orbit. Click for one scale (Ctrl+E)"));
+}
+
+void StatusFacts::makeEqual() {
+    Plane* plane = tiles_.current();
+    if (plane == nullptr || axisLimits(*plane).areEqual()) return;
+    bench_.setSettings(*plane, withEqualAxes(*plane), tr("one scale for both axes"));
+}
+
+}  // namespace Rotavue::Workbench

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "workbench/bench/bench.h"
+#include "workbench/window/orbit_tiles.h"
+
+#include <QLabel>
+#include <QToolButton>
+
+class QStatusBar;
+
+namespace Rotavue::Workbench {
+
+/// What stands at the right of the status bar: place in time, speed, sample rate, frames that came
+/// late, and whether one micrometre is as long one way as the other.
+class StatusFacts : public QObject {
+    Q_OBJECT
+
+public:
+    /// The bar owns the labels, the caller this object.
+    StatusFacts(Bench& bench, OrbitTiles& tiles, QStatusBar& bar);
+
+    /// Gives both axes the scale of the one that reaches further.
+    void makeEqual();
+
+private:
+    void tell();
+    void tellScale(Plane& plane);
+
+    Bench& bench_;
+    OrbitTiles& tiles_;
+    QLabel* place_;
+    QLabel* speed_;
+    QLabel* rate_;
+    QLabel* dropped_;
+    QToolButton* scale_;
+};
+
+}  // namespace Rotavue::Workbench
