@@ -39,8 +39,7 @@ std::string lowerCased(std::string text) {
 
 // The decimal point that `strtod` expects at this moment.
 char decimalPoint() {
-    const std::locale current(std::setlocale(LC_NUMERIC, nullptr));
-    return std::use_facet<std::numpunct<char>>(current).decimal_point();
+    return *std::localeconv()->decimal_point;
 }
 
 std::locale namedLocale(const std::string& localeName) {
