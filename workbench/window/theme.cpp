@@ -1,10 +1,9 @@
 #include "workbench/window/theme.h"
 
 #include "workbench/scene/scheme_colors.h"
+#include "workbench/window/outlined_style.h"
 
 #include <QApplication>
-#include <QStyle>
-#include <QStyleFactory>
 
 namespace Rotavue::Workbench {
 
@@ -73,9 +72,8 @@ QString wordOf(Theme theme) {
 std::int32_t apply(Theme theme, QApplication& application) {
     const bool dark = theme == Theme::System ? isDark(systemPalette()) : theme == Theme::Dark;
     systemPalette();
-    // The one style that follows a palette to the last corner, wherever the program runs.
-    if (application.style()->name() != "fusion") {
-        QApplication::setStyle(QStyleFactory::create("fusion"));
+    if (dynamic_cast<OutlinedStyle*>(application.style()) == nullptr) {
+        QApplication::setStyle(new OutlinedStyle);
     }
     QApplication::setPalette(paletteOf(dark ? DarkShades : LightShades));
     return dark ? DarkNumber : LightNumber;

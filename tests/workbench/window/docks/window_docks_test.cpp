@@ -6,11 +6,16 @@
 #include "workbench/window/main_window.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDockWidget>
 #include <QSignalSpy>
+#include <QStyle>
+#include <QStyleOptionButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace Rotavue::Workbench {
 namespace {
@@ -84,6 +89,23 @@ TEST_F(WindowDocksTest, CursorOfAPlotMovesTheBench) {
     const LaneMapping lane = plot->mapping(0);
     QTest::mouseClick(plot, Qt::LeftButton, {}, lane.area.center().toPoint());
     EXPECT_NEAR(window.bench().cursor(), 2.0, 4.0 / lane.area.width());
+}
+
+// An outline that differs from what is round it and from what is in it.
+TEST_F(WindowDocksTest, EmptyCheckBoxIsSeenInBothThemes) {
+    for (const Theme theme : {Theme::Dark, Theme::Light}) {
+        window.setTheme(theme);
+        QCheckBox box;
+        box.resize(40, 40);
+        const QImage image = box.grab().toImage();
+        QStyleOptionButton option;
+        option.initFrom(&box);
+        const QRect square =
+            box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
+        const int outline = image.pixelColor(square.topLeft() + QPoint(5, 0)).lightness();
+        EXPECT_GT(std::abs(outline - image.pixelColor(39, 39).lightness()), 60);
+        EXPECT_GT(std::abs(outline - image.pixelColor(square.center()).lightness()), 60);
+    }
 }
 
 // Docks hold what a bench has made: planes, controls, jobs that run.
