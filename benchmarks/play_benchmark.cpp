@@ -69,9 +69,9 @@ private:
 };
 
 void playFourPlanes(benchmark::State& state) {
-    const double scale = static_cast<double>(state.range(0));
+    const auto scale = static_cast<int>(state.range(0));
     FourPlanes planes;
-    QImage screen(QSize(500, 420) * state.range(0), QImage::Format_RGB32);
+    QImage screen(QSize(500, 420) * scale, QImage::Format_RGB32);
     screen.setDevicePixelRatio(scale);
     for ([[maybe_unused]] auto _ : state)
         planes.frame(screen);
