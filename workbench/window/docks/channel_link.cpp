@@ -51,6 +51,7 @@ Plane* ChannelLink::planeAt(std::size_t place) const {
 }
 
 void ChannelLink::setCurrent(const Plane* plane) {
+    current_ = plane;
     const auto& planes = bench_.planes();
     const auto found = std::find_if(planes.begin(), planes.end(),
                                     [plane](const auto& one) { return one.get() == plane; });
@@ -62,6 +63,7 @@ void ChannelLink::show() {
     for (const auto& plane : bench_.planes())
         planes.push_back(treePlane(*plane));
     tree_.setPlanes(std::move(planes));
+    setCurrent(current_);  // which may have come before its row
 }
 
 }  // namespace Rotavue::Workbench

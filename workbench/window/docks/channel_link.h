@@ -28,6 +28,7 @@ private:
 
     Bench& bench_;
     ChannelTree& tree_;
+    const Plane* current_ = nullptr;
 };
 
 }  // namespace Rotavue::Workbench

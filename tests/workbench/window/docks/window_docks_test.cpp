@@ -84,6 +84,11 @@ TEST_F(WindowDocksTest, SelectingAChannelMakesItsPlaneTheCurrentOne) {
     EXPECT_EQ(window.currentPlane()->name(), "Bearing 2");
 }
 
+TEST_F(WindowDocksTest, PlaneThatWasOpenedLastIsSelectedInTheTree) {
+    EXPECT_EQ(window.currentPlane()->name(), "Bearing 2");
+    EXPECT_EQ(window.findChild<ChannelTree*>()->selectedPlane(), 1U);
+}
+
 TEST_F(WindowDocksTest, CursorOfAPlotMovesTheBench) {
     auto* plot = window.findChild<TimePlot*>("waveformPlot");
     const LaneMapping lane = plot->mapping(0);
