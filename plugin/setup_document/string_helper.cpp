@@ -37,7 +37,8 @@ std::string lowerCased(std::string text) {
     return text;
 }
 
-// The decimal point that `strtod` expects at this moment.
+// The decimal point that `strtod` expects at this moment. The C library itself is asked: it may be
+// under a locale that the C++ library has no form of.
 char decimalPoint() {
     return *std::localeconv()->decimal_point;
 }

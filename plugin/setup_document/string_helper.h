@@ -68,7 +68,8 @@ std::wstring textToHost(const std::string& text);
 std::string hostToText(const std::wstring& text);
 
 /// The named locale without grouping of thousands; its own name is "*". Raises
-/// `std::runtime_error` "bad locale name" for a locale that isn't there.
+/// `std::runtime_error` "bad locale name" for a locale that the C++ library doesn't have: some have
+/// "C" alone, whatever the C library beside them knows.
 std::locale makeNoSeparatorLocale(const std::string& localeName);
 
 }  // namespace Meridax::Utils::Dcom::Utils::StringHelper
