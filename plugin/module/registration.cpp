@@ -3,6 +3,7 @@
 #include "plugin/framework/guid_text.h"
 #include "plugin/framework/host/status.h"
 #include "plugin/framework/unicode.h"
+#include "plugin/module/guarded.h"
 
 #include <string_view>
 
@@ -88,8 +89,8 @@ std::int32_t Registration::unregisterServer() {
 std::int32_t Registration::install(bool install, const wchar_t* commandLine) {
     if (commandLine != nullptr && isUserWord(commandLine)) perUser_ = true;
     if (!install) return unregisterServer();
-    const std::int32_t status = registerServer();
-    if (status < 0) unregisterServer();
+    const std::int32_t status = guarded([this] { return registerServer(); });
+    if (status < 0) guarded([this] { return unregisterServer(); });
     return status;
 }
 

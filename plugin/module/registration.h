@@ -35,7 +35,8 @@ public:
     std::int32_t unregisterServer();
 
     /// Registers or removes; `commandLine` may be null. "user" in any case of letters chooses the
-    /// user's scope for this and every later registration. A failed registration is removed again.
+    /// user's scope for this and every later registration. A registration that fails or raises is
+    /// removed again, with what was written of it, and its status given.
     std::int32_t install(bool install, const wchar_t* commandLine);
 
 private:

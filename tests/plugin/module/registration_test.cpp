@@ -206,6 +206,22 @@ TEST_F(RegistrationTest, FailedLibraryIsRemovedAgainAndTheFirstFailureGiven) {
     EXPECT_EQ(store.steps.back(), "unregister library");
 }
 
+TEST_F(RegistrationTest, EntriesWrittenHalfWayAreRemovedAgain) {
+    store.exhaustedAt = "GroupName = 'Machinery diagnostics'";
+    EXPECT_EQ(registration.install(true, L"user"), static_cast<std::int32_t>(0x8007000EU));
+    ASSERT_TRUE(made("MeridaxIcon = 'orbit_graph'"));
+    EXPECT_EQ(
+        Steps(store.steps.end() - 4, store.steps.end()),
+        (Steps{std::string("close user ") + ControlKey, std::string("delete user ") + ControlKey,
+               std::string("delete user ") + ClassKey, "unregister library for the user"}));
+}
+
+TEST_F(RegistrationTest, FirstFailureIsGivenWhereTheRemovalRaisesAsWell) {
+    library.registerStatus = static_cast<std::int32_t>(0x80004005U);
+    store.exhaustedAt = std::string("delete machine ") + ControlKey;
+    EXPECT_EQ(registration.install(true, nullptr), library.registerStatus);
+}
+
 TEST_F(RegistrationTest, PositiveStatusOfTheLibraryIsASuccess) {
     library.registerStatus = 1;
     EXPECT_EQ(registration.install(true, nullptr), 1);

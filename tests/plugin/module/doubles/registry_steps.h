@@ -4,6 +4,7 @@
 #include "plugin/framework/unicode.h"
 
 #include <memory>
+#include <new>
 #include <set>
 #include <string>
 #include <vector>
@@ -17,47 +18,51 @@ public:
     std::unique_ptr<Api::RegistryKey> createKey(Api::RegistryScope scope,
                                                 const std::wstring& path) override {
         const std::string key = name(scope, path);
-        steps.push_back("create " + key);
+        note("create " + key);
         if (refused.contains(key)) return nullptr;
-        return std::make_unique<Key>(steps, key, !valuesFail);
+        return std::make_unique<Key>(*this, key);
     }
 
     bool deleteKey(Api::RegistryScope scope, const std::wstring& path) override {
-        steps.push_back("delete " + name(scope, path));
+        note("delete " + name(scope, path));
         return false;
     }
 
     std::vector<std::string> steps;
     std::set<std::string> refused;  ///< keys that can't be created
     bool valuesFail = false;
+    std::string exhaustedAt;  ///< the step for which there is no memory
 
 private:
     class Key final : public Api::RegistryKey {
     public:
-        Key(std::vector<std::string>& steps, std::string key, bool answer)
-            : steps_(steps), key_(std::move(key)), answer_(answer) {}
+        Key(RegistrySteps& store, std::string key) : store_(store), key_(std::move(key)) {}
         Key(const Key&) = delete;
         Key& operator=(const Key&) = delete;
-        ~Key() override { steps_.push_back("close " + key_); }
+        ~Key() override { store_.steps.push_back("close " + key_); }
 
         bool setText(const std::wstring& name, const std::wstring& text) override {
-            steps_.push_back(Api::utf8FromWide(name + L" = '" + text + L"'"));
-            return answer_;
+            store_.note(Api::utf8FromWide(name + L" = '" + text + L"'"));
+            return !store_.valuesFail;
         }
         bool setNumber(const std::wstring& name, std::uint32_t number) override {
-            steps_.push_back(Api::utf8FromWide(name + L" = " + std::to_wstring(number)));
-            return answer_;
+            store_.note(Api::utf8FromWide(name + L" = " + std::to_wstring(number)));
+            return !store_.valuesFail;
         }
         bool deleteValue(const std::wstring& name) override {
-            steps_.push_back("delete value " + Api::utf8FromWide(name));
-            return answer_;
+            store_.note("delete value " + Api::utf8FromWide(name));
+            return !store_.valuesFail;
         }
 
     private:
-        std::vector<std::string>& steps_;
+        RegistrySteps& store_;
         std::string key_;
-        bool answer_;
     };
+
+    void note(const std::string& step) {
+        if (step == exhaustedAt) throw std::bad_alloc();
+        steps.push_back(step);
+    }
 
     static std::string name(Api::RegistryScope scope, const std::wstring& path) {
         return (scope == Api::RegistryScope::User ? "user " : "machine ") + Api::utf8FromWide(path);
