@@ -6,8 +6,21 @@
 
 namespace Meridax::VisualControls::Api {
 
+namespace {
+
+/// The units of the text up to its first zero: as they stand where wide characters are such units.
+std::u16string unitsOf(std::wstring_view text) {
+    const std::wstring_view copied = text.substr(0, text.find(L'\0'));
+    if constexpr (sizeof(wchar_t) == sizeof(char16_t))
+        return std::u16string(copied.begin(), copied.end());
+    else
+        return utf16FromWide(copied);
+}
+
+}  // namespace
+
 void copyToClipboard(SystemClipboard& clipboard, std::wstring_view text) {
-    const std::u16string units = utf16FromWide(text.substr(0, text.find(L'\0')));
+    const std::u16string units = unitsOf(text);
     const std::size_t bytes = (units.size() + 1) * sizeof(char16_t);
 
     clipboard.open();

@@ -121,6 +121,35 @@ TEST_F(MessagesTest, OnlyAWordOfAllOnesWritesTheSetup) {
     }
 }
 
+TEST_F(MessagesTest, MessageWithoutArgumentsDoesNotLookAtADamagedList) {
+    VARIANT damaged{};
+    damaged.vt = VT_ARRAY | VT_VARIANT;
+    damaged.parray = reinterpret_cast<SAFEARRAY*>(std::uintptr_t{1});
+    const std::vector<std::pair<ULONG, HRESULT>> answers{
+        {0, 0}, {1, 0}, {6, 0}, {7, 1}, {18, 0}, {25, 0}, {26, 0}, {30, 0}, {31, 0}, {46, 0}};
+    for (const auto& [code, answer] : answers) {
+        EXPECT_EQ(send(code, damaged), answer) << code;
+        ::VariantClear(&result);
+    }
+}
+
+// A lone surrogate, which is no text, goes where the platform's own programs would let it go.
+TEST_F(MessagesTest, TextGoesToTheClipboardUnitByUnit) {
+    record.text = {wchar_t{0xD800}, L'a', wchar_t{0xDC00}};
+    EXPECT_EQ(send(31), S_OK);
+    EXPECT_EQ(clipboard.units, (std::u16string{char16_t{0xD800}, u'a', char16_t{0xDC00}, u'\0'}));
+}
+
+TEST_F(MessagesTest, ObjectThatIsStoredAgainIsRetainedAndReleasedOnce) {
+    RawObject app;
+    const VariantList list({objectVariant(app.get())});
+    const auto attach = [&] { send(2, list.value()); };
+    EXPECT_EQ(failureOf(attach).status, 0x80070057U);
+    const ULONG held = app.references;
+    EXPECT_EQ(failureOf(attach).status, 0x80070057U);
+    EXPECT_EQ(app.references, held);
+}
+
 TEST_F(MessagesTest, EighthBitOfAShiftStateIsNotLookedAt) {
     for (const ULONG code : {8UL, 9UL}) {
         const VariantList list(
