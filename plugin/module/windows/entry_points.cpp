@@ -14,8 +14,7 @@ Rotavue::WindowsModule module{Rotavue::makeControl};
 }  // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID /*reserved*/) {
-    if (reason == DLL_PROCESS_ATTACH) module.load(instance);
-    return TRUE;
+    return reason != DLL_PROCESS_ATTACH || module.load(instance) ? TRUE : FALSE;
 }
 
 STDAPI DllGetClassObject(REFCLSID classId, REFIID interfaceId, LPVOID* object) {

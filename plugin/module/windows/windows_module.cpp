@@ -13,6 +13,7 @@ namespace Meridax::VisualControls::Rotavue {
 namespace {
 
 constexpr DWORD AllControlClasses = 0xFF;
+static_assert(sizeof(INITCOMMONCONTROLSEX) == 8, "the size by which the platform knows it");
 
 /// The clipboard is the platform's, whatever a host would supply.
 void takeNoClipboard(const Host::Ref<Api::IHostClipboard>& /*clipboard*/) {}
@@ -26,11 +27,16 @@ WindowsModule::WindowsModule(Api::ControlMaker makeControl)
       factory_({makeControl_, clipboard_, liveObjects_}, takeNoClipboard),
       comFactory_(factory_, typeLibrary_) {}
 
-void WindowsModule::load(HINSTANCE module) {
-    file_ = moduleFile(module);
+bool WindowsModule::load(HINSTANCE module) noexcept {
+    const auto noteFile = [&] {
+        file_ = moduleFile(module);
+        return S_OK;
+    };
+    if (FAILED(guarded(noteFile))) return false;
     const INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX), AllControlClasses};
     ::InitCommonControlsEx(&controls);
     ::DisableThreadLibraryCalls(module);
+    return true;
 }
 
 HRESULT WindowsModule::getClassObject(REFCLSID classId, REFIID interfaceId,

@@ -20,8 +20,9 @@ public:
     WindowsModule(const WindowsModule&) = delete;
     WindowsModule& operator=(const WindowsModule&) = delete;
 
-    /// At load: notes from which file the module comes and readies the common controls.
-    void load(HINSTANCE module);
+    /// At load: notes from which file the module comes, readies the common controls and turns
+    /// thread notifications off. False where there is no memory for it: the load is to fail.
+    bool load(HINSTANCE module) noexcept;
 
     HRESULT getClassObject(REFCLSID classId, REFIID interfaceId, void** object) noexcept;
     HRESULT canUnloadNow() const noexcept;

@@ -17,9 +17,11 @@ public:
     OpenKey& operator=(const OpenKey&) = delete;
     ~OpenKey() override { ::RegCloseKey(key_); }
 
-    /// Two bytes for each character and none for a terminator.
+    /// Two bytes for each character and none for a terminator. The platform would add one where a
+    /// zero stands behind the text: what it gets is a copy with another character there.
     bool setText(const std::wstring& name, const std::wstring& text) override {
-        return setValue(name, REG_SZ, text.c_str(), text.size() * sizeof(wchar_t));
+        const std::wstring copy = text + L'.';
+        return setValue(name, REG_SZ, copy.data(), text.size() * sizeof(wchar_t));
     }
 
     bool setNumber(const std::wstring& name, std::uint32_t number) override {

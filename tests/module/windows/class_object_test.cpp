@@ -80,6 +80,7 @@ TEST_F(ClassObject, ObjectTellsItsTypeFromTheLibraryInTheModule) {
     TYPEATTR* attributes = nullptr;
     ASSERT_EQ(type->GetTypeAttr(&attributes), S_OK);
     EXPECT_EQ(attributes->guid, platformGuid(Api::IVCPluginImpl::Identifier));
+    EXPECT_NE(attributes->wTypeFlags & TYPEFLAG_FDUAL, 0);
     type->ReleaseTypeAttr(attributes);
 }
 

@@ -33,16 +33,36 @@ public:
     std::set<std::string> imports() const {
         std::set<std::string> names;
         const auto* library = directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT);
+        for (; library->Name != 0; ++library)
+            names.insert(lowerCased(at<char>(library->Name)));
+        return names;
+    }
+
+    /// The functions that the module takes from a library, which is named in lower case.
+    std::set<std::string> importsFrom(const std::string& wanted) const {
+        std::set<std::string> names;
+        const auto* library = directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT);
         for (; library->Name != 0; ++library) {
-            std::string name = at<char>(library->Name);
-            for (char& letter : name)
-                letter = static_cast<char>(::tolower(letter));
-            names.insert(name);
+            if (lowerCased(at<char>(library->Name)) != wanted) continue;
+            const auto* thunk = at<IMAGE_THUNK_DATA64>(library->OriginalFirstThunk);
+            for (; thunk->u1.AddressOfData != 0; ++thunk)
+                names.insert(nameOf(*thunk));
         }
         return names;
     }
 
 private:
+    static std::string lowerCased(std::string name) {
+        for (char& letter : name)
+            letter = static_cast<char>(::tolower(letter));
+        return name;
+    }
+
+    std::string nameOf(const IMAGE_THUNK_DATA64& function) const {
+        if (IMAGE_SNAP_BY_ORDINAL64(function.u1.Ordinal)) return "by number";
+        return at<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(function.u1.AddressOfData))->Name;
+    }
+
     template <class Record>
     const Record* at(DWORD address) const {
         return reinterpret_cast<const Record*>(base_ + address);

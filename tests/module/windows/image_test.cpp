@@ -27,6 +27,13 @@ TEST(ModuleImage, NeedsNoLibraryButTheSystems) {
         EXPECT_TRUE(system.contains(needed)) << needed;
 }
 
+TEST(ModuleImage, ReadiesTheCommonControlsAndTurnsThreadNotificationsOff) {
+    const LoadedModule module;
+    const Image image(module.handle());
+    EXPECT_TRUE(image.importsFrom("comctl32.dll").contains("InitCommonControlsEx"));
+    EXPECT_TRUE(image.importsFrom("kernel32.dll").contains("DisableThreadLibraryCalls"));
+}
+
 TEST(ModuleImage, IsStrippedAndUnderTwoMegabytes) {
     const LoadedModule module;
     EXPECT_EQ(Image(module.handle()).headers().FileHeader.PointerToSymbolTable, 0U);

@@ -25,6 +25,12 @@ protected:
                 deleteTree(root, key);
     }
 
+    static std::wstring fileOf(const LoadedModule& module) {
+        wchar_t path[MAX_PATH] = {};
+        ::GetModuleFileNameW(module.handle(), path, MAX_PATH);
+        return path;
+    }
+
     static bool isAnnouncedTo(HKEY root) { return hasKey(root, ControlKey); }
 
     static std::wstring announced(const std::wstring& name) {
@@ -59,14 +65,16 @@ TEST_F(Registration, WritesEveryTextOfTheAnnouncement) {
     }
 }
 
-// Two bytes for each character are handed over. The platform adds a terminating zero of its own
-// where the character behind the text happens to be one.
-TEST_F(Registration, StoresTwoBytesForEachCharacterOfAText) {
+TEST_F(Registration, StoresTwoBytesForEachCharacterOfATextAndNoTerminator) {
     LoadedModule().registerServer();
-    for (const Text& text : Texts) {
-        const DWORD handed = static_cast<DWORD>(2 * text.content.size());
-        const DWORD stored = storedValue(HKEY_LOCAL_MACHINE, ControlKey, text.name)->bytes;
-        EXPECT_TRUE(stored == handed || stored == handed + 2) << stored << " for " << handed;
+    const std::wstring server = ClassKey + LR"(\InprocServer32)";
+    std::vector<std::pair<std::wstring, std::wstring>> stored{
+        {ClassKey, L""}, {server, L""}, {server, L"ThreadingModel"}};
+    for (const Text& text : Texts)
+        stored.emplace_back(ControlKey, text.name);
+    for (const auto& [key, name] : stored) {
+        const auto value = storedValue(HKEY_LOCAL_MACHINE, key, name);
+        EXPECT_EQ(value->bytes, 2 * value->text.size());
     }
 }
 
@@ -90,7 +98,7 @@ TEST_F(Registration, WritesTheClassWithItsFileAndThreadingModel) {
     EXPECT_EQ(storedValue(HKEY_LOCAL_MACHINE, ClassKey, L"")->text, L"VCPluginImpl class");
     const std::wstring server = ClassKey + LR"(\InprocServer32)";
     const std::wstring file = storedValue(HKEY_LOCAL_MACHINE, server, L"")->text;
-    EXPECT_NE(::GetFileAttributesW(file.c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_EQ(file, fileOf(LoadedModule()));
     EXPECT_TRUE(file.ends_with(L"\\Rotavue64.vc"));
     EXPECT_EQ(storedValue(HKEY_LOCAL_MACHINE, server, L"ThreadingModel")->text, L"Apartment");
 }
@@ -175,7 +183,9 @@ TEST_F(Registration, TypeLibraryComesAndGoes) {
     const LoadedModule module;
     EXPECT_FALSE(hasKey(HKEY_LOCAL_MACHINE, LibraryKey));
     module.registerServer();
-    EXPECT_TRUE(hasKey(HKEY_LOCAL_MACHINE, LibraryKey + LR"(\1.0\0\win64)"));
+    const auto file = storedValue(HKEY_LOCAL_MACHINE, LibraryKey + LR"(\1.0\0\win64)", L"");
+    ASSERT_TRUE(file.has_value());
+    EXPECT_EQ(file->text, fileOf(module));
     EXPECT_EQ(module.unregisterServer(), S_OK);
     EXPECT_FALSE(hasKey(HKEY_LOCAL_MACHINE, LibraryKey + LR"(\1.0\0\win64)"));
 }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,9 +29,15 @@ std::string resource(const LoadedModule& module, const wchar_t* name, const wcha
     return {static_cast<const char*>(bytes), ::SizeofResource(module.handle(), found)};
 }
 
+std::string contentOf(const char* path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
 TEST(ModuleResources, PictureIsStoredUnchangedAsRawData) {
     const std::string picture = resource(LoadedModule(), L"ICON", MAKEINTRESOURCEW(10));
     ASSERT_EQ(picture.size(), 1094U);
+    EXPECT_EQ(picture, contentOf(ROTAVUE_PICTURE));
     // The signature, then the first chunk: 13 bytes of header, 32 by 32, 8 bits, colour type 6.
     const char start[] = "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x20\0\0\0\x20\x08\x06";
     EXPECT_EQ(picture.substr(0, sizeof(start) - 1), std::string(start, sizeof(start) - 1));

@@ -117,6 +117,53 @@ TEST_F(PluginObjectTest, AggregatedObjectForwardsItsIdentity) {
     EXPECT_EQ(inner.detach()->Release(), 0U);
 }
 
+TEST_F(PluginObjectTest, EveryInterfaceOfAnAggregatedObjectBelongsToTheOuterOne) {
+    RawObject outer;
+    const auto inner = make(outer.get());
+    for (const GUID& wanted : {IID_IDispatch, platformGuid(Api::IVCPluginImpl::Identifier),
+                               platformGuid(Api::IMeridaxPlugin::Identifier)}) {
+        const ULONG before = outer.references;
+        {
+            const auto offered = queried<IUnknown>(inner.get(), wanted);
+            ASSERT_TRUE(offered);
+            EXPECT_EQ(outer.references, before + 1);
+            EXPECT_EQ(queried<IUnknown>(offered.get(), IID_IDispatch).get(), outer.get());
+        }
+        EXPECT_EQ(outer.references, before);
+    }
+    EXPECT_EQ(queried<IUnknown>(inner.get(), IID_IUnknown).get(), inner.get());
+}
+
+/// The object that goes, for the host's object that it releases as its last.
+IUnknown* going = nullptr;
+
+TEST_F(PluginObjectTest, ReferencesTakenWhileItsPartsGoDoNotEndItAgain) {
+    RawObject app;
+    RawObject outer;
+    app.putAt(2, Host::Binary::entryOf(+[](IDispatch* self) -> ULONG {
+                  RawObject& released = RawObject::of(self);
+                  if (going != nullptr) released.numbers = {going->AddRef(), going->Release()};
+                  return --released.references;
+              }));
+    const VariantList list({objectVariant(app.get())});
+    for (IUnknown* const whole :
+         {static_cast<IUnknown*>(nullptr), static_cast<IUnknown*>(outer.get())}) {
+        object = make(whole);
+        EXPECT_EQ(failureOf([&] { send(2, list.value()); }).status, 0x80070057U);
+        going = object.detach();
+        EXPECT_EQ(going->Release(), 0U);
+        going = nullptr;
+        EXPECT_EQ(app.numbers, (std::vector<std::int64_t>{2, 1}));
+        app.numbers.clear();
+    }
+    EXPECT_EQ(app.references, 1U);  // the list's own
+    EXPECT_FALSE(liveObjects.any());
+}
+
+TEST_F(PluginObjectTest, IsNotMadeWithoutAPlaceToPutIt) {
+    EXPECT_EQ(comFactory.CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
+}
+
 TEST_F(PluginObjectTest, AggregationNeedsTheIdentity) {
     RawObject outer;
     void* made = this;

@@ -159,7 +159,7 @@ TEST(VariantArgumentsTest, EveryReferenceIsGivenBackWithTheCopy) {
     EXPECT_EQ(object.references, 0U);
 }
 
-TEST(VariantArgumentsTest, CopyIsLockedAndTheHostsListMayChangeMeanwhile) {
+TEST(VariantArgumentsTest, HostsListIsNotLockedAndMayChangeMeanwhile) {
     VariantList list({integerVariant(7)});
     const VariantArguments arguments(list.value());
     const Api::ArgumentReader reader(&arguments);

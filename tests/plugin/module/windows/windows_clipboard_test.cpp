@@ -1,10 +1,13 @@
 #include "plugin/module/windows/windows_clipboard.h"
 
+#include "plugin/framework/clipboard_copy.h"
 #include "plugin/module/windows/platform_headers.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <semaphore>
+#include <thread>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -37,6 +40,47 @@ TEST(WindowsClipboardTest, TextIsThereUntilTheClipboardIsEmptied) {
     EXPECT_FALSE(::IsClipboardFormatAvailable(13));
     clipboard.close();
     EXPECT_FALSE(::CloseClipboard());  // it is closed
+}
+
+/// Notes the block that goes through it.
+class NotedClipboard final : public Api::SystemClipboard {
+public:
+    void open() noexcept override { platform_.open(); }
+    void empty() noexcept override { platform_.empty(); }
+    Block allocate(std::size_t bytes) noexcept override {
+        return block = platform_.allocate(bytes);
+    }
+    void* lock(Block locked) noexcept override { return platform_.lock(locked); }
+    void unlock(Block locked) noexcept override { platform_.unlock(locked); }
+    void setUnicodeText(Block text) noexcept override { platform_.setUnicodeText(text); }
+    void close() noexcept override { platform_.close(); }
+    void free(Block freed) noexcept override { platform_.free(freed); }
+
+    Block block = nullptr;
+
+private:
+    WindowsClipboard platform_;
+};
+
+TEST(WindowsClipboardTest, BlockIsFreedWhereAnotherThreadHoldsTheClipboard) {
+    std::binary_semaphore held(0);
+    std::binary_semaphore ended(0);
+    std::thread other([&] {
+        HWND window = ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                        nullptr, nullptr);
+        EXPECT_TRUE(::OpenClipboard(window));
+        held.release();
+        ended.acquire();
+        EXPECT_TRUE(::CloseClipboard());  // nobody else has closed it
+        ::DestroyWindow(window);
+    });
+    held.acquire();
+    NotedClipboard clipboard;
+    Api::copyToClipboard(clipboard, L"refused");
+    EXPECT_NE(clipboard.block, nullptr);
+    EXPECT_EQ(::GlobalFlags(clipboard.block), static_cast<UINT>(GMEM_INVALID_HANDLE));
+    ended.release();
+    other.join();
 }
 
 TEST(WindowsClipboardTest, EveryStepCopesWithoutABlock) {

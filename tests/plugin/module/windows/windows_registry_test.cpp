@@ -33,6 +33,14 @@ TEST_P(WindowsRegistryTest, ValuesGoToTheHiveOfTheScope) {
     EXPECT_EQ(storedValue(root(), Path, L"n")->number, 0xFFFFFFFFU);
 }
 
+TEST_P(WindowsRegistryTest, TextIsStoredWithTwoBytesForEachCharacterAndNoMore) {
+    const auto key = registry.createKey(GetParam(), Path);
+    for (const std::wstring text : {L"", L"Rotavue", L"\xD83D\xDE00"}) {
+        key->setText(L"x", text);
+        EXPECT_EQ(storedValue(root(), Path, L"x")->bytes, 2 * text.size());
+    }
+}
+
 TEST_P(WindowsRegistryTest, ValueIsDeletedOnce) {
     const auto key = registry.createKey(GetParam(), Path);
     key->setText(L"x", L"y");

@@ -42,6 +42,12 @@ HRESULT failWithDetails(IDispatch*, LONG*) {
     return E_FAIL;
 }
 
+/// Whether the details that `failWithDetails` left are still there for another caller; takes them.
+bool areDetailsLeft() {
+    ComRef<IErrorInfo> left;
+    return ::GetErrorInfo(0, left.put()) == S_OK && left;
+}
+
 /// An object that answers whether it tells of failures: slot 3 of `ISupportErrorInfo`.
 HostError failureOfObjectThat(HRESULT tells) {
     static HRESULT answer = S_OK;
@@ -54,7 +60,6 @@ HostError failureOfObjectThat(HRESULT tells) {
     const auto data = object.proxy<IHostData>();
     const HostError failure = failureOf([&] { data->getBlockSize(); });
     EXPECT_EQ(object.references, 1U);
-    ::SetErrorInfo(0, nullptr);
     return failure;
 }
 
@@ -63,10 +68,12 @@ TEST(CallFailure, DetailsTravelWhereTheObjectConfirmsTheInterface) {
     ASSERT_NE(failure.details, nullptr);
     EXPECT_EQ(failure.details->source, L"recorder");
     EXPECT_EQ(failure.details->description, L"no disk");
+    EXPECT_FALSE(areDetailsLeft());
 }
 
 TEST(CallFailure, DetailsOfTheThreadAreLeftAloneWhereTheObjectDoesNot) {
     EXPECT_EQ(failureOfObjectThat(S_FALSE).details, nullptr);
+    EXPECT_TRUE(areDetailsLeft());
 }
 
 TEST(CallFailure, ObjectWithoutSupportHasNoDetails) {
@@ -75,7 +82,7 @@ TEST(CallFailure, ObjectWithoutSupportHasNoDetails) {
     object.put<&IHostData::getBlockSize>(failWithDetails);
     const auto data = object.proxy<IHostData>();
     EXPECT_EQ(failureOf([&] { data->getBlockSize(); }).details, nullptr);
-    ::SetErrorInfo(0, nullptr);
+    EXPECT_TRUE(areDetailsLeft());
 }
 
 }  // namespace

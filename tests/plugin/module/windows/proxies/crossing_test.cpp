@@ -117,6 +117,51 @@ TEST(Crossing, HostMayReplaceATextThatGoesBothWays) {
     EXPECT_EQ(object.numbers, (std::vector<std::int64_t>{7, -8}));
 }
 
+TEST(Crossing, HostMayPutNullIntoATextThatGoesBothWays) {
+    RawObject object;
+    object.put<&IHostVisualControl::editText>(
+        [](IDispatch*, LONG, LONG, BSTR* text, VARIANT_BOOL* accepted) -> HRESULT {
+            ::SysFreeString(*text);
+            *text = nullptr;
+            *accepted = VARIANT_TRUE;
+            return S_OK;
+        });
+    std::wstring text = L"1.0";
+    EXPECT_TRUE(object.proxy<IHostVisualControl>()->editText(0, 0, text));
+    EXPECT_EQ(text, L"");
+}
+
+TEST(Crossing, TextOfAFailedCallIsFreed) {
+    RawObject object;
+    object.put<&IHostChannel::getName>([](IDispatch* self, BSTR* text) -> HRESULT {
+        // Large enough for the heap to give its pages back with it.
+        *text = ::SysAllocStringLen(nullptr, 4'000'000);
+        at(self).numbers = {reinterpret_cast<std::intptr_t>(*text)};
+        return E_FAIL;
+    });
+    const auto channel = object.proxy<IHostChannel>();
+    EXPECT_EQ(failureOf([&] { channel->getName(); }).status, 0x80004005U);
+    ASSERT_NE(object.numbers.at(0), 0);
+    MEMORY_BASIC_INFORMATION pages{};
+    ::VirtualQuery(reinterpret_cast<void*>(object.numbers[0] + 4'000'000), &pages, sizeof(pages));
+    EXPECT_EQ(pages.State, static_cast<DWORD>(MEM_FREE));
+}
+
+TEST(Crossing, ObjectOfAFailedCallIsReleased) {
+    RawObject object;
+    RawObject data;
+    object.other = &data;
+    object.put<&IHostApp::getData>([](IDispatch* self, IDispatch** found) -> HRESULT {
+        *found = at(self).other->get();
+        (*found)->AddRef();
+        return E_FAIL;
+    });
+    const auto app = object.proxy<IHostApp>();
+    EXPECT_EQ(failureOf([&] { app->getData(); }).status, 0x80004005U);
+    EXPECT_EQ(data.references, 0U);
+    EXPECT_TRUE(data.asked.empty());
+}
+
 TEST(Crossing, HostMayChangeANumberThatGoesBothWays) {
     RawObject object;
     object.put<&IHostChannel::getValueAtTime>([](IDispatch*, double seconds, LONG* cursor,
