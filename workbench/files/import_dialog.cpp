@@ -109,7 +109,8 @@ QWidget* ImportDialog::makeFields() {
     sides->addLayout(right, 1);
     const QString rate = preview_.rate ? text(numberText(*preview_.rate)) : tr("from the time");
     addField(*left, tr("&Sample rate, Hz"), "/rate", rate);
-    addField(*left, tr("&Unit"), "/unit", preview_.unit.empty() ? tr("such as um") : text(preview_.unit));
+    addField(*left, tr("&Unit"), "/unit",
+             preview_.unit.empty() ? tr("such as um") : text(preview_.unit));
     addField(*left, tr("&X probe at"), "/x/angle", tr("90, or 45 R"));
     addField(*left, tr("&Y probe at"), "/y/angle", tr("0, or 45 L"));
     addField(*left, tr("X: volts for one unit"), "/x/sensitivity", tr("1"));
