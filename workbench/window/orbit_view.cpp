@@ -87,8 +87,13 @@ void OrbitView::paintEvent(QPaintEvent*) {
     Q_EMIT drawn();
 }
 
-void OrbitView::enterEvent(QEnterEvent*) {
-    send([](HostKit::DrivenControl& control) { control.enterPointer(); });
+// Coming says no place, and a pointer that comes may stay where it is: from behind a window, say.
+void OrbitView::enterEvent(QEnterEvent* event) {
+    const QPoint place = placeOf(*event);
+    send([place](HostKit::DrivenControl& control) {
+        control.enterPointer();
+        control.movePointer(place.x(), place.y());
+    });
 }
 
 void OrbitView::leaveEvent(QEvent*) {

@@ -2,7 +2,9 @@
 
 #include "tests/workbench/window/window_fixture.h"
 
+#include <QEnterEvent>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTimer>
 
 namespace Rotavue::Workbench {
@@ -42,6 +44,34 @@ protected:
 TEST_F(OrbitViewTest, ShowsTheOrbitInTheCurvesColour) {
     OrbitView& view = open();
     EXPECT_TRUE(hasColor(pictureOf(view), 0xFF0072B2));
+}
+
+// The display's own pointer, which tells of coming and leaving by itself.
+TEST_F(OrbitViewTest, TheReadoutComesWithThePointerAndLeavesWithIt) {
+    OrbitView& view = open();
+    QWidget& elsewhere = *window_.statusBar();
+    ASSERT_TRUE(putPointer(elsewhere, elsewhere.rect().center()));
+    const QImage before = pictureOf(view);
+    ASSERT_TRUE(putPointer(view, view.rect().center()));
+    EXPECT_GT(differences(before, pictureOf(view)), 20);
+    ASSERT_TRUE(putPointer(elsewhere, elsewhere.rect().center()));
+    EXPECT_EQ(differences(before, pictureOf(view)), 0);
+}
+
+// Two corners of the plot are far from each other, and so are the samples that are next to them.
+TEST_F(OrbitViewTest, TheReadoutIsThatOfThePlaceWhereThePointerCame) {
+    OrbitView& view = open();
+    QWidget& elsewhere = *window_.statusBar();
+    const auto readoutAt = [&](const QPoint& place) {
+        EXPECT_TRUE(putPointer(elsewhere, elsewhere.rect().center()));
+        QEnterEvent entered(place, place, view.mapToGlobal(place));
+        QApplication::sendEvent(&view, &entered);
+        return pictureOf(view);
+    };
+    const QSize size = view.size();
+    const QImage lower = readoutAt({size.width() / 3, size.height() * 2 / 3});
+    const QImage upper = readoutAt({size.width() * 2 / 3, size.height() / 3});
+    EXPECT_GT(differences(lower, upper), 20);
 }
 
 TEST_F(OrbitViewTest, ALimitIsEditedInItsPlace) {

@@ -1,5 +1,6 @@
 #include "tests/workbench/window/window_fixture.h"
 
+#include <QCursor>
 #include <QDir>
 
 namespace Rotavue::Workbench {
@@ -18,6 +19,11 @@ public:
 };
 
 }  // namespace
+
+bool putPointer(QWidget& widget, const QPoint& place) {
+    QCursor::setPos(widget.mapToGlobal(place));
+    return QTest::qWaitFor([&] { return widget.underMouse(); });
+}
 
 std::optional<QPoint> findLimit(OrbitView& view) {
     constexpr int Step = 8;

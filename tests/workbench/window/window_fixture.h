@@ -72,6 +72,9 @@ protected:
     MainWindow window_{std::make_shared<HostKit::Module>(ROTAVUE_MODULE_FILE)};
 };
 
+/// Puts the display's pointer there and waits until the widget knows of it.
+bool putPointer(QWidget& widget, const QPoint& place);
+
 /// A place where a click makes the control ask for a new limit: what a person sees by looking.
 std::optional<QPoint> findLimit(OrbitView& view);
 
