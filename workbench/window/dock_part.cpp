@@ -83,7 +83,8 @@ void addPlots(MainWindow& window) {
 
 void addNumbers(MainWindow& window) {
     auto* table = new NumberTable(&window);
-    new NumberLink(window.bench(), *table, table);
+    auto* link = new NumberLink(window.bench(), *table, table);
+    followCurrent(window, *link);
     addWayTo(
         window,
         window.addDock("numberDock", MainWindow::tr("Numbers"), Qt::RightDockWidgetArea, *table),

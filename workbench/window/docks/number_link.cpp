@@ -37,10 +37,17 @@ NumberLink::NumberLink(Bench& bench, NumberTable& table, QObject* parent)
     showTurns();
 }
 
+void NumberLink::setCurrent(const Plane* plane) {
+    current_ = plane;
+    showTurns();
+}
+
 void NumberLink::showTurns() {
     std::vector<ShownTurns> turns;
-    for (const auto& plane : bench_.planes())
-        turns.push_back(shownTurns(*plane));
+    for (const auto& plane : bench_.planes()) {
+        const bool first = plane.get() == current_;
+        turns.insert(first ? turns.begin() : turns.end(), shownTurns(*plane));
+    }
     table_.showTurns(std::move(turns));
 }
 

@@ -3,6 +3,7 @@
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/orbit_summary.h"
 #include "workbench/analysis/short_text.h"
+#include "workbench/window/docks/number_text.h"
 
 #include <QCoreApplication>
 
@@ -20,18 +21,10 @@ QString tr(const char* text) {
     return QCoreApplication::translate("NumberSheet", text);
 }
 
-QString numberText(double value) {
-    return QString::fromStdString(shortText(value));
-}
-
 struct CellPair {
     QString x = QStringLiteral("-");
     QString y;
 };
-
-CellPair pairOf(double x, double y) {
-    return {numberText(x), numberText(y)};
-}
 
 CellPair nothingEach() {
     return {QStringLiteral("-"), QStringLiteral("-")};
@@ -39,6 +32,10 @@ CellPair nothingEach() {
 
 /// What is told of one plane; nothing where its stretch holds no sample.
 using PlaneSummary = std::optional<OrbitSummary>;
+
+CellPair displacements(const PlaneSummary& summary, double x, double y) {
+    return {displacementText(x, summary->unit), displacementText(y, summary->unit)};
+}
 
 const OrderSummary* orderOf(const PlaneSummary& summary, double order) {
     if (!summary) return nullptr;
@@ -49,25 +46,26 @@ const OrderSummary* orderOf(const PlaneSummary& summary, double order) {
 
 CellPair peakPeak(const PlaneSummary& summary) {
     if (!summary) return nothingEach();
-    return pairOf(summary->direct.peakPeak.x, summary->direct.peakPeak.y);
+    return displacements(summary, summary->direct.peakPeak.x, summary->direct.peakPeak.y);
 }
 
 CellPair gap(const PlaneSummary& summary) {
     if (!summary || !summary->direct.gap) return nothingEach();
-    return pairOf(summary->direct.gap->x, summary->direct.gap->y);
+    return displacements(summary, summary->direct.gap->x, summary->direct.gap->y);
 }
 
 CellPair amplitude(const PlaneSummary& summary, double order) {
     const OrderSummary* found = orderOf(summary, order);
     if (found == nullptr) return nothingEach();
     const double factor = scaleFactor(AmplitudeScale::PeakPeak);
-    return pairOf(found->vectors.x.amplitude * factor, found->vectors.y.amplitude * factor);
+    return displacements(summary, found->vectors.x.amplitude * factor,
+                         found->vectors.y.amplitude * factor);
 }
 
 CellPair lag(const PlaneSummary& summary, double order) {
     const OrderSummary* found = orderOf(summary, order);
     if (found == nullptr) return nothingEach();
-    return pairOf(found->vectors.x.phaseLag, found->vectors.y.phaseLag);
+    return {lagText(found->vectors.x.phaseLag), lagText(found->vectors.y.phaseLag)};
 }
 
 CellPair sense(const PlaneSummary& summary, double order) {
@@ -78,12 +76,13 @@ CellPair sense(const PlaneSummary& summary, double order) {
 }
 
 CellPair smax(const PlaneSummary& summary) {
-    return summary ? CellPair{numberText(summary->direct.smax), {}} : CellPair{};
+    if (!summary) return {};
+    return {displacementText(summary->direct.smax, summary->unit), {}};
 }
 
 CellPair speed(const PlaneSummary& summary) {
     if (!summary || !summary->speed) return {};
-    return {numberText(*summary->speed), {}};
+    return {speedText(*summary->speed), {}};
 }
 
 CellPair stretch(const PlaneSummary& summary) {
@@ -119,7 +118,7 @@ constexpr RowKind RowKinds[] = {
      "Direct (unfiltered): largest less smallest value. ISO 20816-1 judges the "
      "larger of the two by method B.",
      peakPeak},
-    {"Smax (ISO 20816-1, C)",
+    {"Smax (ISO C)",
      "The largest distance of the orbit from its mean point: method C of ISO 20816-1.", smax},
     {"Gap", "Mean position of the shaft toward the probe.", gap},
     {"1X, pp", "Amplitude at the shaft's speed, peak to peak.",

@@ -53,7 +53,8 @@ QTableView* tableOf(QAbstractItemModel& model) {
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + RowRoom);
     view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    view->horizontalHeader()->setMinimumSectionSize(view->fontMetrics().averageCharWidth() * 11);
+    view->horizontalHeader()->setMinimumSectionSize(view->fontMetrics().averageCharWidth() * 8);
+    view->verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
     return view;
 }
@@ -79,6 +80,7 @@ NumberTable::NumberTable(QWidget* parent)
     view_->setToolTip(tr("Arrows with Shift select, Ctrl+A selects all, Ctrl+C copies"));
 
     auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins({});
     for (QWidget* part : {warning_, static_cast<QWidget*>(view_), static_cast<QWidget*>(notes_)})
         rows->addWidget(part);
     timer_.setSingleShot(true);

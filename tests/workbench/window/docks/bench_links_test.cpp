@@ -187,9 +187,25 @@ TEST_F(NumberLinkTest, FollowsTheShownTurns) {
     bench_.setCursor(0.5);
     wait();
     const NumberSheet& sheet = table.model().sheet();
-    EXPECT_EQ(sheet.rows[3].cells[0], "80");  // 1X, peak to peak
+    EXPECT_EQ(sheet.rows[3].cells[0], "80.00");  // 1X, peak to peak
     // Eight turns of 20 ms up to the last passing before 0.5 s: 0.495 s is the 25th.
     EXPECT_EQ(sheet.rows[10].cells[0], "0.335 to 0.495");
+}
+
+TEST_F(NumberLinkTest, TheCurrentPlaneComesFirst) {
+    const auto at = [](const char* point) {
+        Recording recording = rotor();
+        recording.machine.point = point;
+        return recording;
+    };
+    add(at("A"));
+    Plane& second = add(at("B"));
+    link.setCurrent(&second);
+    wait();
+    const auto& columns = table.model().sheet().columns;
+    ASSERT_EQ(columns.size(), 4U);
+    EXPECT_EQ(columns[0].plane, "B");
+    EXPECT_EQ(columns[2].plane, "A");
 }
 
 TEST_F(NumberLinkTest, WarnsOfManualLimitsThatDifferAndMendsThem) {

@@ -1,0 +1,50 @@
+#include "workbench/window/docks/number_text.h"
+
+#include "workbench/analysis/short_text.h"
+
+#include <cmath>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+constexpr int OtherPlaces = 3;
+
+constexpr struct {
+    const char* unit;
+    int places;
+} UnitPlaces[] = {{"um", 2},  {"\u00B5m", 2}, {"\u03BCm", 2}, {"mm", 4},
+                  {"mil", 3}, {"mils", 3},    {"in", 6},      {"nm", 0}};
+
+int placesOf(const std::string& unit) {
+    for (const auto& known : UnitPlaces)
+        if (unit == known.unit) return known.places;
+    return OtherPlaces;
+}
+
+/// What is too large to be one keeps its exponent, and nothing is minus zero.
+QString placed(double value, int places) {
+    constexpr double Largest = 1e9;
+    if (!(std::abs(value) < Largest)) return QString::fromStdString(shortText(value));
+    const QString text = QString::number(value, 'f', places);
+    return text.toDouble() == 0.0 ? QString::number(0.0, 'f', places) : text;
+}
+
+}  // namespace
+
+QString displacementText(double value, const std::string& unit) {
+    return placed(value, placesOf(unit));
+}
+
+QString lagText(double degrees) {
+    constexpr double FullTurn = 360.0;
+    constexpr double PerDegree = 10.0;
+    const double tenths = std::round(degrees * PerDegree) / PerDegree;
+    return placed(tenths - FullTurn * std::floor(tenths / FullTurn), 1);
+}
+
+QString speedText(double rpm) {
+    return placed(rpm, 0);
+}
+
+}  // namespace Rotavue::Workbench
