@@ -162,6 +162,7 @@ TEST_F(PluginObjectTest, ReferencesTakenWhileItsPartsGoDoNotEndItAgain) {
 
 TEST_F(PluginObjectTest, IsNotMadeWithoutAPlaceToPutIt) {
     EXPECT_EQ(comFactory.CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
+    EXPECT_TRUE(record.calls.empty());  // no control was made and ended
 }
 
 TEST_F(PluginObjectTest, AggregationNeedsTheIdentity) {
