@@ -1,7 +1,5 @@
 #include "host_kit/session/play.h"
 
-#include "tests/plugin/setup_document/c_locale.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -119,23 +117,6 @@ TEST_F(Play, NeedsAFolderThatIsThere) {
     EXPECT_EQ(playFolder(folder_ / "none", folder_ / "out", options_, errors_),
               PlayStatus::NoSession);
     EXPECT_EQ(errors_.str(), (folder_ / "none").string() + ": cannot be read\n");
-}
-
-TEST(CallGroupsText, NamesGroupsByCommas) {
-    EXPECT_EQ(parseCallGroups("draw,data"), groups({CallGroup::Draw, CallGroup::Data}));
-    EXPECT_EQ(parseCallGroups("all"), allGroups());
-    EXPECT_EQ(parseCallGroups(""), CallGroups{});
-    EXPECT_EQ(parseCallGroups("draw,paint"), std::nullopt);
-    EXPECT_EQ(parseCallGroups("draw,,data"), std::nullopt);
-}
-
-TEST(ClassicLocale, HoldsForOnePlayOnly) {
-    const Meridax::Tests::CLocale german("de_DE.UTF-8");
-    ASSERT_TRUE(german.isSet());
-    std::ostringstream log;
-    std::ostringstream errors;
-    playSession("/nowhere.json", {}, log, errors);
-    EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "de_DE.UTF-8");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "plugin/setup_document/meridax_dcom_node.h"
 
 #include "plugin/setup_document/meridax_dcom_node_creator.h"
+#include "plugin/setup_document/string_helper.h"
 #include "plugin/setup_document/xml_exception.h"
 #include "tests/plugin/setup_document/unused_node.h"
 #include "tests/plugin/setup_document/xml_fixture.h"
@@ -155,12 +156,13 @@ TEST_F(SetupNode, GivesTheTextSThatAHostLeavesAlone) {
 }
 
 TEST_F(SetupNode, CarriesTextsInTheFixedPage) {
+    const std::wstring crossed = StringHelper::textToHost("\xC2\xB5m");
     const auto node = setupNode();
     node->setValue("\xC2\xB5m");
-    EXPECT_EQ(element->value, L"\u00B5m");
+    EXPECT_EQ(element->value, crossed);
     EXPECT_EQ(node->getValue(), "\xC2\xB5m");
     node->writeValue("unit", "\xC2\xB5m", "");
-    EXPECT_EQ(document->entries[L"unit"], L"\u00B5m");
+    EXPECT_EQ(document->entries[L"unit"], crossed);
 }
 
 TEST_F(SetupNode, LetsGoOfItsObjectsWhenClosed) {
