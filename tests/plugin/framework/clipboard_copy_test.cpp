@@ -41,13 +41,6 @@ TEST(ClipboardCopy, CharacterBeyondSixteenBitsTakesTwoUnits) {
     EXPECT_EQ(clipboard.units, std::u16string(u"\U0001F600\0", 3));
 }
 
-TEST(ClipboardCopy, HarmfulCharactersAreReplaced) {
-    ClipboardSteps clipboard;
-    const std::wstring harmful{wchar_t{0xD800}, L'a', wchar_t{0xDC00}};
-    copyToClipboard(clipboard, harmful);
-    EXPECT_EQ(clipboard.units, std::u16string(u"\uFFFDa\uFFFD\0", 4));
-}
-
 TEST(ClipboardCopy, NoBlockLeavesOutTheTextAndNoStep) {
     ClipboardSteps clipboard;
     clipboard.hasNoBlock = true;

@@ -31,6 +31,13 @@ TEST_P(NumberBeyondTheLastCodePoint, IsReplacedOnTheClipboard) {
     EXPECT_EQ(clipboard.units, std::u16string(u"\uFFFD\0", 2));
 }
 
+TEST(ClipboardCopy, LoneSurrogatesAreReplaced) {
+    ClipboardSteps clipboard;
+    const std::wstring harmful{wchar_t{0xD800}, L'a', wchar_t{0xDC00}};
+    copyToClipboard(clipboard, harmful);
+    EXPECT_EQ(clipboard.units, std::u16string(u"\uFFFDa\uFFFD\0", 4));
+}
+
 INSTANTIATE_TEST_SUITE_P(Borders, NumberBeyondTheLastCodePoint,
                          testing::Values(0x110000U, 0x7FFFFFFFU, 0xFFFFFFFFU));
 
