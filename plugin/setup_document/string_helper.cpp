@@ -1,5 +1,6 @@
 #include "plugin/setup_document/string_helper.h"
 
+#include "plugin/framework/host/bounded_number.h"
 #include "plugin/framework/host/leading_float.h"
 
 #include <algorithm>
@@ -58,7 +59,7 @@ std::string boolToText(bool value) {
 }
 
 bool textToBool(const std::string& text) {
-    const std::string lower = lowerCased(text);
+    const std::string lower = Host::boundedNumber(lowerCased(text), decimalPoint());
     if (lower == "true") return true;
     if (lower == "false") return false;
     char* end = nullptr;
@@ -101,6 +102,7 @@ double textToDouble(const std::string& text) {
     const std::size_t separator = copy.find_first_of(",.");
     if (separator != std::string::npos) copy[separator] = decimalPoint();
     const auto convert = [](const char* start, char** end) { return std::strtod(start, end); };
+    copy = Host::boundedNumber(std::move(copy), decimalPoint());
     return leadingNumber(copy, convert, "invalid stod argument", "stod argument out of range");
 }
 

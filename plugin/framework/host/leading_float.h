@@ -1,6 +1,9 @@
 #pragma once
 
+#include "plugin/framework/host/bounded_number.h"
+
 #include <cerrno>
+#include <clocale>
 #include <cwchar>
 #include <stdexcept>
 #include <string>
@@ -12,6 +15,8 @@ namespace Meridax::Host {
 /// of the C library. Raises `std::invalid_argument` for a text without a number and
 /// `std::out_of_range` for one that a float cannot hold; the two texts are part of the contract.
 inline float leadingFloat(const std::wstring& text) {
+    const auto point = static_cast<wchar_t>(*std::localeconv()->decimal_point);
+    if (hasLongNumber(text, point)) return leadingFloat(boundedNumber(text, point));
     const int savedErrno = errno;
     errno = 0;
     wchar_t* end = nullptr;
