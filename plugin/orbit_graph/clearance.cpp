@@ -17,8 +17,9 @@ void OrbitGraph::drawClearanceEllipse(const CanvasRef& canvas) const {
     const PlotMapping mapping = mappingOf(state_);
     for (int degree = 0; degree < 360; ++degree) {
         const double angle = radians(degree);
-        const MappedSample sample = mapping.map(
-            {std::cos(angle) * state_.clearanceRadiusX, std::sin(angle) * state_.clearanceRadiusY});
+        const Point value{std::cos(angle) * state_.clearanceRadiusX,
+                          std::sin(angle) * state_.clearanceRadiusY};
+        const MappedSample sample = mapping.map(value);
         if (degree == 0 || !sample.inside) {
             clipped.moveTo(sample.position);
         } else {

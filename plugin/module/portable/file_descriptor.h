@@ -11,10 +11,6 @@ class FileDescriptor {
 public:
     explicit FileDescriptor(int number = -1) noexcept : number_(number) {}
     FileDescriptor(FileDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
-        std::swap(number_, other.number_);
-        return *this;
-    }
     ~FileDescriptor() {
         if (number_ >= 0) ::close(number_);
     }

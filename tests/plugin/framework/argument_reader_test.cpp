@@ -168,5 +168,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Word{0x0040, {.flag6 = true}}, Word{0x0080, {}}, Word{0xFF80, {}},
                     Word{0xFFFF, {true, true, true, true, true, true, true}}));
 
+TEST(ShiftState, DiffersByEachOfItsFlags) {
+    for (unsigned bit = 0; bit < 7; ++bit)
+        EXPECT_NE(ShiftState::fromWord(static_cast<std::uint16_t>(1U << bit)), ShiftState{}) << bit;
+}
+
 }  // namespace
 }  // namespace Meridax::VisualControls::Api

@@ -43,6 +43,8 @@ INSTANTIATE_TEST_SUITE_P(Texts, NoGuid,
                          testing::Values(L"", L"{}", L"264200AB-CDA2-4257-932E-FD19E014BD0C",
                                          L"{264200AB-CDA2-4257-932E-FD19E014BD0C} ",
                                          L"{264200AG-CDA2-4257-932E-FD19E014BD0C}",
+                                         L"{264200GA-CDA2-4257-932E-FD19E014BD0C}",
+                                         L"{264200ag-cda2-4257-932e-fd19e014bd0c}",
                                          L"{264200AB+CDA2-4257-932E-FD19E014BD0C}",
                                          L"{264200ABCDA2--4257-932E-FD19E014BD0C}",
                                          L"(264200AB-CDA2-4257-932E-FD19E014BD0C)"));

@@ -58,5 +58,16 @@ TEST(Geometry, APositiveTurnIsCounterClockwiseOnTheCanvas) {
     EXPECT_NEAR(turned.y, 40, 1e-12);
 }
 
+TEST(Geometry, ShapesDifferByEachOfTheirNumbers) {
+    EXPECT_NE((Point{1, 2}), (Point{0, 2}));
+    EXPECT_NE((Point{1, 2}), (Point{1, 0}));
+    EXPECT_NE((Rectangle{1, 2, 3, 4}), (Rectangle{0, 2, 3, 4}));
+    EXPECT_NE((Rectangle{1, 2, 3, 4}), (Rectangle{1, 0, 3, 4}));
+    EXPECT_NE((Rectangle{1, 2, 3, 4}), (Rectangle{1, 2, 0, 4}));
+    EXPECT_NE((Rectangle{1, 2, 3, 4}), (Rectangle{1, 2, 3, 0}));
+    EXPECT_NE((Segment{{1, 2}, {3, 4}}), (Segment{{0, 2}, {3, 4}}));
+    EXPECT_NE((Segment{{1, 2}, {3, 4}}), (Segment{{1, 2}, {0, 4}}));
+}
+
 }  // namespace
 }  // namespace Meridax::VisualControls::Rotavue

@@ -46,6 +46,11 @@ TEST(HostError, CarriesTheDetailsThatAnObjectTold) {
     }
 }
 
+TEST(HostError, TellsWhatItIsToWhoKnowsNoHost) {
+    const HostError error(Status::Unspecified);
+    EXPECT_STREQ(static_cast<const std::exception&>(error).what(), "a call of the host failed");
+}
+
 TEST(HostError, NullObjectHasNoInterface) {
     try {
         raiseNullObject();

@@ -96,8 +96,8 @@ TEST(RegistryFile, KeyWhoseNameOnlyBeginsAlikeIsNotBelow) {
 }
 
 TEST(RegistryFile, NamesBelowAreThoseOfTheNextLevelEachOnce) {
-    const RegistryFile file =
-        withKeys({LR"(VCs\Rotavue)", LR"(VCs\Other\Deep)", LR"(VCs\Other)", L"VCs", L"VCsX"});
+    const RegistryFile file = withKeys({LR"(VCs\Rotavue)", LR"(VCs\Other\Deep)", LR"(VCs\Other)",
+                                        L"VCs", L"VCsX", LR"(vcs\Else)"});
     EXPECT_EQ(file.namesBelow(L"VCs"), (std::vector<std::wstring>{L"Rotavue", L"Other"}));
     EXPECT_TRUE(file.namesBelow(LR"(VCs\Rotavue)").empty());
 }

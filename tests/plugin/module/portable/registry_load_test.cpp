@@ -36,6 +36,13 @@ TEST(RegistryLoad, DamageIsReportedWithPathAndLine) {
     EXPECT_EQ(faultOf(folder / "r"), (folder / "r").string() + ":3: a quotation mark is missing");
 }
 
+TEST(RegistryLoad, FileThatCannotBeOpenedIsReportedInTheWordsOfTheSystem) {
+    const TemporaryFolder folder;
+    writeFile(folder / "r", "");
+    const std::filesystem::path below = folder / "r" / "below";
+    EXPECT_EQ(faultOf(below), below.string() + ": Not a directory");
+}
+
 TEST(RegistryLoad, FolderIsNoRegistry) {
     const TemporaryFolder folder;
     EXPECT_EQ(faultOf(folder / ""), (folder / "").string() + ": not a regular file");
