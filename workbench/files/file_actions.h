@@ -48,6 +48,7 @@ public:
     void setFirstCurves(std::vector<CurveRequest> curves) { curves_ = std::move(curves); }
 
     void setCompensationKeeper(CompensationKeeper keeper) { keeper_ = std::move(keeper); }
+    const CompensationKeeper& compensationKeeper() const { return keeper_; }
 
     /// The view's file; empty for a view that has none yet.
     const QString& viewFile() const { return viewFile_; }

@@ -1,11 +1,9 @@
 #include "workbench/window/window_order.h"
 
-#include "workbench/bench/plane_source.h"
 #include "workbench/files/file_actions.h"
-#include "workbench/recording/recording.h"
-#include "workbench/setup/setup_rules.h"
 #include "workbench/window/app_settings.h"
 #include "workbench/window/main_window.h"
+#include "workbench/window/open_at_once.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -26,14 +24,6 @@ void setEnvironment(const WindowOrder& order) {
     }
 }
 
-std::optional<Settings> setupOf(const WindowOrder& order) {
-    if (!order.setup) return std::nullopt;
-    Settings settings;
-    for (const SetupEntry& entry : readCheckedSetup(*order.setup))
-        settings[{entry.key.begin(), entry.key.end()}] = {entry.text.begin(), entry.text.end()};
-    return settings;
-}
-
 FileActions& filesOf(MainWindow& window) {
     return *window.findChild<FileActions*>();
 }
@@ -41,7 +31,7 @@ FileActions& filesOf(MainWindow& window) {
 /// Begins to open what was ordered; the cursor goes to its place when all of it is there.
 void open(MainWindow& window, const WindowOrder& order) {
     FileActions& files = filesOf(window);
-    files.setFirstSettings(setupOf(order));
+    files.setFirstSettings(orderedSettings(order));
     files.setFirstCurves(order.show);
     QStringList names;
     for (const std::string& file : order.recordings)
@@ -52,16 +42,6 @@ void open(MainWindow& window, const WindowOrder& order) {
             [&window, at = *order.at] { window.bench().setCursor(at); }, Qt::SingleShotConnection);
     }
     files.open(names, order.recording);
-}
-
-/// What a recording holds is not asked for: nobody is there to answer.
-void openAtOnce(MainWindow& window, const WindowOrder& order) {
-    for (const std::string& file : order.recordings) {
-        window.bench().addPlane(preparePlane(readRecording(file, order.recording), order.recording),
-                                {.curves = order.show, .settings = setupOf(order)});
-    }
-    window.bench().undoStack().clear();
-    if (order.at) window.bench().setCursor(*order.at);
 }
 
 void saveScreenshot(MainWindow& window, const std::string& file) {
