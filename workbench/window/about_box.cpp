@@ -37,7 +37,7 @@ QString diagnosticsText(const QWidget& window) {
     const QScreen* screen = window.screen();
     const QSize size = screen->size();
     return QStringList{
-        "Rotavue " ROTAVUE_VERSION ", plug-in " ROTAVUE_VERSION,
+        "Rotavue " ROTAVUE_VERSION,
         QString("Qt %1, platform %2").arg(qVersion(), QGuiApplication::platformName()),
         QSysInfo::prettyProductName() + ", " + QSysInfo::currentCpuArchitecture(),
         QString("screen %1 x %2, scale %3")

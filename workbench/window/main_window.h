@@ -73,7 +73,7 @@ public:
     void resetLayout();
     void saveLayout() const;
 
-    /// What a fault report should tell: versions, platform, module, screen.
+    /// What a fault report should tell: versions, platform, screen.
     QString diagnostics() const;
 
 protected:

@@ -193,16 +193,9 @@ TEST_F(MainWindowTest, ACloseCheckKeepsTheWindowOpen) {
     EXPECT_FALSE(window_.isVisible());
 }
 
-TEST_F(MainWindowTest, TheMainStatesLookAsTheyShould) {
-    keepScreenshot(window_, "window-empty-light");
-    open(rotor("Bearing 1"), {.curves = {{}, {.kind = CurveKind::Harmonic, .orders = {1.0, 2.0}}}});
-    open(rotor("Bearing 2"));
-    settle();
-    keepScreenshot(window_, "window-two-planes-light");
-    window_.setTheme(Theme::Dark);
-    settle();
-    keepScreenshot(window_, "window-two-planes-dark");
-    window_.setTheme(Theme::Light);
+TEST_F(MainWindowTest, DiagnosticsTellNoVersionThatTheyDoNotKnow) {
+    EXPECT_TRUE(window_.diagnostics().startsWith("Rotavue "));
+    EXPECT_FALSE(window_.diagnostics().contains("plug-in"));
 }
 
 }  // namespace
