@@ -66,6 +66,9 @@ OrbitTile::OrbitTile(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent
     close->setToolTip(tr("Close this plane (Ctrl+W)"));
     close->setAccessibleName(tr("Close this plane"));
     connect(close, &QToolButton::clicked, this, [this] { bench_.removePlane(view_.plane()); });
+    facts_.setObjectName("facts");
+    facts_.setTextFormat(Qt::PlainText);
+    facts_.setWordWrap(true);
     facts_.setMinimumWidth(1);
     auto* line = new QHBoxLayout;
     line->setContentsMargins(8, 2, 2, 2);

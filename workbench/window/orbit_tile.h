@@ -8,7 +8,8 @@
 
 namespace Rotavue::Workbench {
 
-/// A plane in the middle of the window: its control, and above it one line that says what is shown.
+/// A plane in the middle of the window: its control, and above it what is shown, on as many
+/// lines as that takes.
 class OrbitTile : public QFrame {
     Q_OBJECT
 

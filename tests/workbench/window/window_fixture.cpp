@@ -2,6 +2,7 @@
 
 #include <QCursor>
 #include <QDir>
+#include <QPixmap>
 
 namespace Rotavue::Workbench {
 
@@ -62,11 +63,13 @@ int differences(const QImage& a, const QImage& b) {
     return count;
 }
 
-void keepScreenshot(QWidget& window, const std::string& name) {
+void keepScreenshot(QWidget& window, const std::string& name, double scale) {
     const QDir folder(ROTAVUE_SCREENSHOTS_FOLDER);
     ASSERT_TRUE(folder.mkpath("."));
-    const QString file = folder.filePath(QString::fromStdString(name + ".png"));
-    EXPECT_TRUE(window.grab().save(file));
+    QPixmap picture(window.size() * scale);
+    picture.setDevicePixelRatio(scale);
+    window.render(&picture);
+    EXPECT_TRUE(picture.save(folder.filePath(QString::fromStdString(name + ".png"))));
 }
 
 }  // namespace Rotavue::Workbench

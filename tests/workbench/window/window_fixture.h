@@ -84,7 +84,8 @@ bool hasColor(const QImage& picture, QRgb color);
 /// How many pixels differ.
 int differences(const QImage& a, const QImage& b);
 
-/// Keeps what the window looks like as build/screenshots/NAME.png.
-void keepScreenshot(QWidget& window, const std::string& name);
+/// Keeps what the window looks like as build/screenshots/NAME.png, with that many pixels for one of
+/// the window's.
+void keepScreenshot(QWidget& window, const std::string& name, double scale = 1.0);
 
 }  // namespace Rotavue::Workbench
