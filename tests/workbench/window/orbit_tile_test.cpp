@@ -17,8 +17,7 @@ protected:
 };
 
 TEST_F(OrbitTileTest, FactsAreReadInFullHoweverNarrowTheTileIs) {
-    const PlaneSetup twoCurves{
-        .curves = {{}, {.kind = CurveKind::Harmonic, .orders = {1.0, 2.0}}}};
+    const PlaneSetup twoCurves{.curves = {{}, {.kind = CurveKind::Harmonic, .orders = {1.0, 2.0}}}};
     for (const char* point : {"Bearing 1", "Bearing 2", "Bearing 3"})
         open(rotor(point), twoCurves);
     const QLabel& facts = factsOver(0);

@@ -65,8 +65,8 @@ TEST_F(OutPartTest, KeysCopyThePictureOfTheOrbit) {
     open();
     QTest::keyClick(&window_, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     settle();
-    EXPECT_TRUE(hasColor(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32),
-                         0xFF0072B2));
+    EXPECT_TRUE(hasColor(
+        QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32), 0xFF0072B2));
 }
 
 TEST_F(OutPartTest, PictureLeavesTheWindow) {

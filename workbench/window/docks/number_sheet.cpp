@@ -2,7 +2,6 @@
 
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/orbit_summary.h"
-#include "workbench/analysis/short_text.h"
 #include "workbench/window/docks/number_text.h"
 
 #include <QCoreApplication>
@@ -87,8 +86,11 @@ CellPair speed(const PlaneSummary& summary) {
 
 CellPair stretch(const PlaneSummary& summary) {
     if (!summary) return {};
-    const auto text = [](double time) { return QString::fromStdString(shortText(time, 6)); };
-    return {tr("%1 to %2").arg(text(summary->span.from), text(summary->span.to)), {}};
+    constexpr int Places = 4;
+    return {tr("%1 to %2")
+                .arg(summary->span.from, 0, 'f', Places)
+                .arg(summary->span.to, 0, 'f', Places),
+            {}};
 }
 
 PlaneSummary summaryOf(const ShownTurns& plane, std::vector<QString>& notes) {

@@ -121,7 +121,7 @@ TEST_F(NumberTableTest, ManyStretchesAtOnceAreComputedOnceWithTheLast) {
     }
     ASSERT_TRUE(computed.wait());
     EXPECT_EQ(computed.count(), 1);
-    EXPECT_EQ(rowOf(table.model().sheet(), "Stretch (s)").cells[0], "0 to 0.69");
+    EXPECT_EQ(rowOf(table.model().sheet(), "Stretch (s)").cells[0], "0.0000 to 0.6900");
 }
 
 TEST_F(NumberTableTest, CopiesEverythingWhereNothingIsSelected) {
