@@ -34,9 +34,14 @@ QString amountText(const Plane& plane) {
                                 : OrbitTile::tr("%1 turns").arg(span.turnsThere);
 }
 
+/// A probe's place stays on one line.
+QString placeOf(const char* probe, double angle) {
+    constexpr QChar Unbroken(QChar::Nbsp);
+    return QString::fromStdString(probe + placeText(angle)).replace(' ', Unbroken);
+}
+
 QString placesText(const MachineFacts& machine) {
-    return QString::fromStdString("X " + placeText(machine.xAngle) + ", Y " +
-                                  placeText(machine.yAngle));
+    return placeOf("X ", machine.xAngle) + ", " + placeOf("Y ", machine.yAngle);
 }
 
 QString speedText(double rpm) {

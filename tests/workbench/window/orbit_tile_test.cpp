@@ -21,7 +21,9 @@ TEST_F(OrbitTileTest, FactsAreReadInFullHoweverNarrowTheTileIs) {
     for (const char* point : {"Bearing 1", "Bearing 2", "Bearing 3"})
         open(rotor(point), twoCurves);
     const QLabel& facts = factsOver(0);
-    const QString whole = "direct + 1X, 2X, 8 turns, 3000 rpm, X 45\u00b0 R, Y 45\u00b0 L, CCW";
+    const QString whole =
+        "direct + 1X, 2X, 8 turns, 3000 rpm, "
+        "X\u00a045\u00b0\u00a0R, Y\u00a045\u00b0\u00a0L, CCW";
     EXPECT_EQ(facts.text(), whole);
     EXPECT_GT(facts.fontMetrics().horizontalAdvance(whole), facts.width());
     EXPECT_GE(facts.height(), facts.heightForWidth(facts.width()));
