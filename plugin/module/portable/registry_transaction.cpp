@@ -34,7 +34,10 @@ std::shared_ptr<RegistryTransaction> RegistryTransaction::begin(
 
 RegistryTransaction::RegistryTransaction(std::filesystem::path path, FileLock lock,
                                          RegistryFile content)
-    : path_(std::move(path)), lock_(std::move(lock)), file_(std::move(content)), stored_(file_) {}
+    : path_(std::move(path)),
+      lock_(std::move(lock)),
+      file_(std::move(content)),
+      stored_(file_.format()) {}
 
 RegistryTransaction::~RegistryTransaction() {
     try {
@@ -44,10 +47,10 @@ RegistryTransaction::~RegistryTransaction() {
 }
 
 bool RegistryTransaction::commit() {
-    if (file_ == stored_) return true;
-    const std::string text = file_.format();
+    std::string text = file_.format();
+    if (text == stored_) return true;
     if (text.size() > RegistryFile::MaxBytes || !replaceFile(path_, text)) return false;
-    stored_ = file_;
+    stored_ = std::move(text);
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <string>
 
 namespace Meridax::VisualControls::Rotavue {
 
@@ -33,7 +34,9 @@ private:
     std::filesystem::path path_;
     FileLock lock_;
     RegistryFile file_;
-    RegistryFile stored_;  ///< what the file on the disk holds
+    /// The text of what the file on the disk holds. A copy of the content would do, but this
+    /// compiler's variants do not survive a copy for which there is no memory.
+    std::string stored_;
 };
 
 }  // namespace Meridax::VisualControls::Rotavue
