@@ -26,7 +26,7 @@ struct ModuleChoice {
 ModuleChoice chooseModule(const std::optional<std::filesystem::path>& named);
 
 /// The loaded plug-in. It is unloaded when this object ends, unless something of it is still held;
-/// then it stays in the process.
+/// then it stays in the process, at least for as long as that is held.
 class Module {
 public:
     /// Loads the module and asks for the class of its controls. Raises `LoadError`.

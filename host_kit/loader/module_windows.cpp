@@ -1,10 +1,12 @@
 #include "host_kit/loader/module.h"
 #include "host_kit/loader/windows/com_control.h"
 #include "host_kit/loader/windows/registry_view.h"
+#include "host_kit/loader/windows/surroundings.h"
 #include "host_kit/memory/call.h"
 #include "host_kit/memory/utf8.h"
 #include "plugin/module/windows/interfaces/platform_guid.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -22,21 +24,6 @@ const IID PluginInterface = platformGuid(Api::IMeridaxPlugin::Identifier);
 std::string failure(const std::string& what, HRESULT status) {
     return what + " (status " + statusText(static_cast<std::uint32_t>(status)) + ")";
 }
-
-/// The component model for this thread, as long as this object lives. With its end the modules that
-/// it has loaded go.
-class Apartment {
-public:
-    Apartment() : entered_(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
-    Apartment(const Apartment&) = delete;
-    Apartment& operator=(const Apartment&) = delete;
-    ~Apartment() {
-        if (entered_) ::CoUninitialize();
-    }
-
-private:
-    bool entered_;
-};
 
 /// Where controls come from.
 class ControlClass {
@@ -122,9 +109,8 @@ class Module::Loaded {
 public:
     explicit Loaded(const ModuleChoice& choice) : controls(classOf(choice)) {}
 
-    Apartment apartment;
+    std::shared_ptr<Surroundings> surroundings = std::make_shared<Surroundings>();
     std::unique_ptr<ControlClass> controls;
-    Host::Ref<Api::IHostClipboard> clipboard;
 };
 
 Module::Module(const ModuleChoice& choice) : loaded_(std::make_unique<Loaded>(choice)) {}
@@ -137,11 +123,11 @@ Host::Ref<Api::IMeridaxPlugin> Module::makeControl() {
     if (control == nullptr) throw LoadError(failure("the module makes no control", status));
     auto plugin = ComRef<Plugin>::adopt(static_cast<Plugin*>(control));
     return Host::Ref<Api::IMeridaxPlugin>::share(
-        new ComControl(std::move(plugin), loaded_->clipboard));
+        new ComControl(std::move(plugin), loaded_->surroundings));
 }
 
 void Module::supplyClipboard(Api::IHostClipboard* clipboard) {
-    loaded_->clipboard = Host::Ref<Api::IHostClipboard>::share(clipboard);
+    loaded_->surroundings->clipboard = Host::Ref<Api::IHostClipboard>::share(clipboard);
 }
 
 }  // namespace Rotavue::HostKit

@@ -19,8 +19,9 @@ std::int32_t ComControl::message(std::uint32_t code, const Api::MessageArguments
                                  Api::MessageResult* result) {
     const std::uint32_t changes = SystemClipboard::changes();
     const std::int32_t status = send(code, arguments, result);
-    if (clipboard_ && SystemClipboard::changes() != changes) {
-        if (const auto text = SystemClipboard::text()) clipboard_->putText(*text);
+    const auto& clipboard = surroundings_->clipboard;
+    if (clipboard && SystemClipboard::changes() != changes) {
+        if (const auto text = SystemClipboard::text()) clipboard->putText(*text);
     }
     return status;
 }

@@ -3,6 +3,7 @@
 #include "plugin/framework/argument_reader.h"
 #include "plugin/framework/host/data/host_app.h"
 #include "tests/plugin/module/windows/doubles/raw_object.h"
+#include "tests/plugin/module/windows/doubles/refusing_heap.h"
 #include "tests/plugin/module/windows/doubles/variant_list.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,7 @@ using Host::Binary::failureOf;
 using Host::Binary::RawObject;
 
 constexpr std::uint32_t InvalidArgument = 0x80070057;
+constexpr std::uint32_t OutOfMemory = 0x8007000E;
 
 /// What copying the list and fetching an integer from it raises.
 std::uint32_t fetchStatus(const VARIANT& list, std::int32_t position) {
@@ -157,6 +159,18 @@ TEST(VariantArgumentsTest, EveryReferenceIsGivenBackWithTheCopy) {
         EXPECT_EQ(object.references, 1U);
     }
     EXPECT_EQ(object.references, 0U);
+}
+
+TEST(VariantArgumentsTest, StatusOfACopyThatFailsIsRaised) {
+    const VariantList list({integerVariant(7)});
+    std::uint32_t status = 0;
+    {
+        const RefusingHeap heap;
+        status = fetchStatus(list.value(), 0);
+        EXPECT_GT(heap.refused, 0);
+    }
+    EXPECT_EQ(status, OutOfMemory);
+    EXPECT_EQ(fetchStatus(list.value(), 0), 0U);
 }
 
 TEST(VariantArgumentsTest, HostsListIsNotLockedAndMayChangeMeanwhile) {
