@@ -29,8 +29,7 @@ public:
 
 private:
     void call(const char* name) const {
-        const auto function =
-            reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(library_->find(name));
+        const auto function = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(library_->find(name));
         EXPECT_EQ(function(), S_OK) << name;
     }
 
