@@ -5,14 +5,19 @@ namespace Rotavue::HostKit {
 void ComponentValues::erase(std::int32_t component) {
     const auto place = static_cast<std::uint32_t>(component);
     if (place < Direct) {
-        direct_[place].clear();
+        direct_[place] = {};
     } else {
         others_.erase(component);
     }
 }
 
-const std::vector<double>& ComponentValues::other(std::int32_t component) const {
-    static const std::vector<double> None;
+std::vector<double>& ComponentValues::Slot::changeable() {
+    if (shared) own = *std::exchange(shared, nullptr);
+    return own;
+}
+
+const ComponentValues::Slot& ComponentValues::other(std::int32_t component) const {
+    static const Slot None;
     const auto found = others_.find(component);
     return found == others_.end() ? None : found->second;
 }

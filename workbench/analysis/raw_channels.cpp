@@ -1,6 +1,8 @@
 #include "workbench/analysis/raw_channels.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "workbench/analysis/bearing_properties.h"
 #include "workbench/analysis/channel_text.h"
@@ -11,6 +13,7 @@ namespace {
 
 using HostKit::ChannelDescription;
 using HostKit::HostDescription;
+using SharedList = HostKit::ComponentValues::SharedList;
 
 constexpr std::int32_t PlainComponent = 0;
 constexpr std::int32_t XComponent = 4;
@@ -27,24 +30,50 @@ ChannelDescription channelOf(const Recording& recording) {
     return channel;
 }
 
-ChannelDescription tachoChannel(Recording& recording) {
-    ChannelDescription channel = channelOf(recording);
+/// A list of a record, which lives as long as the list is held.
+template <class Record>
+SharedList listOf(const std::shared_ptr<const Record>& record, std::vector<double> Record::*list) {
+    return {record, &(record.get()->*list)};
+}
+
+ChannelDescription tachoChannel(const std::shared_ptr<const Recording>& recording) {
+    ChannelDescription channel = channelOf(*recording);
     channel.name = L"Tacho";
     channel.unit = L"deg";
-    channel.values[PlainComponent] = std::move(recording.angle);
+    channel.values.share(PlainComponent, listOf(recording, &Recording::angle));
     return channel;
 }
 
-ChannelDescription orbitChannel(Recording& recording, const RawOrbitStyle& style) {
-    ChannelDescription channel = channelOf(recording);
+struct HeldPairs {
+    std::vector<double> x;
+    std::vector<double> y;
+};
+
+std::shared_ptr<const HeldPairs> heldPairs(const Recording& recording) {
+    HeldPairs pairs{recording.x, recording.y};
+    holdGaps(pairs.x, pairs.y);
+    return std::make_shared<const HeldPairs>(std::move(pairs));
+}
+
+template <class Record>
+void offerPairs(ChannelDescription& channel, const std::shared_ptr<const Record>& pairs) {
+    channel.values.share(XComponent, listOf(pairs, &Record::x));
+    channel.values.share(YComponent, listOf(pairs, &Record::y));
+}
+
+ChannelDescription orbitChannel(const std::shared_ptr<const Recording>& recording,
+                                const RawOrbitStyle& style) {
+    ChannelDescription channel = channelOf(*recording);
     channel.name = channelText(style.name);
-    channel.unit = channelText(recording.machine.unit);
+    channel.unit = channelText(recording->machine.unit);
     channel.color = style.color;
-    channel.properties = bearingProperties(recording.machine);
+    channel.properties = bearingProperties(recording->machine);
     channel.properties[KindProperty] = RawKind;
-    holdGaps(recording.x, recording.y);
-    channel.values[XComponent] = std::move(recording.x);
-    channel.values[YComponent] = std::move(recording.y);
+    if (countGaps(recording->x, recording->y) > 0) {
+        offerPairs(channel, heldPairs(*recording));
+    } else {
+        offerPairs(channel, recording);
+    }
     return channel;
 }
 
@@ -86,11 +115,15 @@ void fillUpTo(ChannelDescription& channel, double sampleRate, std::size_t positi
 
 }  // namespace
 
-RawOrbit rawOrbit(Recording recording, const RawOrbitStyle& style) {
+RawOrbit rawOrbit(const std::shared_ptr<const Recording>& recording, const RawOrbitStyle& style) {
     RawOrbit result;
-    if (recording.hasTacho()) result.tacho = tachoChannel(recording);
+    if (recording->hasTacho()) result.tacho = tachoChannel(recording);
     result.orbit = orbitChannel(recording, style);
     return result;
+}
+
+RawOrbit rawOrbit(Recording recording, const RawOrbitStyle& style) {
+    return rawOrbit(std::make_shared<const Recording>(std::move(recording)), style);
 }
 
 void assignRawOrbit(HostDescription& host, RawOrbit orbit) {

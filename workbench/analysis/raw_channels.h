@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -22,13 +23,16 @@ struct RawOrbitStyle {
 /// there is to say about the bearing; the tacho channel has the shaft's angle in degrees as
 /// component 0. Both hold every sample of the recording, at its rate.
 ///
-/// A gap in the recording holds the values before it (gaps.h): a channel has no word for a gap.
+/// A gap in the recording holds the values before it (gaps.h): a channel has no word for a gap. Two
+/// that are copies of each other share their samples.
 struct RawOrbit {
     HostKit::ChannelDescription orbit;
     std::optional<HostKit::ChannelDescription> tacho;
 };
 
-/// Takes the samples out of the recording.
+/// The samples are those of the recording itself, which lives as long as any channel of it; only
+/// where it has gaps, the orbit has its own.
+RawOrbit rawOrbit(const std::shared_ptr<const Recording>& recording, const RawOrbitStyle& style);
 RawOrbit rawOrbit(Recording recording, const RawOrbitStyle& style);
 
 /// Assigns the orbit to the control as one more group. The control draws several only if they agree

@@ -110,7 +110,8 @@ std::vector<double> findTurnTimes(std::span<const double> angle, double sampleRa
     }
     double falls = 0.0;
     for (std::size_t i = 1; i < angle.size(); ++i) {
-        falls -= std::round((angle[i] - angle[i - 1]) / DegreesPerTurn);
+        const double step = angle[i] - angle[i - 1];
+        if (std::abs(step) >= 0.5 * DegreesPerTurn) falls -= std::round(step / DegreesPerTurn);
         const double position = falls + angle[i] / DegreesPerTurn;
         if (position >= next) {
             const double part = (next - before) / (position - before);

@@ -53,9 +53,9 @@ void Bench::take(std::size_t place) {
     if (cursor_ > duration()) setCursor(duration());
 }
 
-Plane& Bench::addPlane(PreparedPlane prepared, const PlaneSetup& setup) {
+Plane& Bench::addPlane(std::shared_ptr<const PlaneSource> source, const PlaneSetup& setup) {
     const auto plane =
-        std::make_shared<Plane>(std::move(prepared), *module_, setup, scheme_ == LightNumber);
+        std::make_shared<Plane>(std::move(source), *module_, setup, scheme_ == LightNumber);
     const std::size_t place = planes_.size();
     undo_.push(new ChangeCommand(
         tr("opening %1").arg(QString::fromStdString(plane->name())),
@@ -107,9 +107,8 @@ namespace {
 std::function<void(Plane&)> showing(std::shared_ptr<const PlaneSource> source,
                                     const std::string& words) {
     if (words.empty()) return [](Plane& plane) { plane.showOriginal(); };
-    return [source = std::move(source), words](Plane& plane) {
-        plane.showCompensated(preparePlane(source), words);
-    };
+    return
+        [source = std::move(source), words](Plane& plane) { plane.showCompensated(source, words); };
 }
 
 }  // namespace

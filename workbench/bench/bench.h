@@ -41,7 +41,7 @@ public:
 
     /// Adds a plane at the end [undoable]. On an empty bench the cursor goes to the recording's
     /// end. Raises what `Plane` raises.
-    Plane& addPlane(PreparedPlane prepared, const PlaneSetup& setup = {});
+    Plane& addPlane(std::shared_ptr<const PlaneSource> source, const PlaneSetup& setup = {});
 
     /// Takes a plane away [undoable].
     void removePlane(Plane& plane);

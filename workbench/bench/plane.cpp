@@ -62,40 +62,36 @@ Settings usualSettings(const PlaneSource& source) {
     };
 }
 
-Plane::Plane(PreparedPlane prepared, HostKit::Module& module, const PlaneSetup& setup, bool light)
-    : original_(prepared.source),
-      shown_(prepared.source),
+Plane::Plane(std::shared_ptr<const PlaneSource> source, HostKit::Module& module,
+             const PlaneSetup& setup, bool light)
+    : original_(std::move(source)),
+      shown_(original_),
       name_(original_->name()),
       curves_(setup.curves),
       options_(setup.options),
       light_(light),
-      decimals_(axisDecimals(original_->recording)),
       position_(original_->recording.sampleCount() - 1) {
-    takeRaw(std::move(prepared.raw));
+    takeRaw();
     control_ = std::make_unique<HostKit::DrivenControl>(module, host_);
     control_->load(setup.settings.value_or(usualSettings(*original_)));
     readBack();
     assign();
 }
 
-void Plane::takeRaw(RawOrbit raw) {
+void Plane::takeRaw() {
     host_.description.assigned.groups.clear();
-    assignRawOrbit(host_.description, std::move(raw));
+    assignRawOrbit(host_.description, shown_->raw);
 }
 
-void Plane::showCompensated(PreparedPlane prepared, std::string words) {
-    shown_ = std::move(prepared.source);
+void Plane::showCompensated(std::shared_ptr<const PlaneSource> source, std::string words) {
+    shown_ = std::move(source);
     compensation_ = std::move(words);
-    takeRaw(std::move(prepared.raw));
+    takeRaw();
     assign();
 }
 
 void Plane::showOriginal() {
-    PreparedPlane prepared = preparePlane(original_);
-    shown_ = std::move(prepared.source);
-    compensation_.clear();
-    takeRaw(std::move(prepared.raw));
-    assign();
+    showCompensated(original_, {});
 }
 
 void Plane::setCurves(std::vector<CurveRequest> curves) {
@@ -189,7 +185,7 @@ void Plane::listChannels() {
     for (std::size_t i = 0; i < curves_.size(); ++i)
         if (host.channels.contains(idOf(i))) host.assigned.channels.emplace_back(idOf(i));
     const bool any = !host.assigned.channels.empty() || !host.assigned.groups.empty();
-    if (any) setAxisDecimals(host, decimals_);
+    if (any) setAxisDecimals(host, original_->decimals);
 }
 
 void Plane::refreshShownTurns() {

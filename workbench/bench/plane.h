@@ -37,7 +37,8 @@ class Plane {
 public:
     /// Makes the control, assigns the curves and loads the settings. Raises `LoadError` or
     /// `std::runtime_error` where the plug-in cannot be had.
-    Plane(PreparedPlane prepared, HostKit::Module& module, const PlaneSetup& setup, bool light);
+    Plane(std::shared_ptr<const PlaneSource> source, HostKit::Module& module,
+          const PlaneSetup& setup, bool light);
     Plane(const Plane&) = delete;
     Plane& operator=(const Plane&) = delete;
 
@@ -57,7 +58,7 @@ public:
 
     /// Shows another form of the same recording. It has the same number of samples and the same
     /// bearing.
-    void showCompensated(PreparedPlane prepared, std::string words);
+    void showCompensated(std::shared_ptr<const PlaneSource> source, std::string words);
     void showOriginal();
 
     const std::string& name() const { return name_; }
@@ -111,7 +112,7 @@ public:
     std::vector<std::string> notes() const;
 
 private:
-    void takeRaw(RawOrbit raw);
+    void takeRaw();
     void assign();
 
     /// Makes the curve of that place anew, or notes why it cannot be had.
@@ -133,7 +134,6 @@ private:
     std::size_t made_ = 0;  ///< curves that the host may have a channel of
     CurveOptions options_;
     bool light_;
-    std::int32_t decimals_;
     std::size_t position_;
     HostState state_ = HostState::Stored;
     TimeSpan stretch_{0.0, 0.0};  ///< that the curves of the shown turns are made of

@@ -5,30 +5,52 @@
 
 #include <algorithm>
 #include <cmath>
+#include <future>
 #include <utility>
 
 namespace Rotavue::Workbench {
 
 namespace {
 
-Recording completed(Recording recording) {
+std::shared_ptr<const Recording> completed(Recording recording) {
     completeClearance(recording.machine);
-    return recording;
+    return std::make_shared<const Recording>(std::move(recording));
 }
 
-void append(std::vector<std::string>& notes, const std::vector<std::string>& more) {
+std::future<ShaftTrack> findTurns(std::shared_ptr<const Recording> recording) {
+    return std::async(std::launch::async | std::launch::deferred,
+                      [recording = std::move(recording)] { return ShaftTrack(*recording); });
+}
+
+std::string nameOf(const Recording& recording) {
+    const std::string& point = recording.machine.point;
+    return point.empty() ? recording.file.stem().string() : point;
+}
+
+std::vector<std::string> joined(std::vector<std::string> notes,
+                                const std::vector<std::string>& more) {
     notes.insert(notes.end(), more.begin(), more.end());
+    return notes;
 }
 
 }  // namespace
 
 PlaneSource::PlaneSource(Recording of, RecordingOptions with)
-    : recording(completed(std::move(of))),
+    : PlaneSource(completed(std::move(of)), std::move(with)) {}
+
+PlaneSource::PlaneSource(const std::shared_ptr<const Recording>& of, RecordingOptions with)
+    : PlaneSource(of, std::move(with), findTurns(of)) {}
+
+/// The turns are found meanwhile, and waited for at the end.
+PlaneSource::PlaneSource(std::shared_ptr<const Recording> of, RecordingOptions with,
+                         std::future<ShaftTrack> turns)
+    : kept(std::move(of)),
       options(std::move(with)),
-      track(recording),
-      notes(recording.notes) {
-    append(notes, checkProbes(recording));
-    append(notes, track.notes());
+      raw(rawOrbit(kept, {.name = nameOf(recording), .color = 0})),
+      decimals(axisDecimals(recording)),
+      notes(joined(recording.notes, checkProbes(recording))),
+      track(turns.get()) {
+    notes = joined(std::move(notes), track.notes());
 }
 
 std::size_t PlaneSource::sampleAt(double seconds) const {
@@ -38,18 +60,11 @@ std::size_t PlaneSource::sampleAt(double seconds) const {
 }
 
 std::string PlaneSource::name() const {
-    const std::string& point = recording.machine.point;
-    return point.empty() ? recording.file.stem().string() : point;
+    return nameOf(recording);
 }
 
-PreparedPlane preparePlane(Recording recording, RecordingOptions options) {
-    return preparePlane(
-        std::make_shared<const PlaneSource>(std::move(recording), std::move(options)));
-}
-
-PreparedPlane preparePlane(std::shared_ptr<const PlaneSource> source) {
-    RawOrbit raw = rawOrbit(source->recording, {.name = source->name(), .color = 0});
-    return {.source = std::move(source), .raw = std::move(raw)};
+std::shared_ptr<const PlaneSource> preparePlane(Recording recording, RecordingOptions options) {
+    return std::make_shared<const PlaneSource>(std::move(recording), std::move(options));
 }
 
 }  // namespace Rotavue::Workbench

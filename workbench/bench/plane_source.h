@@ -4,6 +4,8 @@
 #include "workbench/analysis/shaft_track.h"
 #include "workbench/recording/recording.h"
 
+#include <cstdint>
+#include <future>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,7 +16,8 @@ namespace Rotavue::Workbench {
 /// read it; it lives as long as anybody holds it.
 struct PlaneSource {
     /// Completes the clearance of a round bearing that is told by one number, and looks the probes
-    /// and the keyphasor over. Takes as long as the recording is; made on a worker.
+    /// and the keyphasor over, on two threads. Takes as long as the recording is; made on a worker,
+    /// so that the window's thread only puts it into its place.
     explicit PlaneSource(Recording of, RecordingOptions with = {});
 
     double duration() const { return recording.duration(); }  ///< s
@@ -25,20 +28,20 @@ struct PlaneSource {
     /// "Bearing 1", or the file's name without its ending where no point is given.
     std::string name() const;
 
-    Recording recording;
-    RecordingOptions options;  ///< what it was read with, beyond its machine file
-    ShaftTrack track;
+    std::shared_ptr<const Recording> kept;  ///< for who shares its samples
+    const Recording& recording = *kept;
+    RecordingOptions options;        ///< what it was read with, beyond its machine file
+    RawOrbit raw;                    ///< what a host offers; the samples are the recording's
+    std::int32_t decimals;           ///< digits behind the point of the graph's numbers
     std::vector<std::string> notes;  ///< what a person should know, one line each
+    ShaftTrack track;
+
+private:
+    PlaneSource(const std::shared_ptr<const Recording>& of, RecordingOptions with);
+    PlaneSource(std::shared_ptr<const Recording> of, RecordingOptions with,
+                std::future<ShaftTrack> turns);
 };
 
-/// A recording made ready for a control, so that the window's thread only has to move it into its
-/// place: what is long about it has been done on the thread that called `preparePlane`.
-struct PreparedPlane {
-    std::shared_ptr<const PlaneSource> source;
-    RawOrbit raw;  ///< a copy of the samples for the host
-};
-
-PreparedPlane preparePlane(Recording recording, RecordingOptions options = {});
-PreparedPlane preparePlane(std::shared_ptr<const PlaneSource> source);
+std::shared_ptr<const PlaneSource> preparePlane(Recording recording, RecordingOptions options = {});
 
 }  // namespace Rotavue::Workbench

@@ -139,10 +139,11 @@ void FileActions::openView(const QString& file) {
         loader().load({planes[i].recording, planes[i].options, true});
 }
 
-void FileActions::takeLoaded(const LoadRequest& request, PreparedPlane& plane) {
-    if (!request.isOfView) return addRecording(request, plane);
+void FileActions::takeLoaded(const LoadRequest& request,
+                             const std::shared_ptr<const PlaneSource>& source) {
+    if (!request.isOfView) return addRecording(request, source);
     if (!pending_) return;
-    pending_->planes.push_back(std::move(plane));
+    pending_->planes.push_back(source);
     if (pending_->planes.size() == pending_->view.planes.size()) showPendingView();
 }
 
@@ -157,7 +158,7 @@ void FileActions::showPendingView() {
     PendingView pending = std::move(*pending_);
     pending_.reset();
     try {
-        showView(bench_, pending.view, std::move(pending.planes), keeper_);
+        showView(bench_, pending.view, pending.planes, keeper_);
     } catch (const std::exception& error) {
         tell(QString::fromUtf8(error.what()));
     }
@@ -165,12 +166,13 @@ void FileActions::showPendingView() {
 }
 
 // To have opened a recording is nothing that could be lost.
-void FileActions::addRecording(const LoadRequest& request, PreparedPlane& plane) {
+void FileActions::addRecording(const LoadRequest& request,
+                               const std::shared_ptr<const PlaneSource>& source) {
     const bool fresh = viewFile_.isEmpty() && bench_.undoStack().isClean();
     try {
         PlaneSetup setup{.curves = curves_, .settings = first_};
         setup.options.reference = request.options;
-        bench_.addPlane(std::move(plane), setup);
+        bench_.addPlane(source, setup);
     } catch (const std::exception& error) {
         return tell(QString::fromUtf8(error.what()));
     }

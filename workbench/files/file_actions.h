@@ -79,17 +79,17 @@ private:
     bool saveOrAsk();
 
     void openView(const QString& file);
-    void takeLoaded(const LoadRequest& request, PreparedPlane& plane);
+    void takeLoaded(const LoadRequest& request, const std::shared_ptr<const PlaneSource>& source);
     void dropPendingView(const LoadRequest& request);
     void showPendingView();
-    void addRecording(const LoadRequest& request, PreparedPlane& plane);
+    void addRecording(const LoadRequest& request, const std::shared_ptr<const PlaneSource>& source);
     void tell(const QString& line) { messages_->tell(line); }
 
     // A view is shown only once all of its recordings are there.
     struct PendingView {
         QString file;
         View view;
-        std::vector<PreparedPlane> planes;
+        std::vector<std::shared_ptr<const PlaneSource>> planes;
     };
 
     Bench& bench_;

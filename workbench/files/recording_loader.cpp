@@ -12,13 +12,13 @@ constexpr qint64 TellInterval = 50;  // ms
 // How much of all is done when the file is read; the rest makes it ready for a control.
 constexpr double PartOfReading = 0.7;
 
-PreparedPlane load(const LoadRequest& request, const ReadingWatch& watch) {
+std::shared_ptr<const PlaneSource> load(const LoadRequest& request, const ReadingWatch& watch) {
     const ReadingProgress progress(watch);
     Recording recording = readRecording(request.file, request.options,
                                         [&](double part) { return watch(part * PartOfReading); });
-    PreparedPlane plane = preparePlane(std::move(recording), request.options);
+    auto source = preparePlane(std::move(recording), request.options);
     progress.reach(1.0);
-    return plane;
+    return source;
 }
 
 }  // namespace
@@ -71,9 +71,9 @@ void RecordingLoader::finish() {
     const std::unique_ptr<Task> task = std::move(task_);
     const LoadRequest request = std::move(current_);
     try {
-        PreparedPlane plane = task->take();
+        const auto source = task->take();
         if (task->isCancelled()) throw ReadingCancelled();
-        Q_EMIT loaded(request, plane);
+        Q_EMIT loaded(request, source);
     } catch (const ReadingCancelled&) {
         Q_EMIT cancelled(request);
     } catch (const std::bad_alloc&) {

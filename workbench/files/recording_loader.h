@@ -44,9 +44,9 @@ Q_SIGNALS:
     /// 1, and for how long it has been loaded, in ms.
     void progressed(const Rotavue::Workbench::LoadRequest& request, double part, qint64 elapsed);
 
-    /// Each recording ends with one of these. Whoever wants the plane moves it out.
+    /// Each recording ends with one of these.
     void loaded(const Rotavue::Workbench::LoadRequest& request,
-                Rotavue::Workbench::PreparedPlane& plane);
+                const std::shared_ptr<const Rotavue::Workbench::PlaneSource>& source);
     void failed(const Rotavue::Workbench::LoadRequest& request, const QString& line);
     void cancelled(const Rotavue::Workbench::LoadRequest& request);
 
@@ -54,7 +54,7 @@ Q_SIGNALS:
     void idle();
 
 private:
-    using Task = BackgroundTask<PreparedPlane>;
+    using Task = BackgroundTask<std::shared_ptr<const PlaneSource>>;
 
     void beginNext();
     void look();

@@ -42,7 +42,8 @@ View viewOf(Bench& bench, const CompensationKeeper& keeper) {
     return view;
 }
 
-void showView(Bench& bench, const View& view, std::vector<PreparedPlane> planes,
+void showView(Bench& bench, const View& view,
+              const std::vector<std::shared_ptr<const PlaneSource>>& planes,
               const CompensationKeeper& keeper) {
     bench.playback().pause();
     while (!bench.planes().empty())
@@ -50,7 +51,7 @@ void showView(Bench& bench, const View& view, std::vector<PreparedPlane> planes,
     for (std::size_t i = 0; i < view.planes.size(); ++i) {
         const ViewPlane& saved = view.planes[i];
         const PlaneSetup setup{saved.curves, settingsOf(saved.setup), saved.curveOptions};
-        Plane& plane = bench.addPlane(std::move(planes[i]), setup);
+        Plane& plane = bench.addPlane(planes[i], setup);
         if (saved.compensation && keeper.take) keeper.take(plane, *saved.compensation);
     }
     bench.setCursor(view.cursor);

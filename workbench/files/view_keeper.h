@@ -23,7 +23,8 @@ View viewOf(Bench& bench, const CompensationKeeper& keeper = {});
 /// Puts a view on the bench in the place of what it shows, with the prepared recordings of the
 /// view's planes in their order. There is nothing to undo afterwards. Raises what `Plane` raises;
 /// the bench may then show some of the planes.
-void showView(Bench& bench, const View& view, std::vector<PreparedPlane> planes,
+void showView(Bench& bench, const View& view,
+              const std::vector<std::shared_ptr<const PlaneSource>>& planes,
               const CompensationKeeper& keeper = {});
 
 }  // namespace Rotavue::Workbench

@@ -1,7 +1,6 @@
 #include "workbench/recording/gaps.h"
 
 #include <cmath>
-#include <cstddef>
 
 namespace Rotavue::Workbench {
 namespace {
@@ -18,6 +17,13 @@ std::size_t firstPair(const std::vector<double>& x, const std::vector<double>& y
 }
 
 }  // namespace
+
+std::size_t countGaps(std::span<const double> x, std::span<const double> y) {
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < x.size(); ++i)
+        count += isPair(x[i], y[i]) ? 0U : 1U;
+    return count;
+}
 
 void holdGaps(std::vector<double>& x, std::vector<double>& y) {
     std::size_t held = firstPair(x, y);

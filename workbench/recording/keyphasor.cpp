@@ -124,7 +124,9 @@ std::vector<double> angleFromSpeed(std::span<const double> rpm, double sampleRat
 double turnsOf(std::span<const double> degrees) {
     double turns = 0.0;
     for (std::size_t i = 1; i < degrees.size(); ++i) {
-        turns += std::remainder(degrees[i] - degrees[i - 1], DegreesPerTurn) / DegreesPerTurn;
+        const double step = degrees[i] - degrees[i - 1];
+        const bool falls = std::abs(step) > 0.5 * DegreesPerTurn;
+        turns += (falls ? std::remainder(step, DegreesPerTurn) : step) / DegreesPerTurn;
     }
     return turns;
 }

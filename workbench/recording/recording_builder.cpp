@@ -7,6 +7,7 @@
 
 #include "workbench/recording/column_roles.h"
 #include "workbench/recording/degrees.h"
+#include "workbench/recording/gaps.h"
 #include "workbench/recording/keyphasor.h"
 #include "workbench/recording/number_field.h"
 #include "workbench/recording/option_items.h"
@@ -155,10 +156,7 @@ void RecordingBuilder::checkPairs() const {
 }
 
 void RecordingBuilder::noteGaps() {
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < recording_.x.size(); ++i) {
-        if (isGap(recording_.x[i], recording_.y[i])) ++count;
-    }
+    const std::size_t count = countGaps(recording_.x, recording_.y);
     if (count == 0) return;
     recording_.notes.push_back(std::to_string(count) + " of " +
                                std::to_string(recording_.x.size()) + " samples are gaps");

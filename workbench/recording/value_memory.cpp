@@ -12,13 +12,16 @@ namespace {
 constexpr std::size_t PageSize = 4096;
 constexpr std::size_t LeastSize = 1U << 20U;  // for less it isn't worth a call
 
-// Takes the pages that lie wholly inside. A system that doesn't know the advice gives them later.
+// Takes the pages that lie wholly inside, large ones where there are such. A system that doesn't
+// know the advice gives them later.
 void takePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t size) {
 #ifdef MADV_POPULATE_WRITE
     if (size < LeastSize) return;
     const std::size_t before = (0 - reinterpret_cast<std::uintptr_t>(memory)) % PageSize;
-    ::madvise(static_cast<char*>(memory) + before, (size - before) / PageSize * PageSize,
-              MADV_POPULATE_WRITE);
+    char* const first = static_cast<char*>(memory) + before;
+    const std::size_t length = (size - before) / PageSize * PageSize;
+    ::madvise(first, length, MADV_HUGEPAGE);
+    ::madvise(first, length, MADV_POPULATE_WRITE);
 #endif
 }
 

@@ -9,7 +9,8 @@ namespace Rotavue::Workbench {
 
 namespace {
 
-PreparedPlane prepared(const std::filesystem::path& file, const RecordingOptions& options) {
+std::shared_ptr<const PlaneSource> prepared(const std::filesystem::path& file,
+                                            const RecordingOptions& options) {
     return preparePlane(readRecording(file, options), options);
 }
 
@@ -21,11 +22,10 @@ void showRecording(MainWindow& window, const std::string& file, const WindowOrde
 
 void showViewFile(MainWindow& window, const std::string& file) {
     const View view = readView(file);
-    std::vector<PreparedPlane> planes;
+    std::vector<std::shared_ptr<const PlaneSource>> planes;
     for (const ViewPlane& plane : view.planes)
         planes.push_back(prepared(plane.recording, plane.options));
-    showView(window.bench(), view, std::move(planes),
-             window.findChild<FileActions*>()->compensationKeeper());
+    showView(window.bench(), view, planes, window.findChild<FileActions*>()->compensationKeeper());
     window.setViewName(QString::fromStdString(file));
 }
 

@@ -87,6 +87,30 @@ TEST(RawChannels, AGapHoldsThePairBeforeIt) {
     EXPECT_EQ(host.channel("orbit1")->getValue(2, 5), 20.0);
 }
 
+TEST(RawChannels, AreTheSamplesOfTheRecordingForAsLongAsTheyLast) {
+    HostKit::MemoryHost host;
+    std::weak_ptr<const Recording> kept;
+    {
+        const auto recording = std::make_shared<const Recording>(fiveSamples());
+        kept = recording;
+        assignRawOrbit(host.description, rawOrbit(recording, {"Shaft", 0}));
+    }
+    EXPECT_FALSE(kept.expired());
+    EXPECT_EQ(host.channel("orbit1")->getValue(4, 5), 50.0);
+    host.description.channels.clear();
+    EXPECT_TRUE(kept.expired());
+}
+
+TEST(RawChannels, GapsAreFilledInACopyAndStayInTheRecording) {
+    Recording recording = fiveSamples();
+    recording.y[0] = Gap;
+    const auto kept = std::make_shared<const Recording>(std::move(recording));
+    HostKit::MemoryHost host;
+    assignRawOrbit(host.description, rawOrbit(kept, {"Shaft", 0}));
+    EXPECT_EQ(host.channel("orbit1")->getValue(0, 5), 20.0);
+    EXPECT_TRUE(std::isnan(kept->y[0]));
+}
+
 TEST(RawChannels, ANameThatIsNoUtf8IsStillAName) {
     HostKit::MemoryHost host;
     assignRawOrbit(host.description, rawOrbit(fiveSamples(), {"\xFF"

@@ -18,9 +18,10 @@ protected:
             return request.file.filename().string();
         };
         QObject::connect(&loader_, &RecordingLoader::loaded,
-                         [=, this](const LoadRequest& request, PreparedPlane& plane) {
+                         [=, this](const LoadRequest& request,
+                                   const std::shared_ptr<const PlaneSource>& source) {
                              log_ += "loaded " + name(request) + '\n';
-                             planes_.push_back(std::move(plane));
+                             planes_.push_back(source);
                          });
         QObject::connect(&loader_, &RecordingLoader::failed,
                          [this](const LoadRequest&, const QString& line) {
@@ -49,7 +50,7 @@ protected:
 
     RecordingLoader loader_;
     std::string log_;
-    std::vector<PreparedPlane> planes_;
+    std::vector<std::shared_ptr<const PlaneSource>> planes_;
 };
 
 TEST_F(RecordingLoaderTest, LoadsInTheOrderInWhichItWasAsked) {
@@ -60,7 +61,7 @@ TEST_F(RecordingLoaderTest, LoadsInTheOrderInWhichItWasAsked) {
     waitUntilIdle();
     EXPECT_EQ(log_, "loaded a.csv\nloaded b.csv\nidle\n");
     ASSERT_EQ(planes_.size(), 2u);
-    EXPECT_EQ(planes_[0].source->recording.x, (std::vector<double>{1, 2, 3}));
+    EXPECT_EQ(planes_[0]->recording.x, (std::vector<double>{1, 2, 3}));
     EXPECT_FALSE(loader_.isLoading());
 }
 

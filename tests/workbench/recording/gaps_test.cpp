@@ -9,6 +9,13 @@ namespace {
 
 constexpr double Gap = std::numeric_limits<double>::quiet_NaN();
 
+TEST(Gaps, CountsOnceWhatOneProbeOrBothLack) {
+    EXPECT_EQ(countGaps(std::vector<double>{1, Gap, 3, Gap}, std::vector<double>{1, Gap, Gap, 4}),
+              3U);
+    EXPECT_EQ(countGaps(std::vector<double>{1}, std::vector<double>{2}), 0U);
+    EXPECT_EQ(countGaps({}, {}), 0U);
+}
+
 TEST(Gaps, HoldsTheLastPairUntilBothProbesHaveAValueAgain) {
     std::vector<double> x = {1, Gap, 3, Gap, 5};
     std::vector<double> y = {10, Gap, Gap, 40, 50};

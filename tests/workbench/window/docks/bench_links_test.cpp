@@ -141,14 +141,14 @@ TEST_F(TimeLinkTest, ShowsTheRecordingAndItsSpeed) {
 
 // No turn is seen before the first passing and behind the last one.
 TEST_F(TimeLinkTest, SpeedIsAGapWhereNoTurnIsSeen) {
-    const auto source = preparePlane(rotor()).source;
+    const auto source = preparePlane(rotor());
     const TimeLanes lanes = timeLanes(source);
     ASSERT_EQ(lanes.speed.size(), 1U);
     EXPECT_FALSE(lanes.speed[0].trace->valueAt(0.0));
     EXPECT_NEAR(lanes.speed[0].trace->valueAt(0.5).value(), 3000.0, 0.01);
     EXPECT_NEAR(lanes.passings.front(), 0.015, 1e-6);  // of turn 1: (1 - 0.25) / 50 s
     EXPECT_EQ(lanes.passings.size(), 50U);             // to that of turn 50, at 0.995 s
-    EXPECT_TRUE(timeLanes(preparePlane(withoutKeyphasor(rotor())).source).speed.empty());
+    EXPECT_TRUE(timeLanes(preparePlane(withoutKeyphasor(rotor()))).speed.empty());
 }
 
 TEST_F(TimeLinkTest, LongRecordingIsReadThroughOnAWorker) {
