@@ -72,7 +72,7 @@ std::shared_ptr<Plane> RunOutActions::shared(const Plane* plane) const {
 
 void RunOutActions::refresh() {
     const auto plane = shared(current_());
-    const bool known = plane && known_.contains(plane.get());
+    const bool known = plane && known_.contains(plane);
     take.setEnabled(plane && marked_().has_value());
     takeFile.setEnabled(plane != nullptr);
     const auto form = plane ? compensationOf(*plane) : std::nullopt;
@@ -108,26 +108,37 @@ RunOutActions::Result RunOutActions::resultOf(const PlaneSource& original,
 }
 
 void RunOutActions::start(Plane& plane, const RunOutSource& source, Maker make) {
-    // The plane itself belongs to this thread; what the worker reads outlives it there.
-    std::unique_ptr<LatestJob>& job = jobs_[&plane];
+    forgetGone();
+    const std::weak_ptr<Plane> place = shared(&plane);
+    std::unique_ptr<LatestJob>& job = jobs_[place];
     if (!job) job = std::make_unique<LatestJob>();
-    job->start([this, place = &plane, source, make = std::move(make),
+    // The plane itself belongs to this thread; what the worker reads outlives it there.
+    job->start([this, place, source, make = std::move(make),
                 original = plane.sharedOriginal()]() -> LatestJob::Deliver {
         const Result result = resultOf(*original, source, make);
-        return [this, place, result] { deliver(place, result); };
+        return [this, place, original, result] { deliver(place.lock(), original, result); };
     });
 }
 
-void RunOutActions::deliver(Plane* place, const Result& result) {
-    const auto plane = shared(place);
-    if (!plane) return;
+/// The job of a plane that is gone may still run: it goes later.
+void RunOutActions::forgetGone() {
+    std::erase_if(known_, [](const auto& entry) { return entry.first.expired(); });
+    std::erase_if(taken_, [](const Taken& one) { return one.shown.expired(); });
+    std::erase_if(jobs_, [](const auto& entry) {
+        return entry.first.expired() && !entry.second->isRunning();
+    });
+}
+
+void RunOutActions::deliver(const std::shared_ptr<Plane>& plane,
+                            const std::shared_ptr<const PlaneSource>& original,
+                            const Result& result) {
+    if (!plane || !bench_.has(*plane) || plane->sharedOriginal() != original) return;
     if (!result.shown) {
         bench_.report(QString::fromStdString(plane->name() + ": " + result.failure));
         refresh();
         return;
     }
-    known_[place] = result.known;
-    std::erase_if(taken_, [](const Taken& one) { return one.shown.expired(); });
+    known_[plane] = result.known;
     taken_.push_back({result.shown, result.known.source});
     bench_.showCompensated(*plane, result.shown, compensationText(result.known.source.form));
     refresh();
@@ -161,7 +172,7 @@ void RunOutActions::choose(std::optional<CompensationForm> form) {
         bench_.showOriginal(*plane);
         return;
     }
-    const auto known = known_.find(plane);
+    const auto known = known_.find(shared(plane));
     if (known == known_.end()) return;
     RunOutSource source = known->second.source;
     source.form = *form;

@@ -72,13 +72,19 @@ private:
     };
     using Maker = std::function<SlowRoll(const PlaneSource&)>;
 
+    /// By the plane itself, not by its place in memory: that may be a later plane's.
+    template <class Value>
+    using OfPlane = std::map<std::weak_ptr<Plane>, Value, std::owner_less<>>;
+
     static Maker makerOf(const RunOutSource& source);
     static Result resultOf(const PlaneSource& original, const RunOutSource& source,
                            const Maker& make);
     std::shared_ptr<Plane> shared(const Plane* plane) const;
     CompensationForm formFor(const Plane& plane) const;
     void start(Plane& plane, const RunOutSource& source, Maker make);
-    void deliver(Plane* place, const Result& result);
+    void deliver(const std::shared_ptr<Plane>& plane,
+                 const std::shared_ptr<const PlaneSource>& original, const Result& result);
+    void forgetGone();
     void takeMarked();
     void askForFile();
     void choose(std::optional<CompensationForm> form);
@@ -87,9 +93,9 @@ private:
     CurrentPlane current_;
     MarkedStretch marked_;
     QActionGroup forms_;
-    std::map<const Plane*, Known> known_;  ///< what was taken last
-    std::vector<Taken> taken_;             ///< by what a plane shows, also after an undo
-    std::map<const Plane*, std::unique_ptr<LatestJob>> jobs_;  ///< of each plane, the newest counts
+    OfPlane<Known> known_;                      ///< what was taken last
+    std::vector<Taken> taken_;                  ///< by what a plane shows, also after an undo
+    OfPlane<std::unique_ptr<LatestJob>> jobs_;  ///< of each plane, the newest counts
 };
 
 /// How a plane is compensated, by the words that it holds; empty where it is not.

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace Rotavue::Workbench {
 
@@ -36,6 +37,15 @@ protected:
 
     bool becomes(const std::string& words) {
         return QTest::qWaitFor([&] { return plane_->compensation() == words; });
+    }
+
+    /// As if a view with another bearing were opened: memory of the plane that goes may be the new
+    /// one's.
+    void openAnother() {
+        bench_.removePlane(*std::exchange(plane_, nullptr));
+        bench_.undoStack().clear();
+        plane_ = &add();
+        actions_.refresh();
     }
 
     Plane* plane_ = nullptr;
@@ -109,6 +119,25 @@ TEST_F(RunOutActionsTest, PlaneThatIsGoneMeanwhileIsNoMatter) {
     bench_.removePlane(*gone);
     QTest::qWait(200);
     EXPECT_TRUE(bench_.planes().empty());
+}
+
+TEST_F(RunOutActionsTest, RunOutOfAPlaneThatIsGoneIsNeverThatOfALaterOne) {
+    for (int i = 0; i < 20; ++i) {
+        takeFrom({0.1, 0.5});
+        ASSERT_TRUE(becomes(VectorWords));
+        openAnother();
+        EXPECT_FALSE(actions_.vector.isEnabled());
+        EXPECT_FALSE(actions_.waveform.isEnabled());
+    }
+}
+
+TEST_F(RunOutActionsTest, WhatIsFoundForAPlaneThatIsGoneReachesNoOther) {
+    for (int i = 0; i < 20; ++i) {
+        takeFrom({0.1, 0.5});
+        openAnother();
+        QTest::qWait(50);
+        EXPECT_EQ(plane_->compensation(), "");
+    }
 }
 
 TEST_F(RunOutActionsTest, IsKeptAndRestoredForAnotherPlaneOfTheSameBearing) {
