@@ -62,10 +62,20 @@ public:
                  const RecordingOptions& options)
         : file_(file), head_(head), options_(options), columns_(head.columns) {}
 
+    /// What is named and what can be guessed; the rest stays open.
+    std::vector<RecordingColumn> guess();
+
+    /// The same; throws where a name is wrong, or where a probe stays open.
     std::vector<RecordingColumn> assign();
 
 private:
-    void takeNamed(const std::optional<std::string>& name, ColumnRole role);
+    struct NamedColumn {
+        ColumnRole role;
+        const std::optional<std::string>& name;
+    };
+    std::vector<NamedColumn> namedColumns() const;
+    void checkNames();
+    void takeNamed(const NamedColumn& named);
     RecordingColumn* find(const std::string& name);
     void guessFromNames();
     void guessFromOrder();
@@ -83,32 +93,51 @@ private:
     std::vector<RecordingColumn> columns_;
 };
 
-std::vector<RecordingColumn> RoleAssigner::assign() {
-    takeNamed(options_.x.column, ColumnRole::X);
-    takeNamed(options_.y.column, ColumnRole::Y);
-    takeNamed(options_.timeColumn, ColumnRole::Time);
-    if (options_.keyphasor.kind != KeyphasorKind::None) {
-        takeNamed(options_.keyphasor.column, ColumnRole::Keyphasor);
-    }
+std::vector<RecordingColumn> RoleAssigner::guess() {
+    for (const NamedColumn& named : namedColumns())
+        takeNamed(named);
     if (head_.namesGiven) {
         guessFromNames();
     } else {
         guessFromOrder();
     }
+    return columns_;
+}
+
+std::vector<RecordingColumn> RoleAssigner::assign() {
+    checkNames();
+    guess();
     refuseMissing(ColumnRole::X, "x");
     refuseMissing(ColumnRole::Y, "y");
     return std::move(columns_);
 }
 
-void RoleAssigner::takeNamed(const std::optional<std::string>& name, ColumnRole role) {
-    if (!name) return;
-    RecordingColumn* column = find(*name);
-    if (!column) refuseName(*name);
-    if (column->role != ColumnRole::Unused) {
-        throw RecordingError({file_}, "column " + inQuotes(*name) + " named for two purposes",
-                             "a column of its own for each");
+std::vector<RoleAssigner::NamedColumn> RoleAssigner::namedColumns() const {
+    std::vector<NamedColumn> named = {{ColumnRole::X, options_.x.column},
+                                      {ColumnRole::Y, options_.y.column},
+                                      {ColumnRole::Time, options_.timeColumn}};
+    if (options_.keyphasor.kind != KeyphasorKind::None)
+        named.push_back({ColumnRole::Keyphasor, options_.keyphasor.column});
+    return named;
+}
+
+void RoleAssigner::checkNames() {
+    std::vector<const RecordingColumn*> taken;
+    for (const auto& [role, name] : namedColumns()) {
+        if (!name) continue;
+        const RecordingColumn* column = find(*name);
+        if (!column) refuseName(*name);
+        if (std::find(taken.begin(), taken.end(), column) != taken.end()) {
+            throw RecordingError({file_}, "column " + inQuotes(*name) + " named for two purposes",
+                                 "a column of its own for each");
+        }
+        taken.push_back(column);
     }
-    column->role = role;
+}
+
+void RoleAssigner::takeNamed(const NamedColumn& named) {
+    RecordingColumn* column = named.name ? find(*named.name) : nullptr;
+    if (column && column->role == ColumnRole::Unused) column->role = named.role;
 }
 
 RecordingColumn* RoleAssigner::find(const std::string& name) {
@@ -204,6 +233,20 @@ void RoleAssigner::refuseMissing(ColumnRole role, std::string_view name) const {
 std::vector<RecordingColumn> assignRoles(const std::filesystem::path& file, const SourceHead& head,
                                          const RecordingOptions& options) {
     return RoleAssigner(file, head, options).assign();
+}
+
+std::vector<RecordingColumn> guessRoles(const SourceHead& head, const RecordingOptions& options) {
+    return RoleAssigner({}, head, options).guess();
+}
+
+std::vector<std::string> furtherProbes(const std::vector<RecordingColumn>& columns) {
+    std::vector<std::string> names;
+    for (const RecordingColumn& column : columns) {
+        const bool unused = column.role == ColumnRole::Unused;
+        if (unused && (hasWord(column, XWords) || hasWord(column, YWords)))
+            names.push_back(column.name);
+    }
+    return names;
 }
 
 bool looksLikeTime(std::span<const double> values) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,6 +23,13 @@ namespace Rotavue::Workbench {
 /// named twice, or if X or Y is neither named nor found.
 std::vector<RecordingColumn> assignRoles(const std::filesystem::path& file, const SourceHead& head,
                                          const RecordingOptions& options);
+
+/// The same as far as it can be told: a named column that isn't there is passed over, of two
+/// purposes for one column the first counts, and what nobody can guess stays open.
+std::vector<RecordingColumn> guessRoles(const SourceHead& head, const RecordingOptions& options);
+
+/// The names of unused columns that a word makes X or Y as well: the probes of further planes.
+std::vector<std::string> furtherProbes(const std::vector<RecordingColumn>& columns);
 
 /// Whether the values rise in equal steps, but for decimals that were cut off: none is further than
 /// one and a half steps, and a tenth of the whole span, from the straight line between the first

@@ -71,6 +71,10 @@ bool setItem(RecordingOptions& options, const OptionItem& item, const std::strin
         item.kind);
 }
 
+void clearItem(RecordingOptions& options, const OptionItem& item) {
+    std::visit([&](const auto& kind) { kind.field(options).reset(); }, item.kind);
+}
+
 std::optional<std::string> itemText(const RecordingOptions& options, const OptionItem& item) {
     RecordingOptions source = options;
     return std::visit(

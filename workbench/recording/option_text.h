@@ -16,6 +16,9 @@ inline constexpr std::size_t LongestItemText = 200;
 /// Numbers have a decimal point whatever the locale.
 bool setItem(RecordingOptions& options, const OptionItem& item, const std::string& text);
 
+/// Leaves the item unset.
+void clearItem(RecordingOptions& options, const OptionItem& item);
+
 /// The text that `setItem` takes for the item's value; nothing where it is unset.
 std::optional<std::string> itemText(const RecordingOptions& options, const OptionItem& item);
 

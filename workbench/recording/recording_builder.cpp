@@ -52,6 +52,7 @@ RecordingBuilder::RecordingBuilder(const std::filesystem::path& file, SampleSour
 
 Recording RecordingBuilder::build(const ReadingProgress& progress) {
     recording_.columns = assignRoles(recording_.file, source_.head(), options_);
+    noteFurtherPlanes();
     readColumns(progress.between(0.0, PartOfReading));
     takeRate();
     takeDisplacements();
@@ -60,6 +61,17 @@ Recording RecordingBuilder::build(const ReadingProgress& progress) {
     takeFacts();
     progress.reach(1.0);
     return std::move(recording_);
+}
+
+// Which plane was taken is told where nobody named it.
+void RecordingBuilder::noteFurtherPlanes() {
+    if (!source_.head().namesGiven || (options_.x.column && options_.y.column)) return;
+    const std::vector<std::string> further = furtherProbes(recording_.columns);
+    if (further.empty()) return;
+    recording_.notes.push_back(
+        "taken are " + inQuotes(columnOf(ColumnRole::X)->name) + " and " +
+        inQuotes(columnOf(ColumnRole::Y)->name) + "; " + std::to_string(further.size()) +
+        " further columns have names of probes, such as " + inQuotes(further.front()));
 }
 
 // A time column that a given rate replaces isn't read: it may be what is wrong with the file.
@@ -128,8 +140,17 @@ void RecordingBuilder::takeDisplacements() {
     recording_.coupling = options_.coupling.value_or(Coupling::Dc);
     recording_.x = displacement(ColumnRole::X, options_.x);
     recording_.y = displacement(ColumnRole::Y, options_.y);
+    noteTurnedProbe("X", options_.x);
+    noteTurnedProbe("Y", options_.y);
     checkPairs();
     noteGaps();
+}
+
+// Mostly it was copied from a data sheet, whose volts count the gap and not the shaft's coming.
+void RecordingBuilder::noteTurnedProbe(const char* name, const ProbeOptions& probe) {
+    if (probe.sensitivity.value_or(1.0) > 0.0) return;
+    recording_.notes.push_back(std::string("the ") + name +
+                               " probe is turned round by its negative sensitivity");
 }
 
 std::vector<double> RecordingBuilder::displacement(ColumnRole role, const ProbeOptions& probe) {

@@ -22,6 +22,7 @@ public:
     Recording build(const ReadingProgress& progress);
 
 private:
+    void noteFurtherPlanes();
     void readColumns(const ReadingProgress& progress);
     std::vector<double> taken(ColumnRole role);
     const RecordingColumn* columnOf(ColumnRole role) const;
@@ -31,6 +32,7 @@ private:
 
     void takeDisplacements();
     std::vector<double> displacement(ColumnRole role, const ProbeOptions& probe);
+    void noteTurnedProbe(const char* name, const ProbeOptions& probe);
     void checkPairs() const;
     void noteGaps();
 

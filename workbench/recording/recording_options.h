@@ -35,8 +35,8 @@ struct KeyphasorOptions {
     std::optional<std::string> column;  ///< name of the column, or "#4" for the fourth one
     std::optional<KeyphasorKind> kind;  ///< unset: from the column's name, unit and values
     std::optional<PulseEdge> edge;      ///< unset: rising
-    std::optional<double> level;        ///< volts; unset: from the quantiles, keyphasor.h
-    std::optional<double> hysteresis;   ///< volts, 0 or more; unset: quarter of the swing
+    std::optional<double> level;        ///< file's unit; unset: from the quantiles, keyphasor.h
+    std::optional<double> hysteresis;   ///< file's unit, 0 or more; unset: quarter of the swing
     std::optional<int> pulsesPerTurn;   ///< 1 to 3600; unset: 1
     std::optional<double> angle;        ///< degrees clockwise from the top, -360 to 360
 };

@@ -63,6 +63,33 @@ TEST(ColumnRoles, AreGuessedFromTheOrderWithoutNames) {
     EXPECT_EQ(rolesOf(numberedHead(3, false)), "xyk");
 }
 
+TEST(ColumnRoles, AreGuessedAsFarAsTheyCanBe) {
+    const auto guessOf = [](const SourceHead& head, const RecordingOptions& options) {
+        std::string letters;
+        for (const RecordingColumn& column : guessRoles(head, options))
+            letters += "-txyk"[static_cast<int>(column.role)];
+        return letters;
+    };
+    RecordingOptions options;
+    EXPECT_EQ(guessOf(namedHead({"t", "tacho", "axl", "rad"}), options), "tk--");
+    // More than three columns are left beside the time: nothing says which is which.
+    EXPECT_EQ(guessOf(numberedHead(5, true), options), "t----");
+    options.x.column = "axl";
+    options.y.column = "axl";
+    EXPECT_EQ(guessOf(namedHead({"t", "tacho", "axl", "rad"}), options), "tkx-");
+    options.y.column = "gone";
+    EXPECT_EQ(guessOf(namedHead({"t", "tacho", "axl", "rad"}), options), "tkx-");
+}
+
+TEST(ColumnRoles, LeaveTheProbesOfFurtherPlanesUnused) {
+    const auto further = [](std::initializer_list<const char*> names) {
+        return furtherProbes(assignRoles("f", namedHead(names), {}));
+    };
+    EXPECT_EQ(further({"t", "P1.X", "P1.Y", "P2.X", "P2.Y", "rpm"}),
+              (std::vector<std::string>{"P2.X", "P2.Y"}));
+    EXPECT_EQ(further({"t", "x", "y", "axl", "X-Axis Value"}), std::vector<std::string>{});
+}
+
 TEST(ColumnRoles, OfTheOptionsComeFirst) {
     RecordingOptions options;
     options.x.column = "B";

@@ -193,6 +193,25 @@ TEST_F(RecordingTest, ScalesEachProbeByItself) {
     EXPECT_EQ(recording.coupling, Coupling::Dc);
 }
 
+TEST_F(RecordingTest, SaysThatANegativeSensitivityTurnsAProbeRound) {
+    RecordingOptions options;
+    options.x.sensitivity = 0.2;
+    options.y.sensitivity = -0.2;
+    EXPECT_EQ(read("t,x,y\n0,1,2\n1,1,2\n", options).notes,
+              std::vector<std::string>{"the Y probe is turned round by its negative sensitivity"});
+}
+
+TEST_F(RecordingTest, SaysWhichPlaneItIsOfWhereTheFileHasSeveral) {
+    const std::string table = "t,P1.X,P1.Y,P2.X,P2.Y\n0,1,2,3,4\n1,1,2,3,4\n";
+    EXPECT_EQ(read(table).notes,
+              std::vector<std::string>{"taken are \"P1.X\" and \"P1.Y\"; 2 further columns have "
+                                       "names of probes, such as \"P2.X\""});
+    RecordingOptions named;
+    named.x.column = "P2.X";
+    named.y.column = "P2.Y";
+    EXPECT_TRUE(read(table, named).notes.empty());
+}
+
 TEST_F(RecordingTest, CentresTheOrbitWhenCoupledAc) {
     RecordingOptions options;
     options.coupling = Coupling::Ac;
