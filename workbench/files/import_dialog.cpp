@@ -3,11 +3,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFormLayout>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -15,18 +12,21 @@
 #include <algorithm>
 #include <array>
 
+#include "workbench/files/import_fields.h"
 #include "workbench/recording/machine_file.h"
 #include "workbench/recording/option_text.h"
 #include "workbench/recording/recording_error.h"
 
 namespace Rotavue::Workbench {
-namespace {
 
+/// How a role is called, and where the name of its column stands in a machine file.
 struct RoleName {
     ColumnRole role;
     const char* name;
-    const char* pointer;  // of the column's name in a machine file
+    const char* pointer;
 };
+
+namespace {
 
 constexpr std::array RoleNames = {
     RoleName{ColumnRole::Unused, QT_TRANSLATE_NOOP("ImportDialog", "not used"), ""},
@@ -37,39 +37,31 @@ constexpr std::array RoleNames = {
              "/keyphasor/column"},
 };
 
-// How a clearance was measured, by its place in the box; the first one is no answer.
-constexpr int ClearanceDiametral = 1;
-constexpr int ClearanceRadial = 2;
-
 QString text(const std::string& utf8) {
     return QString::fromStdString(utf8);
-}
-
-QString nameOf(std::string_view pointer) {
-    return QString::fromUtf8(pointer.data(), static_cast<qsizetype>(pointer.size()));
 }
 
 QString headerOf(const RecordingColumn& column) {
     return text(column.unit.empty() ? column.name : column.name + " [" + column.unit + ']');
 }
 
-QString allowed(const OptionItem& item) {
-    return text(allowedText(item.kind));
-}
-
 }  // namespace
 
 ImportDialog::ImportDialog(const ImportPreview& preview, const RecordingOptions& known,
                            QWidget* parent)
-    : QDialog(parent), preview_(preview), options_(known) {
+    : QDialog(parent),
+      preview_(preview),
+      options_(known),
+      fields_(new ImportFields(preview, this)) {
     setObjectName(QStringLiteral("importDialog"));
     setWindowTitle(tr("What %1 holds").arg(text(preview.file.filename().string())));
     auto* column = new QVBoxLayout(this);
     column->addWidget(makeTable(), 1);
-    column->addWidget(makeFields());
+    column->addWidget(fields_);
     column->addWidget(makeEnd());
-    fill(known);
-    resize(760, 640);
+    fields_->fill(known);
+    showUnits();
+    resize(860, 700);
 }
 
 // The first row of the table holds the roles, those below the file's first rows.
@@ -83,14 +75,7 @@ QWidget* ImportDialog::makeTable() {
         const auto index = static_cast<std::size_t>(i);
         const RecordingColumn& column = preview_.columns[index];
         table->setHorizontalHeaderItem(i, new QTableWidgetItem(headerOf(column)));
-        auto* roles = new QComboBox(table);
-        for (const RoleName& role : RoleNames)
-            roles->addItem(tr(role.name));
-        roles->setCurrentIndex(static_cast<int>(column.role));
-        roles->setObjectName(QStringLiteral("role%1").arg(i + 1));
-        roles->setAccessibleName(tr("Role of column %1").arg(headerOf(column)));
-        roles_.push_back(roles);
-        table->setCellWidget(0, i, roles);
+        table->setCellWidget(0, i, makeRoles(index, table));
         for (std::size_t row = 0; row < preview_.rows.size(); ++row)
             table->setItem(static_cast<int>(row) + 1, i,
                            new QTableWidgetItem(text(preview_.rows[row][index])));
@@ -99,50 +84,16 @@ QWidget* ImportDialog::makeTable() {
     return table;
 }
 
-QWidget* ImportDialog::makeFields() {
-    auto* box = new QWidget(this);
-    auto* sides = new QHBoxLayout(box);
-    sides->setContentsMargins(0, 0, 0, 0);
-    auto* left = new QFormLayout;
-    auto* right = new QFormLayout;
-    sides->addLayout(left, 1);
-    sides->addLayout(right, 1);
-    const QString rate = preview_.rate ? text(numberText(*preview_.rate)) : tr("from the time");
-    addField(*left, tr("&Sample rate, Hz"), "/rate", rate);
-    addField(*left, tr("&Unit"), "/unit",
-             preview_.unit.empty() ? tr("such as um") : text(preview_.unit));
-    addField(*left, tr("&X probe at"), "/x/angle", tr("90, or 45 R"));
-    addField(*left, tr("&Y probe at"), "/y/angle", tr("0, or 45 L"));
-    addField(*left, tr("X: volts for one unit"), "/x/sensitivity", tr("1"));
-    addField(*left, tr("Y: volts for one unit"), "/y/sensitivity", tr("1"));
-    addWords(*left, tr("&Rotation"), "/rotation", {tr("not known"), "CW", "CCW"});
-    addWords(*right, tr("&Keyphasor holds"), "/keyphasor/kind",
-             {tr("what its values look like"), "none", "volts", "ramp", "speed"});
-    addWords(*right, tr("Pulse &edge"), "/keyphasor/edge", {"rising", "falling"});
-    addField(*right, tr("Pulse &level, V"), "/keyphasor/level", tr("halfway"));
-    addField(*right, tr("&Pulses per turn"), "/keyphasor/pulsesPerTurn", tr("1"));
-    addField(*right, tr("Keyphasor at"), "/keyphasor/angle", tr("0"));
-    right->addRow(tr("&Clearance"), makeClearance());
-    return box;
-}
-
-QWidget* ImportDialog::makeClearance() {
-    auto* box = new QWidget(this);
-    auto* row = new QHBoxLayout(box);
-    row->setContentsMargins(0, 0, 0, 0);
-    width_ = new QLineEdit(box);
-    width_->setObjectName(QStringLiteral("clearanceWidth"));
-    width_->setPlaceholderText(tr("across"));
-    height_ = new QLineEdit(box);
-    height_->setObjectName(QStringLiteral("clearanceHeight"));
-    height_->setPlaceholderText(tr("upright"));
-    clearanceKind_ = new QComboBox(box);
-    clearanceKind_->setObjectName(QStringLiteral("clearanceKind"));
-    clearanceKind_->addItems({tr("of which?"), tr("diameters"), tr("radii")});
-    for (QWidget* widget : {static_cast<QWidget*>(width_), static_cast<QWidget*>(height_),
-                            static_cast<QWidget*>(clearanceKind_)})
-        row->addWidget(widget);
-    return box;
+QComboBox* ImportDialog::makeRoles(std::size_t column, QWidget* parent) {
+    auto* roles = new QComboBox(parent);
+    for (const RoleName& role : RoleNames)
+        roles->addItem(tr(role.name));
+    roles->setCurrentIndex(static_cast<int>(preview_.columns[column].role));
+    roles->setObjectName(QStringLiteral("role%1").arg(column + 1));
+    roles->setAccessibleName(tr("Role of column %1").arg(headerOf(preview_.columns[column])));
+    connect(roles, &QComboBox::currentIndexChanged, this, &ImportDialog::showUnits);
+    roles_.push_back(roles);
+    return roles;
 }
 
 QWidget* ImportDialog::makeEnd() {
@@ -169,37 +120,15 @@ QWidget* ImportDialog::makeEnd() {
     return box;
 }
 
-void ImportDialog::addField(QFormLayout& form, const QString& name, std::string_view pointer,
-                            const QString& hint) {
-    auto* field = new QLineEdit(this);
-    field->setObjectName(nameOf(pointer));
-    field->setPlaceholderText(hint);
-    field->setToolTip(allowed(itemAt(pointer)));
-    form.addRow(name, field);
-    fields_[std::string(pointer)] = field;
-}
-
-// A word that no machine file takes says that nothing is told.
-void ImportDialog::addWords(QFormLayout& form, const QString& name, std::string_view pointer,
-                            const QStringList& words) {
-    auto* box = new QComboBox(this);
-    box->setObjectName(nameOf(pointer));
-    box->addItems(words);
-    form.addRow(name, box);
-    words_[std::string(pointer)] = box;
-}
-
-void ImportDialog::fill(const RecordingOptions& known) {
-    for (const auto& [pointer, field] : fields_)
-        field->setText(text(itemText(known, itemAt(pointer)).value_or("")));
-    for (const auto& [pointer, box] : words_) {
-        const auto word = itemText(known, itemAt(pointer));
-        if (word) box->setCurrentText(text(*word));
+void ImportDialog::showUnits() {
+    ColumnUnits units;
+    for (std::size_t i = 0; i < roles_.size(); ++i) {
+        const std::string& unit = preview_.columns[i].unit;
+        if (roleOf(i) == ColumnRole::X) units.x = unit;
+        if (roleOf(i) == ColumnRole::Y) units.y = unit;
+        if (roleOf(i) == ColumnRole::Keyphasor) units.keyphasor = unit;
     }
-    width_->setText(text(itemText(known, itemAt("/clearance/width")).value_or("")));
-    height_->setText(text(itemText(known, itemAt("/clearance/height")).value_or("")));
-    const bool told = known.clearanceWidth || known.clearanceHeight;
-    if (told) clearanceKind_->setCurrentIndex(ClearanceDiametral);
+    fields_->setColumnUnits(units);
 }
 
 bool ImportDialog::isUsedWithoutAsking() const {
@@ -211,8 +140,8 @@ bool ImportDialog::isKeptBeside() const {
 }
 
 void ImportDialog::accept() {
-    RecordingOptions options;
-    if (!takeRoles(options) || !takeFields(options) || !takeClearance(options)) return;
+    RecordingOptions options = options_;
+    if (!takeFields(options) || !takeRoles(options)) return;
     options_ = options;
     QDialog::accept();
 }
@@ -232,55 +161,30 @@ std::string ImportDialog::columnName(std::size_t column) const {
 }
 
 bool ImportDialog::takeRoles(RecordingOptions& options) {
-    for (const RoleName& role : RoleNames) {
-        if (role.role == ColumnRole::Unused) continue;
-        bool taken = false;
-        for (std::size_t i = 0; i < roles_.size(); ++i) {
-            if (roleOf(i) != role.role) continue;
-            if (taken)
-                return refuse(roles_[i], tr("Two columns have the role: %1").arg(tr(role.name)));
-            taken = setItem(options, itemAt(role.pointer), columnName(i));
-        }
-        const bool needed = role.role == ColumnRole::X || role.role == ColumnRole::Y;
-        if (needed && !taken)
-            return refuse(roles_.front(), tr("No column has the role: %1").arg(tr(role.name)));
+    for (const RoleName& role : RoleNames)
+        if (role.role != ColumnRole::Unused && !takeRole(options, role)) return false;
+    if (!options.keyphasor.column) options.keyphasor.kind = KeyphasorKind::None;
+    const bool timed = options.timeColumn || options.rate || preview_.rate;
+    if (timed) return true;
+    return refuse(fields_->rateField(), tr("A time column or a sample rate is needed"));
+}
+
+bool ImportDialog::takeRole(RecordingOptions& options, const RoleName& role) {
+    bool taken = false;
+    clearItem(options, itemAt(role.pointer));
+    for (std::size_t i = 0; i < roles_.size(); ++i) {
+        if (roleOf(i) != role.role) continue;
+        if (taken) return refuse(roles_[i], tr("Two columns have the role: %1").arg(tr(role.name)));
+        taken = setItem(options, itemAt(role.pointer), columnName(i));
     }
-    const bool keyphasor = options.keyphasor.column.has_value();
-    if (!keyphasor) options.keyphasor.kind = KeyphasorKind::None;
-    return true;
+    const bool needed = role.role == ColumnRole::X || role.role == ColumnRole::Y;
+    if (taken || !needed) return true;
+    return refuse(roles_.front(), tr("No column has the role: %1").arg(tr(role.name)));
 }
 
 bool ImportDialog::takeFields(RecordingOptions& options) {
-    for (const auto& [pointer, field] : fields_) {
-        const std::string typed = field->text().trimmed().toStdString();
-        const OptionItem& item = itemAt(pointer);
-        if (!typed.empty() && !setItem(options, item, typed))
-            return refuse(field, tr("Allowed here: %1").arg(allowed(item)));
-    }
-    for (const auto& [pointer, box] : words_) {
-        const bool open = pointer == "/keyphasor/kind" && options.keyphasor.kind;
-        if (!open) setItem(options, itemAt(pointer), box->currentText().toStdString());
-    }
-    const bool timed = options.timeColumn || options.rate || preview_.rate;
-    if (!timed) return refuse(fields_["/rate"], tr("A time column or a sample rate is needed"));
-    return true;
-}
-
-bool ImportDialog::takeClearance(RecordingOptions& options) {
-    const auto take = [&](QLineEdit* field, std::string_view pointer) {
-        const std::string typed = field->text().trimmed().toStdString();
-        if (typed.empty() || setItem(options, itemAt(pointer), typed)) return true;
-        return refuse(field, tr("Allowed here: %1").arg(allowed(itemAt(pointer))));
-    };
-    if (!take(width_, "/clearance/width") || !take(height_, "/clearance/height")) return false;
-    const bool told = options.clearanceWidth || options.clearanceHeight;
-    const int kind = clearanceKind_->currentIndex();
-    if (told && kind != ClearanceDiametral && kind != ClearanceRadial)
-        return refuse(clearanceKind_, tr("Is the clearance told as diameters or as radii?"));
-    if (kind != ClearanceRadial) return true;
-    if (options.clearanceWidth) *options.clearanceWidth *= 2.0;
-    if (options.clearanceHeight) *options.clearanceHeight *= 2.0;
-    return true;
+    const auto fault = fields_->take(options);
+    return !fault || refuse(fault->widget, fault->line);
 }
 
 bool ImportDialog::refuse(QWidget* widget, const QString& line) {

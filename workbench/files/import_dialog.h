@@ -2,8 +2,6 @@
 
 #include <QDialog>
 
-#include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -12,11 +10,12 @@
 
 class QCheckBox;
 class QComboBox;
-class QFormLayout;
 class QLabel;
-class QLineEdit;
 
 namespace Rotavue::Workbench {
+
+class ImportFields;
+struct RoleName;
 
 /// Asks what the numbers of a recording mean: its first rows, a role for each column, and what the
 /// file doesn't say about probes, keyphasor and bearing. What is wrong is told in the dialog,
@@ -25,11 +24,12 @@ class ImportDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// Begins with the preview's guess, and with `known` over it.
+    /// Begins with the preview's roles, and with `known` in the fields.
     ImportDialog(const ImportPreview& preview, const RecordingOptions& known,
                  QWidget* parent = nullptr);
 
-    /// What was told, complete once the dialog is accepted.
+    /// What was told, complete once the dialog is accepted; the path of a machine file stays as it
+    /// is known.
     const RecordingOptions& options() const { return options_; }
 
     /// The next recording of this shape is not asked about.
@@ -42,19 +42,14 @@ public:
 
 private:
     QWidget* makeTable();
-    QWidget* makeFields();
-    QWidget* makeClearance();
+    QComboBox* makeRoles(std::size_t column, QWidget* parent);
     QWidget* makeEnd();
-    void addField(QFormLayout& form, const QString& name, std::string_view pointer,
-                  const QString& hint);
-    void addWords(QFormLayout& form, const QString& name, std::string_view pointer,
-                  const QStringList& words);
-    void fill(const RecordingOptions& known);
+    void showUnits();
 
     /// Each gives false, having told what is wrong.
     bool takeRoles(RecordingOptions& options);
+    bool takeRole(RecordingOptions& options, const RoleName& role);
     bool takeFields(RecordingOptions& options);
-    bool takeClearance(RecordingOptions& options);
     bool refuse(QWidget* widget, const QString& line);
 
     ColumnRole roleOf(std::size_t column) const;
@@ -62,12 +57,8 @@ private:
 
     ImportPreview preview_;
     RecordingOptions options_;
-    std::vector<QComboBox*> roles_;             ///< one for each column
-    std::map<std::string, QLineEdit*> fields_;  ///< by place in a machine file
-    std::map<std::string, QComboBox*> words_;
-    QLineEdit* width_ = nullptr;
-    QLineEdit* height_ = nullptr;
-    QComboBox* clearanceKind_ = nullptr;
+    std::vector<QComboBox*> roles_;  ///< one for each column
+    ImportFields* fields_ = nullptr;
     QCheckBox* silent_ = nullptr;
     QCheckBox* beside_ = nullptr;
     QLabel* fault_ = nullptr;

@@ -19,18 +19,6 @@ bool hasRole(const ImportPreview& preview, ColumnRole role) {
                        [&](const RecordingColumn& column) { return column.role == role; });
 }
 
-// The columns as their names, and what is known of them, tell; without roles where that isn't
-// enough.
-std::vector<RecordingColumn> guessedColumns(const std::filesystem::path& file,
-                                            const SourceHead& head,
-                                            const RecordingOptions& options) {
-    try {
-        return assignRoles(file, head, options);
-    } catch (const RecordingError&) {
-        return head.columns;
-    }
-}
-
 std::string shapeOf(const SourceHead& head, const std::string& kind) {
     std::string shape = kind + ' ' + std::to_string(head.columns.size());
     for (const RecordingColumn& column : head.columns) {
@@ -43,13 +31,16 @@ ImportPreview previewOf(const std::filesystem::path& file, const SourceHead& hea
                         const RecordingOptions& options) {
     ImportPreview preview;
     preview.file = file;
-    preview.columns = guessedColumns(file, head, options);
-    preview.rate = options.rate ? options.rate : head.rate;
+    preview.columns = guessRoles(head, options);
+    preview.rate = head.rate;
     preview.unit = head.unit;
-    const bool rolesTold = head.namesGiven || (options.x.column && options.y.column);
-    preview.isSure = rolesTold && hasRole(preview, ColumnRole::X) &&
+    preview.machine = head.machine;
+    preview.point = head.point;
+    const bool namesTell = head.namesGiven && furtherProbes(preview.columns).empty();
+    const bool optionsTell = options.x.column && options.y.column;
+    preview.isSure = (namesTell || optionsTell) && hasRole(preview, ColumnRole::X) &&
                      hasRole(preview, ColumnRole::Y) &&
-                     (preview.rate || hasRole(preview, ColumnRole::Time));
+                     (preview.rate || options.rate || hasRole(preview, ColumnRole::Time));
     return preview;
 }
 

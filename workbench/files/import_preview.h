@@ -16,7 +16,9 @@ struct ImportPreview {
     std::vector<std::vector<std::string>> rows;  ///< the first rows of values, as they stand there
     std::optional<double> rate;                  ///< samples per second, if the header tells it
     std::string unit;                            ///< of the displacements, if it tells one
-    bool isSure = false;  ///< names tell what each column is, and how fast it was sampled
+    std::string machine;                         ///< its name, if the header tells it
+    std::string point;                           ///< that of the measuring point likewise
+    bool isSure = false;  ///< names tell of one plane alone what each column is, and the rate
     std::string shape;    ///< the same for files of one origin: kind, columns and units
 };
 
@@ -24,7 +26,7 @@ struct ImportPreview {
 inline constexpr std::size_t ImportRowCount = 12;
 
 /// Reads the beginning of a recording; `options` are what is known already. Throws RecordingError
-/// for what is no recording. Roles that cannot be guessed are left open.
+/// for what is no recording. Roles that cannot be guessed are left open, the others are told.
 ImportPreview previewImport(const std::filesystem::path& file,
                             const RecordingOptions& options = {});
 

@@ -6,6 +6,16 @@
 #include "workbench/recording/recording_error.h"
 
 namespace Rotavue::Workbench {
+namespace {
+
+// The names belong to one recording, whatever others look like.
+RecordingOptions ofItsShape(RecordingOptions options) {
+    options.machine.reset();
+    options.point.reset();
+    return options;
+}
+
+}  // namespace
 
 RecordingOpener::RecordingOpener(QSettings& settings, QWidget* window)
     : QObject(window), memory_(settings), window_(window) {
@@ -67,7 +77,7 @@ void RecordingOpener::ask(const LoadRequest& request, const ImportPreview& previ
 }
 
 void RecordingOpener::takeAnswer(const ImportPreview& preview, const ImportDialog& dialog) {
-    memory_.remember(preview.shape, {dialog.options(), !dialog.isUsedWithoutAsking()});
+    memory_.remember(preview.shape, {ofItsShape(dialog.options()), !dialog.isUsedWithoutAsking()});
     if (dialog.isKeptBeside()) keepBeside(preview.file, dialog.options());
     loader_.load({preview.file, dialog.options()});
 }

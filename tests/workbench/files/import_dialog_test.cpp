@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "tests/workbench/recording/scratch_folder.h"
+#include "workbench/recording/option_text.h"
 
 namespace Rotavue::Workbench {
 namespace {
@@ -50,8 +51,22 @@ protected:
         choose("role1", "time");
     }
 
+    // What stands before the field.
+    std::string labelOf(const char* name) const {
+        for (const QLabel* label : dialog_->findChildren<QLabel*>())
+            if (label->buddy() && label->buddy()->objectName() == name)
+                return label->text().remove('&').toStdString();
+        return "";
+    }
+    std::string warning() const {
+        const auto* label = dialog_->findChild<QLabel*>("importWarning");
+        return label->isHidden() ? "" : label->text().toStdString();
+    }
+
     std::unique_ptr<ImportDialog> dialog_;
 };
+
+constexpr const char* VoltTable = "t [s],axl [mV],rad [V],kp [mV]\n0,1,2,3\n1,2,3,4\n";
 
 TEST_F(ImportDialogTest, ShowsTheFirstRowsBelowTheRoles) {
     open();
@@ -92,9 +107,31 @@ TEST_F(ImportDialogTest, TakesRolesAndWhatTheFileDoesNotSay) {
 TEST_F(ImportDialogTest, WithoutAKeyphasorNoneIsLookedFor) {
     open();
     nameProbes();
+    choose("role2", "not used");
     ASSERT_TRUE(press()) << fault();
     EXPECT_EQ(dialog_->options().keyphasor.kind, KeyphasorKind::None);
     EXPECT_EQ(dialog_->options().rotation, std::nullopt);
+}
+
+TEST_F(ImportDialogTest, GuessesWhatItCanThoughTheProbesHaveNoNames) {
+    open();
+    choose("role3", "X probe");
+    choose("role4", "Y probe");
+    ASSERT_TRUE(press()) << fault();
+    EXPECT_EQ(dialog_->options().timeColumn, "t");
+    EXPECT_EQ(dialog_->options().keyphasor.column, "tacho");
+    EXPECT_EQ(dialog_->options().keyphasor.kind, std::nullopt);
+}
+
+TEST_F(ImportDialogTest, NoKeyphasorBeforeIsNoAnswerForAColumnThatIsOneNow) {
+    RecordingOptions known;
+    known.keyphasor.kind = KeyphasorKind::None;
+    open(Table, known);
+    nameProbes();
+    choose("role2", "keyphasor");
+    ASSERT_TRUE(press()) << fault();
+    EXPECT_EQ(dialog_->options().keyphasor.column, "tacho");
+    EXPECT_EQ(dialog_->options().keyphasor.kind, std::nullopt);
 }
 
 TEST_F(ImportDialogTest, SaysWhichRoleIsMissingOrGivenTwice) {
@@ -167,6 +204,106 @@ TEST_F(ImportDialogTest, BeginsWithWhatIsKnown) {
     EXPECT_EQ(dialog_->options().clearanceHeight, 80.0);
 }
 
+// Each item of a machine file but for the columns, which the roles tell.
+constexpr std::pair<const char*, const char*> Items[] = {
+    {"/machine", "Kit"},
+    {"/point", "Drive end"},
+    {"/unit", "um"},
+    {"/rate", "5000"},
+    {"/rotation", "CCW"},
+    {"/coupling", "AC"},
+    {"/x/angle", "45"},
+    {"/x/sensitivity", "0.2"},
+    {"/x/rest", "-9.5"},
+    {"/y/angle", "315"},
+    {"/y/sensitivity", "0.25"},
+    {"/y/rest", "-10"},
+    {"/keyphasor/kind", "volts"},
+    {"/keyphasor/edge", "falling"},
+    {"/keyphasor/level", "-5"},
+    {"/keyphasor/hysteresis", "1"},
+    {"/keyphasor/pulsesPerTurn", "2"},
+    {"/keyphasor/angle", "90"},
+    {"/clearance/width", "200"},
+    {"/clearance/height", "180"},
+};
+
+TEST_F(ImportDialogTest, LosesNothingThatIsKnown) {
+    RecordingOptions known;
+    known.machineFile = "elsewhere.json";
+    for (const auto& [pointer, told] : Items)
+        ASSERT_TRUE(setItem(known, itemAt(pointer), told)) << pointer;
+    open(Table, known);
+    nameProbes();
+    ASSERT_TRUE(press()) << fault();
+    EXPECT_EQ(dialog_->options().machineFile, "elsewhere.json");
+    for (const auto& [pointer, told] : Items)
+        EXPECT_EQ(itemText(dialog_->options(), itemAt(pointer)), told) << pointer;
+}
+
+TEST_F(ImportDialogTest, TakesCouplingAndRest) {
+    open();
+    nameProbes();
+    choose("/coupling", "AC");
+    type("/x/rest", "-9.5");
+    type("/y/rest", "-10.25");
+    ASSERT_TRUE(press()) << fault();
+    EXPECT_EQ(dialog_->options().coupling, Coupling::Ac);
+    EXPECT_EQ(dialog_->options().x.rest, -9.5);
+    EXPECT_EQ(dialog_->options().y.rest, -10.25);
+}
+
+TEST_F(ImportDialogTest, WhatIsClearedIsUnset) {
+    RecordingOptions known;
+    known.unit = "mil";
+    known.rotation = Rotation::Clockwise;
+    known.rate = 100.0;
+    open("axl,rad\n1,2\n2,3\n", known);
+    choose("role1", "X probe");
+    choose("role2", "Y probe");
+    type("/unit", "");
+    choose("/rotation", "not known");
+    type("/rate", "");
+    EXPECT_FALSE(press());
+    EXPECT_EQ(fault(), "A time column or a sample rate is needed");
+    type("/rate", "200");
+    ASSERT_TRUE(press()) << fault();
+    EXPECT_EQ(dialog_->options().unit, std::nullopt);
+    EXPECT_EQ(dialog_->options().rotation, std::nullopt);
+}
+
+TEST_F(ImportDialogTest, SaysInWhichUnitAScaleIsTold) {
+    open(VoltTable);
+    EXPECT_EQ(labelOf("/x/sensitivity"), "X: the file's unit for one unit");
+    choose("role2", "X probe");
+    choose("role3", "Y probe");
+    type("/unit", "um");
+    EXPECT_EQ(labelOf("/x/sensitivity"), "X: mV for one um");
+    EXPECT_EQ(labelOf("/y/sensitivity"), "Y: V for one um");
+    EXPECT_EQ(labelOf("/x/rest"), "X at rest, mV");
+    EXPECT_EQ(labelOf("/keyphasor/level"), "Pulse level, mV");
+    EXPECT_EQ(labelOf("/keyphasor/hysteresis"), "Pulse hysteresis, mV");
+    choose("role4", "X probe");
+    choose("role2", "keyphasor");
+    type("/unit", "mil");
+    EXPECT_EQ(labelOf("/x/sensitivity"), "X: mV for one mil");
+}
+
+TEST_F(ImportDialogTest, WarnsThatANegativeSensitivityTurnsAProbeRoundAndTakesIt) {
+    open();
+    nameProbes();
+    EXPECT_EQ(warning(), "");
+    type("/y/sensitivity", "-200");
+    EXPECT_NE(warning().find("turns the Y probe round"), std::string::npos) << warning();
+    type("/x/sensitivity", "-200");
+    EXPECT_NE(warning().find("turns both probes round"), std::string::npos) << warning();
+    ASSERT_TRUE(press()) << fault();
+    EXPECT_EQ(dialog_->options().y.sensitivity, -200.0);
+    type("/x/sensitivity", "200");
+    type("/y/sensitivity", "200");
+    EXPECT_EQ(warning(), "");
+}
+
 TEST_F(ImportDialogTest, KeepsAMachineFileUnlessToldNotToAndAsksAgainUnlessToldNotTo) {
     open();
     EXPECT_TRUE(dialog_->isKeptBeside());
@@ -176,8 +313,10 @@ TEST_F(ImportDialogTest, KeepsAMachineFileUnlessToldNotToAndAsksAgainUnlessToldN
 
 // For the eye: build/screenshots/import-dialog.png.
 TEST_F(ImportDialogTest, CanBeLookedAt) {
-    open();
-    nameProbes();
+    open(VoltTable);
+    choose("role2", "X probe");
+    choose("role3", "Y probe");
+    type("/x/sensitivity", "-200");
     type("clearanceWidth", "120");
     EXPECT_FALSE(press());
     std::filesystem::create_directories(ROTAVUE_SCREENSHOTS_FOLDER);

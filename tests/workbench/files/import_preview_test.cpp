@@ -40,10 +40,29 @@ TEST_F(ImportPreviewTest, IsNotSureOfColumnsWithoutNames) {
     EXPECT_EQ(rolesOf(guess), "txy");
 }
 
-TEST_F(ImportPreviewTest, LeavesRolesOpenThatNobodyCanGuess) {
+TEST_F(ImportPreviewTest, LeavesRolesOpenThatNobodyCanGuessAndTellsTheOthers) {
     const ImportPreview guess = preview("t,tacho,axl,rad\n0,1,2,3\n");
     EXPECT_FALSE(guess.isSure);
-    EXPECT_EQ(rolesOf(guess), "----");
+    EXPECT_EQ(rolesOf(guess), "tk--");
+    RecordingOptions options;
+    options.y.column = "rad";
+    EXPECT_EQ(rolesOf(preview("t,tacho,axl,rad\n0,1,2,3\n", options)), "tk-y");
+}
+
+TEST_F(ImportPreviewTest, IsNotSureWhichOfSeveralPlanesIsWanted) {
+    const std::string table = "t,P1.X,P1.Y,P2.X,P2.Y\n0,1,2,3,4\n";
+    EXPECT_FALSE(preview(table).isSure);
+    EXPECT_EQ(rolesOf(preview(table)), "txy--");
+    RecordingOptions second;
+    second.x.column = "P2.X";
+    second.y.column = "P2.Y";
+    EXPECT_TRUE(preview(table, second).isSure);
+}
+
+TEST_F(ImportPreviewTest, TellsWhatTheHeaderSaysOfMachineAndPoint) {
+    const ImportPreview told = preview("Machine Name,Kit\nPoint Name,Drive end\nt,x,y\n0,1,2\n");
+    EXPECT_EQ(told.machine, "Kit");
+    EXPECT_EQ(told.point, "Drive end");
 }
 
 TEST_F(ImportPreviewTest, IsSureWhenTheOptionsTell) {
