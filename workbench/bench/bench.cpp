@@ -53,14 +53,29 @@ void Bench::take(std::size_t place) {
     if (cursor_ > duration()) setCursor(duration());
 }
 
+std::shared_ptr<Plane> Bench::makePlane(std::shared_ptr<const PlaneSource> source,
+                                        const PlaneSetup& setup) const {
+    return std::make_shared<Plane>(std::move(source), *module_, setup, scheme_ == LightNumber);
+}
+
 Plane& Bench::addPlane(std::shared_ptr<const PlaneSource> source, const PlaneSetup& setup) {
-    const auto plane =
-        std::make_shared<Plane>(std::move(source), *module_, setup, scheme_ == LightNumber);
+    const auto plane = makePlane(std::move(source), setup);
     const std::size_t place = planes_.size();
     undo_.push(new ChangeCommand(
         tr("opening %1").arg(QString::fromStdString(plane->name())),
         [this, place, plane] { insert(place, plane); }, [this, place] { take(place); }));
     return *plane;
+}
+
+// The planes that go live until everybody has heard that they are gone.
+void Bench::showPlanes(std::vector<std::shared_ptr<Plane>> planes, double cursor) {
+    playback_.pause();
+    const auto gone = std::exchange(planes_, std::move(planes));
+    cursor_ = std::clamp(cursor, 0.0, duration());
+    placePlanes();
+    Q_EMIT planesChanged();
+    Q_EMIT cursorMoved(cursor_);
+    undo_.clear();
 }
 
 void Bench::removePlane(Plane& plane) {
@@ -103,26 +118,20 @@ void Bench::setCurveOptions(Plane& plane, CurveOptions options) {
 
 namespace {
 
-/// Shows a form of the recording; the original one without words.
-std::function<void(Plane&)> showing(std::shared_ptr<const PlaneSource> source,
-                                    const std::string& words) {
-    if (words.empty()) return [](Plane& plane) { plane.showOriginal(); };
-    return
-        [source = std::move(source), words](Plane& plane) { plane.showCompensated(source, words); };
+std::function<void(Plane&)> showing(std::shared_ptr<const PlaneSource> form) {
+    return [form = std::move(form)](Plane& plane) { plane.show(form); };
 }
 
 }  // namespace
 
-void Bench::showCompensated(Plane& plane, std::shared_ptr<const PlaneSource> source,
-                            const std::string& words) {
-    change(plane, tr("taking off run-out"), showing(std::move(source), words),
-           showing(plane.sharedShown(), plane.compensation()));
+void Bench::showCompensated(Plane& plane, std::shared_ptr<const PlaneSource> left) {
+    change(plane, tr("taking off run-out"), showing(std::move(left)), showing(plane.sharedShown()));
 }
 
 void Bench::showOriginal(Plane& plane) {
-    if (plane.compensation().empty()) return;
-    change(plane, tr("run-out as measured"), showing(nullptr, {}),
-           showing(plane.sharedShown(), plane.compensation()));
+    if (plane.sharedShown() == plane.sharedOriginal()) return;
+    change(plane, tr("run-out as measured"), showing(plane.sharedOriginal()),
+           showing(plane.sharedShown()));
 }
 
 void Bench::setSettings(Plane& plane, const Settings& settings, const QString& what) {

@@ -43,12 +43,18 @@ public:
     /// end. Raises what `Plane` raises.
     Plane& addPlane(std::shared_ptr<const PlaneSource> source, const PlaneSetup& setup = {});
 
+    /// Makes a plane that is not on the bench yet. Raises what `Plane` raises.
+    std::shared_ptr<Plane> makePlane(std::shared_ptr<const PlaneSource> source,
+                                     const PlaneSetup& setup) const;
+
+    /// Shows these planes in the place of all that were shown. Nothing can be undone afterwards.
+    void showPlanes(std::vector<std::shared_ptr<Plane>> planes, double cursor);
+
     /// Takes a plane away [undoable].
     void removePlane(Plane& plane);
 
-    /// Another form of a plane's recording, run-out taken off, or none of these again [undoable].
-    void showCompensated(Plane& plane, std::shared_ptr<const PlaneSource> source,
-                         const std::string& words);
+    /// What is left of a plane's recording without run-out, or the recording again [undoable].
+    void showCompensated(Plane& plane, std::shared_ptr<const PlaneSource> left);
     void showOriginal(Plane& plane);
 
     // Assignment and settings.

@@ -3,6 +3,7 @@
 #include "workbench/analysis/channel_text.h"
 #include "workbench/analysis/raw_channels.h"
 #include "workbench/analysis/turn_window.h"
+#include "workbench/bench/run_out.h"
 #include "workbench/scene/bearing_facts.h"
 #include "workbench/scene/curve_colors.h"
 #include "workbench/scene/derived_curves.h"
@@ -43,6 +44,10 @@ Settings withoutFoundLimits(Settings settings) {
     return settings;
 }
 
+std::shared_ptr<const PlaneSource> originalOf(const std::shared_ptr<const PlaneSource>& source) {
+    return source->runOut ? source->runOut->original : source;
+}
+
 bool has(const std::vector<CurveRequest>& curves, CurveKind kind) {
     return std::any_of(curves.begin(), curves.end(),
                        [kind](const CurveRequest& curve) { return curve.kind == kind; });
@@ -64,8 +69,8 @@ Settings usualSettings(const PlaneSource& source) {
 
 Plane::Plane(std::shared_ptr<const PlaneSource> source, HostKit::Module& module,
              const PlaneSetup& setup, bool light)
-    : original_(std::move(source)),
-      shown_(original_),
+    : original_(originalOf(source)),
+      shown_(std::move(source)),
       name_(original_->name()),
       curves_(setup.curves),
       options_(setup.options),
@@ -83,15 +88,14 @@ void Plane::takeRaw() {
     assignRawOrbit(host_.description, shown_->raw);
 }
 
-void Plane::showCompensated(std::shared_ptr<const PlaneSource> source, std::string words) {
-    shown_ = std::move(source);
-    compensation_ = std::move(words);
-    takeRaw();
-    assign();
+std::string Plane::compensation() const {
+    return shown_->runOut ? compensationText(shown_->runOut->source.form) : std::string();
 }
 
-void Plane::showOriginal() {
-    showCompensated(original_, {});
+void Plane::show(std::shared_ptr<const PlaneSource> form) {
+    shown_ = std::move(form);
+    takeRaw();
+    assign();
 }
 
 void Plane::setCurves(std::vector<CurveRequest> curves) {

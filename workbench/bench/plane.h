@@ -35,8 +35,9 @@ enum class HostState : std::uint8_t { Stored, Acquiring };
 /// saved asks the `Bench` for it, which has an operation for each of them.
 class Plane {
 public:
-    /// Makes the control, assigns the curves and loads the settings. Raises `LoadError` or
-    /// `std::runtime_error` where the plug-in cannot be had.
+    /// Makes the control, assigns the curves and loads the settings. A source that run-out is taken
+    /// off is shown so at once. Raises `LoadError` or `std::runtime_error` where the plug-in cannot
+    /// be had.
     Plane(std::shared_ptr<const PlaneSource> source, HostKit::Module& module,
           const PlaneSetup& setup, bool light);
     Plane(const Plane&) = delete;
@@ -54,12 +55,10 @@ public:
     std::shared_ptr<const PlaneSource> sharedShown() const { return shown_; }
 
     /// What was taken off, as the header of a picture says it; empty for the original recording.
-    const std::string& compensation() const { return compensation_; }
+    std::string compensation() const;
 
-    /// Shows another form of the same recording. It has the same number of samples and the same
-    /// bearing.
-    void showCompensated(std::shared_ptr<const PlaneSource> source, std::string words);
-    void showOriginal();
+    /// Shows the original recording or what is left of it without run-out.
+    void show(std::shared_ptr<const PlaneSource> form);
 
     const std::string& name() const { return name_; }
 
@@ -128,7 +127,6 @@ private:
 
     std::shared_ptr<const PlaneSource> original_;
     std::shared_ptr<const PlaneSource> shown_;
-    std::string compensation_;
     std::string name_;
     std::vector<CurveRequest> curves_;
     std::size_t made_ = 0;  ///< curves that the host may have a channel of

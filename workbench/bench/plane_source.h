@@ -12,6 +12,8 @@
 
 namespace Rotavue::Workbench {
 
+struct RunOut;
+
 /// A recording with what is found in it once and for all. It never changes, so that any thread may
 /// read it; it lives as long as anybody holds it.
 struct PlaneSource {
@@ -35,6 +37,7 @@ struct PlaneSource {
     std::int32_t decimals;           ///< digits behind the point of the graph's numbers
     std::vector<std::string> notes;  ///< what a person should know, one line each
     ShaftTrack track;
+    std::shared_ptr<const RunOut> runOut;  ///< that is taken off (run_out.h); null: none
 
 private:
     PlaneSource(const std::shared_ptr<const Recording>& of, RecordingOptions with);

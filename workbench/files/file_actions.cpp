@@ -136,7 +136,7 @@ void FileActions::openView(const QString& file) {
     const std::vector<ViewPlane> planes = pending_->view.planes;
     if (planes.empty()) return showPendingView();
     for (std::size_t i = 0; i < planes.size(); ++i)
-        loader().load({planes[i].recording, planes[i].options, true});
+        loader().load({planes[i].recording, planes[i].options, true, planes[i].compensation});
 }
 
 void FileActions::takeLoaded(const LoadRequest& request,
@@ -158,7 +158,7 @@ void FileActions::showPendingView() {
     PendingView pending = std::move(*pending_);
     pending_.reset();
     try {
-        showView(bench_, pending.view, pending.planes, keeper_);
+        showView(bench_, pending.view, pending.planes);
     } catch (const std::exception& error) {
         tell(QString::fromUtf8(error.what()));
     }
@@ -205,7 +205,7 @@ void FileActions::saveAs() {
 
 bool FileActions::saveTo(const QString& file) {
     try {
-        writeView(pathOf(file), viewOf(bench_, keeper_));
+        writeView(pathOf(file), viewOf(bench_));
     } catch (const std::exception& error) {
         tell(QString::fromUtf8(error.what()));
         return false;

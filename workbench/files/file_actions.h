@@ -47,9 +47,6 @@ public:
     /// The curves that recordings are first shown with; the raw orbit unless set.
     void setFirstCurves(std::vector<CurveRequest> curves) { curves_ = std::move(curves); }
 
-    void setCompensationKeeper(CompensationKeeper keeper) { keeper_ = std::move(keeper); }
-    const CompensationKeeper& compensationKeeper() const { return keeper_; }
-
     /// The view's file; empty for a view that has none yet.
     const QString& viewFile() const { return viewFile_; }
 
@@ -96,7 +93,6 @@ private:
     QMainWindow& window_;
     RecentFiles recent_;
     RecordingOpener opener_;
-    CompensationKeeper keeper_;
     QString viewFile_;
     std::optional<PendingView> pending_;
     std::optional<Settings> first_;

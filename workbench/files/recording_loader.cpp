@@ -1,7 +1,10 @@
 #include "workbench/files/recording_loader.h"
 
 #include <exception>
+#include <stdexcept>
 #include <utility>
+
+#include "workbench/analysis/analysis_error.h"
 
 namespace Rotavue::Workbench {
 namespace {
@@ -9,19 +12,40 @@ namespace {
 constexpr int LookInterval = 10;     // ms; what is loaded shows so much later at the most
 constexpr qint64 TellInterval = 50;  // ms
 
-// How much of all is done when the file is read; the rest makes it ready for a control.
+// How much of all is done when the file is read, and when the plane is ready for a control.
 constexpr double PartOfReading = 0.7;
+constexpr double PartOfPreparing = 0.9;
 
-std::shared_ptr<const PlaneSource> load(const LoadRequest& request, const ReadingWatch& watch) {
-    const ReadingProgress progress(watch);
-    Recording recording = readRecording(request.file, request.options,
-                                        [&](double part) { return watch(part * PartOfReading); });
-    auto source = preparePlane(std::move(recording), request.options);
-    progress.reach(1.0);
-    return source;
+/// For a reading that is the stretch from one part to the other of what is watched.
+ReadingWatch stretchOf(const ReadingWatch& watch, double from, double to) {
+    if (!watch) return {};
+    return [&watch, from, to](double part) { return watch(from + part * (to - from)); };
+}
+
+std::shared_ptr<const PlaneSource> compensatedPlane(const LoadRequest& request,
+                                                    std::shared_ptr<const PlaneSource> original,
+                                                    const ReadingWatch& watch) {
+    try {
+        SlowRoll slowRoll = findRunOut(*original, *request.runOut, watch);
+        return withoutRunOut(std::move(original), *request.runOut, std::move(slowRoll));
+    } catch (const AnalysisError& error) {
+        throw std::runtime_error(request.file.string() + ": " + error.what());
+    }
 }
 
 }  // namespace
+
+std::shared_ptr<const PlaneSource> loadPlane(const LoadRequest& request,
+                                             const ReadingWatch& watch) {
+    Recording recording =
+        readRecording(request.file, request.options, stretchOf(watch, 0.0, PartOfReading));
+    auto source = preparePlane(std::move(recording), request.options);
+    if (request.runOut)
+        source =
+            compensatedPlane(request, std::move(source), stretchOf(watch, PartOfPreparing, 1.0));
+    ReadingProgress(watch).reach(1.0);
+    return source;
+}
 
 RecordingLoader::RecordingLoader(QObject* parent) : QObject(parent) {
     timer_.setInterval(LookInterval);
@@ -46,9 +70,8 @@ void RecordingLoader::cancel() {
 void RecordingLoader::beginNext() {
     current_ = std::move(waiting_.front());
     waiting_.pop_front();
-    task_ = std::make_unique<Task>([request = current_](const ReadingWatch& watch) {
-        return Workbench::load(request, watch);
-    });
+    task_ = std::make_unique<Task>(
+        [request = current_](const ReadingWatch& watch) { return loadPlane(request, watch); });
     clock_.start();
     lastTold_ = 0;
     timer_.start();

@@ -8,8 +8,10 @@
 #include <deque>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 #include "workbench/bench/plane_source.h"
+#include "workbench/bench/run_out.h"
 #include "workbench/files/background_task.h"
 
 namespace Rotavue::Workbench {
@@ -18,8 +20,15 @@ namespace Rotavue::Workbench {
 struct LoadRequest {
     std::filesystem::path file;
     RecordingOptions options = {};
-    bool isOfView = false;  ///< wanted for a view, which is shown as a whole
+    bool isOfView = false;                    ///< wanted for a view, which is shown as a whole
+    std::optional<RunOutSource> runOut = {};  ///< to be taken off
 };
+
+/// Reads a recording, makes it ready for a control, and takes the run-out off. Takes as long as the
+/// recording is; any thread may ask. Throws RecordingError, ReadingCancelled, and where the run-out
+/// cannot be had a std::runtime_error that names the recording as well.
+std::shared_ptr<const PlaneSource> loadPlane(const LoadRequest& request,
+                                             const ReadingWatch& watch = {});
 
 /// Loads recordings on a thread of its own, one after the other in the order in which they were
 /// asked for. All signals come on the thread that the loader lives on.

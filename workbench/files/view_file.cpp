@@ -35,6 +35,7 @@ constexpr std::array KindWords = {"raw",     "average",   "orders",
                                   "below1X", "reference", "shaftCentre"};
 constexpr std::array RestWords = {"centre", "bottom"};
 constexpr std::array LabelWords = {"speed", "time"};
+constexpr std::array FormWords = {"vector", "waveform"};
 
 template <typename Enum>
 std::size_t indexOf(Enum value) {
@@ -65,7 +66,7 @@ private:
     Path pathOf(const JsonPlace& place) const;
     CurveRequest curveOf(const JsonPlace& place) const;
     ShaftCenterChoice shaftCenterOf(const JsonPlace& place) const;
-    ViewCompensation compensationOf(const JsonPlace& place) const;
+    RunOutSource compensationOf(const JsonPlace& place) const;
 
     Path file_;
     Path folder_;
@@ -150,12 +151,10 @@ ShaftCenterChoice ViewReader::shaftCenterOf(const JsonPlace& place) const {
     return choice;
 }
 
-ViewCompensation ViewReader::compensationOf(const JsonPlace& place) const {
+RunOutSource ViewReader::compensationOf(const JsonPlace& place) const {
     place.checkMembers({"form", "span", "slowRoll"});
-    ViewCompensation taken;
-    const auto form = place.at("form");
-    form.word({"vector", "waveform"});
-    taken.form = form.text(LongestText);
+    RunOutSource taken;
+    taken.form = static_cast<CompensationForm>(place.at("form").word({FormWords[0], FormWords[1]}));
     if (const auto span = place.find("span")) taken.span = spanOf(*span);
     if (const auto slowRoll = place.find("slowRoll")) taken.slowRoll = pathOf(*slowRoll);
     return taken;
@@ -170,7 +169,7 @@ public:
 private:
     Json planeOf(const ViewPlane& plane) const;
     Json curveOf(const CurveRequest& curve) const;
-    Json compensationOf(const ViewCompensation& taken) const;
+    Json compensationOf(const RunOutSource& taken) const;
 
     Path folder_;
 };
@@ -215,8 +214,8 @@ Json ViewWriter::curveOf(const CurveRequest& curve) const {
     return json;
 }
 
-Json ViewWriter::compensationOf(const ViewCompensation& taken) const {
-    Json json = {{"form", taken.form}, {"span", spanJson(taken.span)}};
+Json ViewWriter::compensationOf(const RunOutSource& taken) const {
+    Json json = {{"form", FormWords[indexOf(taken.form)]}, {"span", spanJson(taken.span)}};
     if (taken.slowRoll) json["slowRoll"] = pathText(*taken.slowRoll, folder_);
     return json;
 }

@@ -6,19 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "workbench/analysis/time_span.h"
+#include "workbench/bench/run_out.h"
 #include "workbench/recording/recording_options.h"
 #include "workbench/scene/curve_options.h"
 #include "workbench/scene/curve_request.h"
 
 namespace Rotavue::Workbench {
-
-/// What is taken off a plane's recording.
-struct ViewCompensation {
-    std::string form;                               ///< "vector" or "waveform"
-    TimeSpan span;                                  ///< of slow roll
-    std::optional<std::filesystem::path> slowRoll;  ///< its recording; unset: the plane's own
-};
 
 /// One plane of a view.
 struct ViewPlane {
@@ -27,10 +20,10 @@ struct ViewPlane {
     std::vector<CurveRequest> curves;
     CurveOptions curveOptions;                 ///< `reference` is not kept: it follows `options`
     std::map<std::string, std::string> setup;  ///< the control's settings as it saved them
-    std::optional<ViewCompensation> compensation;
+    std::optional<RunOutSource> compensation;
 };
 
-/// What a window shows: enough to show it again. docs/workbench.md tells the file member by member.
+/// What a window shows: enough to show it again. docs/views.md tells the file member by member.
 struct View {
     std::vector<ViewPlane> planes;
     double cursor = 0.0;  ///< s after the first sample

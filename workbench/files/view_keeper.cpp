@@ -23,39 +23,34 @@ Settings settingsOf(const std::map<std::string, std::string>& setup) {
     return settings;
 }
 
-ViewPlane viewOf(Plane& plane, const CompensationKeeper& keeper) {
+ViewPlane viewOf(Plane& plane) {
     const PlaneSource& source = plane.original();
     ViewPlane view{
         source.recording.file,           source.options, plane.curves(), plane.curveOptions(),
         setupOf(plane.control().save()), std::nullopt};
-    if (keeper.taken) view.compensation = keeper.taken(plane);
+    if (const auto& runOut = plane.shown().runOut) view.compensation = runOut->source;
     return view;
 }
 
 }  // namespace
 
-View viewOf(Bench& bench, const CompensationKeeper& keeper) {
+View viewOf(Bench& bench) {
     View view;
     for (const auto& plane : bench.planes())
-        view.planes.push_back(viewOf(*plane, keeper));
+        view.planes.push_back(viewOf(*plane));
     view.cursor = bench.cursor();
     return view;
 }
 
 void showView(Bench& bench, const View& view,
-              const std::vector<std::shared_ptr<const PlaneSource>>& planes,
-              const CompensationKeeper& keeper) {
-    bench.playback().pause();
-    while (!bench.planes().empty())
-        bench.removePlane(*bench.planes().back());
+              const std::vector<std::shared_ptr<const PlaneSource>>& sources) {
+    std::vector<std::shared_ptr<Plane>> planes;
     for (std::size_t i = 0; i < view.planes.size(); ++i) {
         const ViewPlane& saved = view.planes[i];
         const PlaneSetup setup{saved.curves, settingsOf(saved.setup), saved.curveOptions};
-        Plane& plane = bench.addPlane(planes[i], setup);
-        if (saved.compensation && keeper.take) keeper.take(plane, *saved.compensation);
+        planes.push_back(bench.makePlane(sources[i], setup));
     }
-    bench.setCursor(view.cursor);
-    bench.undoStack().clear();
+    bench.showPlanes(std::move(planes), view.cursor);
 }
 
 }  // namespace Rotavue::Workbench

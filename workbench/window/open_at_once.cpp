@@ -1,31 +1,26 @@
 #include "workbench/window/open_at_once.h"
 
-#include "workbench/files/file_actions.h"
+#include "workbench/files/recording_loader.h"
 #include "workbench/files/view_file.h"
-#include "workbench/recording/recording.h"
+#include "workbench/files/view_keeper.h"
 #include "workbench/setup/setup_rules.h"
 
 namespace Rotavue::Workbench {
 
 namespace {
 
-std::shared_ptr<const PlaneSource> prepared(const std::filesystem::path& file,
-                                            const RecordingOptions& options) {
-    return preparePlane(readRecording(file, options), options);
-}
-
 void showRecording(MainWindow& window, const std::string& file, const WindowOrder& order) {
     PlaneSetup setup{.curves = order.show, .settings = orderedSettings(order)};
     setup.options.reference = order.recording;
-    window.bench().addPlane(prepared(file, order.recording), setup);
+    window.bench().addPlane(loadPlane({file, order.recording}), setup);
 }
 
 void showViewFile(MainWindow& window, const std::string& file) {
     const View view = readView(file);
-    std::vector<std::shared_ptr<const PlaneSource>> planes;
+    std::vector<std::shared_ptr<const PlaneSource>> sources;
     for (const ViewPlane& plane : view.planes)
-        planes.push_back(prepared(plane.recording, plane.options));
-    showView(window.bench(), view, planes, window.findChild<FileActions*>()->compensationKeeper());
+        sources.push_back(loadPlane({plane.recording, plane.options, true, plane.compensation}));
+    showView(window.bench(), view, sources);
     window.setViewName(QString::fromStdString(file));
 }
 

@@ -1,10 +1,9 @@
 #include "workbench/window/out_part.h"
 
 #include "workbench/export/out_actions.h"
-#include "workbench/files/file_actions.h"
 #include "workbench/window/app_settings.h"
 #include "workbench/window/main_window.h"
-#include "workbench/window/run_out/run_out_keeper.h"
+#include "workbench/window/run_out/run_out_actions.h"
 
 #include <QMenu>
 #include <QStatusBar>
@@ -36,8 +35,6 @@ void addRunOut(MainWindow& window) {
     const auto refresh = [actions] { actions->refresh(); };
     QObject::connect(&window.tiles(), &OrbitTiles::currentChanged, actions, refresh);
     QObject::connect(&window.markedStretch(), &MarkedStretch::changed, actions, refresh);
-    if (auto* files = window.findChild<FileActions*>())
-        files->setCompensationKeeper(runOutKeeper(*actions));
 }
 
 }  // namespace

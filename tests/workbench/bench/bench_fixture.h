@@ -3,6 +3,7 @@
 #include "host_kit/loader/module.h"
 #include "tests/workbench/analysis/generated_recording.h"
 #include "workbench/bench/bench.h"
+#include "workbench/bench/run_out.h"
 
 #include <gtest/gtest.h>
 
@@ -27,6 +28,12 @@ protected:
 
     Plane& add(Recording recording = rotor(), const PlaneSetup& setup = {}) {
         return bench_.addPlane(preparePlane(std::move(recording)), setup);
+    }
+
+    /// The plane's recording with all of its motion taken for run-out: hardly anything is left.
+    static std::shared_ptr<const PlaneSource> still(const Plane& plane) {
+        const RunOutSource source{.form = CompensationForm::Vector, .span = {0.1, 0.5}};
+        return withoutRunOut(plane.sharedOriginal(), source, findRunOut(plane.original(), source));
     }
 
     std::shared_ptr<HostKit::Module> module_ =

@@ -96,18 +96,34 @@ TEST_F(BenchTest, WhatTheControlChangedByItselfBecomesACommand) {
 
 TEST_F(BenchTest, CompensationCanBeUndone) {
     Plane& plane = add();
-    Recording still = rotor();
-    still.x.assign(still.x.size(), 1.0);
-    bench_.showCompensated(plane, std::make_shared<const PlaneSource>(still), "1X taken off");
-    EXPECT_EQ(plane.shown().recording.x.front(), 1.0);
+    const auto left = still(plane);
+    bench_.showCompensated(plane, left);
+    EXPECT_EQ(plane.sharedShown(), left);
     bench_.undoStack().undo();
     EXPECT_EQ(plane.compensation(), "");
     bench_.undoStack().redo();
-    EXPECT_EQ(plane.compensation(), "1X taken off");
+    EXPECT_EQ(plane.sharedShown(), left);
     bench_.showOriginal(plane);
     EXPECT_EQ(plane.compensation(), "");
     bench_.undoStack().undo();
-    EXPECT_EQ(plane.compensation(), "1X taken off");
+    EXPECT_EQ(plane.sharedShown(), left);
+}
+
+TEST_F(BenchTest, PlanesTakeThePlaceOfAllOthersInOneStepThatIsNotUndone) {
+    add();
+    add();
+    std::vector<std::size_t> counts;
+    QObject::connect(&bench_, &Bench::planesChanged,
+                     [&] { counts.push_back(bench_.planes().size()); });
+    const auto plane = bench_.makePlane(preparePlane(rotor(0.5)), {});
+    EXPECT_EQ(bench_.planes().size(), 2u);
+    bench_.showPlanes({plane}, 0.25);
+    EXPECT_EQ(counts, std::vector<std::size_t>{1});
+    EXPECT_EQ(bench_.cursor(), 0.25);
+    // 0.25 s at 10 kHz.
+    EXPECT_EQ(plane->position(), 2500u);
+    EXPECT_FALSE(bench_.undoStack().canUndo());
+    EXPECT_TRUE(bench_.undoStack().isClean());
 }
 
 TEST_F(BenchTest, TheSchemeRecoloursAllPlanesAndThoseThatComeLater) {

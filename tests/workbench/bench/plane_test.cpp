@@ -113,17 +113,23 @@ TEST_F(PlaneTest, AcquiringFillsRingBuffersUpToTheMoment) {
 
 TEST_F(PlaneTest, ACompensatedRecordingTakesThePlaceOfTheOriginal) {
     Plane& plane = add();
-    Recording still = rotor();
-    for (double& x : still.x)
-        x = 1.0;
-    plane.showCompensated(preparePlane(still), "1X taken off");
-    EXPECT_EQ(plane.shown().recording.x.front(), 1.0);
-    EXPECT_EQ(plane.host().description.channels["orbit1"].values[4].front(), 1.0);
-    EXPECT_NE(plane.original().recording.x.front(), 1.0);
-    EXPECT_EQ(plane.compensation(), "1X taken off");
-    plane.showOriginal();
-    EXPECT_NE(plane.host().description.channels["orbit1"].values[4].front(), 1.0);
+    // X is 40 at its peak, 5 ms after the first sample: a quarter turn of 20 ms.
+    const auto peak = [&] { return plane.host().description.channels["orbit1"].values[4][50]; };
+    const double before = peak();
+    plane.show(still(plane));
+    EXPECT_NEAR(peak(), 0.0, 1e-3);
+    EXPECT_EQ(plane.original().recording.x[50], before);
+    EXPECT_EQ(plane.compensation(), "run-out compensated: 1X, 2X vector");
+    plane.show(plane.sharedOriginal());
+    EXPECT_EQ(peak(), before);
     EXPECT_EQ(plane.compensation(), "");
+}
+
+TEST_F(PlaneTest, BeginsWithoutTheRunOutThatIsTakenOffItsSource) {
+    const Plane& measured = add();
+    const Plane& plane = bench_.addPlane(still(measured));
+    EXPECT_EQ(plane.compensation(), "run-out compensated: 1X, 2X vector");
+    EXPECT_EQ(plane.sharedOriginal(), measured.sharedOriginal());
 }
 
 TEST_F(PlaneTest, ReadsBackWhatTheControlChanges) {

@@ -106,13 +106,13 @@ TEST_F(PlanePictureTest, StripTellsWhatIsShown) {
 
 TEST_F(PlanePictureTest, StripSaysThatRunOutIsTakenAway) {
     Plane& plane = add();
-    bench_.showCompensated(plane, plane.sharedOriginal(), "run-out compensated: waveform");
+    bench_.showCompensated(plane, still(plane));
     const auto facts = [&] { return PlanePicture(plane, bench_).header().facts; };
     const auto on = facts();
-    EXPECT_EQ(std::count(on.begin(), on.end(), "run-out compensated: waveform"), 1);
+    EXPECT_EQ(std::count(on.begin(), on.end(), "run-out compensated: 1X, 2X vector"), 1);
     bench_.showOriginal(plane);
     const auto off = facts();
-    EXPECT_EQ(std::count(off.begin(), off.end(), "run-out compensated: waveform"), 0);
+    EXPECT_EQ(std::count(off.begin(), off.end(), "run-out compensated: 1X, 2X vector"), 0);
 }
 
 }  // namespace

@@ -73,6 +73,11 @@ protected:
         settings[L"graphType"] = L"1";
         bench_->setSettings(*bench_->planes().front(), settings);
     }
+    void takeOff(const RunOutSource& runOut) {
+        Plane& plane = *bench_->planes()[0];
+        bench_->showCompensated(plane, withoutRunOut(plane.sharedOriginal(), runOut,
+                                                     findRunOut(plane.original(), runOut)));
+    }
     bool isChanged() const { return !bench_->undoStack().isClean(); }
     // What the control itself says; a key that it leaves out has the default, the grid.
     bool isCircle(std::size_t plane) {
@@ -253,20 +258,61 @@ TEST_F(FileActionsTest, ViewThatCannotBeWrittenIsToldAndStaysChanged) {
 }
 
 TEST_F(FileActionsTest, CompensationGoesIntoTheViewAndBack) {
-    std::vector<std::string> taken;
-    const CompensationKeeper keeper{[](const Plane&) {
-                                        return ViewCompensation{"vector", {0.5, 1.0}, std::nullopt};
-                                    },
-                                    [&](Plane& plane, const ViewCompensation& off) {
-                                        taken.push_back(plane.name() + ' ' + off.form);
-                                    }};
-    files_->setCompensationKeeper(keeper);
     open({recording("a.csv")});
+    takeOff({.form = CompensationForm::Waveform, .span = {0.0, 0.15}});
+    const std::vector<double> left = bench_->planes()[0]->shown().recording.x;
     ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
     restart();
-    files_->setCompensationKeeper(keeper);
     open({qt(at("v.rotavue"))});
-    EXPECT_EQ(taken, std::vector<std::string>{"a vector"});
+    ASSERT_EQ(told(), "");
+    const Plane& plane = *bench_->planes()[0];
+    EXPECT_EQ(plane.compensation(), "run-out compensated: waveform");
+    EXPECT_EQ(plane.shown().recording.x, left);
+    EXPECT_NE(plane.original().recording.x, left);
+    EXPECT_FALSE(isChanged());
+    EXPECT_FALSE(bench_->undoStack().canUndo());
+}
+
+TEST_F(FileActionsTest, ViewThatIsSavedAtOnceKeepsItsCompensation) {
+    open({recording("a.csv"), recording("slow.csv")});
+    takeOff({.slowRoll = at("slow.csv")});
+    ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
+    restart();
+    QObject::connect(bench_.get(), &Bench::planesChanged,
+                     [&] { writeView(at("w.rotavue"), viewOf(*bench_)); });
+    open({qt(at("v.rotavue"))});
+    const auto kept = readView(at("w.rotavue")).planes[0].compensation;
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->form, CompensationForm::Vector);
+    EXPECT_EQ(kept->slowRoll, at("slow.csv"));
+    EXPECT_FALSE(readView(at("w.rotavue")).planes[1].compensation);
+}
+
+TEST_F(FileActionsTest, ViewWhoseSlowRollIsGoneIsNotShownWithRunOut) {
+    open({recording("a.csv"), recording("slow.csv")});
+    takeOff({.slowRoll = at("slow.csv")});
+    bench_->removePlane(*bench_->planes()[1]);
+    ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
+    std::filesystem::remove(at("slow.csv"));
+    restart();
+    open({qt(at("v.rotavue"))});
+    EXPECT_EQ(told(),
+              at("slow.csv").string() + ": found no such file, allowed: a file that can be read");
+    EXPECT_TRUE(planes().isEmpty());
+    EXPECT_EQ(files_->viewFile(), "");
+}
+
+TEST_F(FileActionsTest, ViewWhoseRunOutCannotBeFoundSaysInWhichRecording) {
+    open({recording("a.csv")});
+    // There is no whole turn in 5 ms: a turn takes 20 samples at 1 kHz.
+    write("v.rotavue",
+          R"({"rotavueView": 1, "planes": [{"recording": "a.csv", "curves": [{"kind": "raw"}],
+              "setup": {}, "compensation": {"form": "vector", "span": [0.005, 0.01]}}]})");
+    open({qt(at("v.rotavue"))});
+    EXPECT_EQ(told(), at("a.csv").string() +
+                          ": the run-out needs a whole turn of the shaft, and there is none "
+                          "between 0.005 s and 0.01 s");
+    EXPECT_EQ(files_->viewFile(), "");
 }
 
 TEST_F(FileActionsTest, ItsActionsComeFirstInTheMenuWithTheirKeys) {

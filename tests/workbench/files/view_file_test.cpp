@@ -31,7 +31,7 @@ protected:
         plane.curveOptions.shaftCenter = {0.25, RestPosition::BottomOfClearance, TimeSpan{0.5, 2.0},
                                           PositionLabels::Time};
         plane.setup = {{"graphType", "1"}, {"minXValue", "-12.500000000000000"}};
-        plane.compensation = ViewCompensation{"waveform", {1.0, 3.0}, at("slow.csv")};
+        plane.compensation = RunOutSource{CompensationForm::Waveform, {1.0, 3.0}, at("slow.csv")};
         view.cursor = 1.0625;
         return view;
     }
@@ -57,7 +57,7 @@ TEST_F(ViewFileTest, ReadsBackAllThatItWrites) {
     EXPECT_EQ(centre.restSpan->to, 2.0);
     EXPECT_EQ(centre.labels, PositionLabels::Time);
     ASSERT_TRUE(plane.compensation);
-    EXPECT_EQ(plane.compensation->form, "waveform");
+    EXPECT_EQ(plane.compensation->form, CompensationForm::Waveform);
     EXPECT_EQ(plane.compensation->span.from, 1.0);
     EXPECT_EQ(plane.compensation->slowRoll, at("slow.csv"));
 }

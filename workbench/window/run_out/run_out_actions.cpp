@@ -9,21 +9,9 @@
 
 namespace Rotavue::Workbench {
 
-namespace {
-
-std::shared_ptr<const PlaneSource> withoutRunOut(const PlaneSource& original,
-                                                 const SlowRoll& slowRoll, CompensationForm form) {
-    Recording recording = compensated(original.recording, original.track, slowRoll, form);
-    recording.notes.insert(recording.notes.end(), slowRoll.notes.begin(), slowRoll.notes.end());
-    return std::make_shared<const PlaneSource>(std::move(recording), original.options);
-}
-
-}  // namespace
-
 std::optional<CompensationForm> compensationOf(const Plane& plane) {
-    for (const CompensationForm form : {CompensationForm::Vector, CompensationForm::Waveform})
-        if (plane.compensation() == compensationText(form)) return form;
-    return std::nullopt;
+    const auto& runOut = plane.shown().runOut;
+    return runOut ? std::optional(runOut->source.form) : std::nullopt;
 }
 
 RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch marked,
@@ -71,6 +59,8 @@ std::shared_ptr<Plane> RunOutActions::shared(const Plane* plane) const {
 }
 
 void RunOutActions::refresh() {
+    for (const auto& one : bench_.planes())
+        if (one->shown().runOut) known_[one] = one->shown().runOut;
     const auto plane = shared(current_());
     const bool known = plane && known_.contains(plane);
     take.setEnabled(plane && marked_().has_value());
@@ -87,60 +77,49 @@ CompensationForm RunOutActions::formFor(const Plane& plane) const {
     return compensationOf(plane).value_or(CompensationForm::Vector);
 }
 
-RunOutActions::Maker RunOutActions::makerOf(const RunOutSource& source) {
-    return [source](const PlaneSource& original) {
-        if (!source.slowRoll) return takeSlowRoll(original.recording, original.track, source.span);
-        const Recording recording = readRecording(*source.slowRoll, original.options);
-        return takeSlowRoll(recording, ShaftTrack(recording), source.span);
-    };
-}
-
-RunOutActions::Result RunOutActions::resultOf(const PlaneSource& original,
-                                              const RunOutSource& source, const Maker& make) {
-    Result result;
+RunOutActions::Result RunOutActions::resultOf(const Source& original, const Maker& make) {
     try {
-        result.known = {source, make(original)};
-        result.shown = withoutRunOut(original, result.known.slowRoll, source.form);
+        return {.left = make(original)};
     } catch (const std::exception& error) {
-        result.failure = error.what();
+        return {.left = nullptr, .failure = error.what()};
     }
-    return result;
 }
 
-void RunOutActions::start(Plane& plane, const RunOutSource& source, Maker make) {
+void RunOutActions::start(Plane& plane, Maker make) {
     forgetGone();
     const std::weak_ptr<Plane> place = shared(&plane);
     std::unique_ptr<LatestJob>& job = jobs_[place];
     if (!job) job = std::make_unique<LatestJob>();
     // The plane itself belongs to this thread; what the worker reads outlives it there.
-    job->start([this, place, source, make = std::move(make),
+    job->start([this, place, make = std::move(make),
                 original = plane.sharedOriginal()]() -> LatestJob::Deliver {
-        const Result result = resultOf(*original, source, make);
+        const Result result = resultOf(original, make);
         return [this, place, original, result] { deliver(place.lock(), original, result); };
+    });
+}
+
+void RunOutActions::find(Plane& plane, const RunOutSource& source) {
+    start(plane, [source](const Source& original) {
+        return withoutRunOut(original, source, findRunOut(*original, source));
     });
 }
 
 /// The job of a plane that is gone may still run: it goes later.
 void RunOutActions::forgetGone() {
     std::erase_if(known_, [](const auto& entry) { return entry.first.expired(); });
-    std::erase_if(taken_, [](const Taken& one) { return one.shown.expired(); });
     std::erase_if(jobs_, [](const auto& entry) {
         return entry.first.expired() && !entry.second->isRunning();
     });
 }
 
-void RunOutActions::deliver(const std::shared_ptr<Plane>& plane,
-                            const std::shared_ptr<const PlaneSource>& original,
+void RunOutActions::deliver(const std::shared_ptr<Plane>& plane, const Source& original,
                             const Result& result) {
     if (!plane || !bench_.has(*plane) || plane->sharedOriginal() != original) return;
-    if (!result.shown) {
+    if (result.left) {
+        bench_.showCompensated(*plane, result.left);
+    } else {
         bench_.report(QString::fromStdString(plane->name() + ": " + result.failure));
-        refresh();
-        return;
     }
-    known_[plane] = result.known;
-    taken_.push_back({result.shown, result.known.source});
-    bench_.showCompensated(*plane, result.shown, compensationText(result.known.source.form));
     refresh();
 }
 
@@ -148,8 +127,7 @@ void RunOutActions::takeMarked() {
     Plane* const plane = current_();
     const auto stretch = marked_();
     if (plane == nullptr || !stretch) return;
-    const RunOutSource source{.form = formFor(*plane), .span = *stretch};
-    start(*plane, source, makerOf(source));
+    find(*plane, {.form = formFor(*plane), .span = *stretch});
 }
 
 void RunOutActions::askForFile() {
@@ -161,8 +139,7 @@ void RunOutActions::askForFile() {
 void RunOutActions::takeFrom(const std::filesystem::path& slowRoll) {
     Plane* const plane = current_();
     if (plane == nullptr) return;
-    const RunOutSource source{.form = formFor(*plane), .slowRoll = slowRoll};
-    start(*plane, source, makerOf(source));
+    find(*plane, {.form = formFor(*plane), .slowRoll = slowRoll});
 }
 
 void RunOutActions::choose(std::optional<CompensationForm> form) {
@@ -174,20 +151,11 @@ void RunOutActions::choose(std::optional<CompensationForm> form) {
     }
     const auto known = known_.find(shared(plane));
     if (known == known_.end()) return;
-    RunOutSource source = known->second.source;
-    source.form = *form;
-    start(*plane, source,
-          [slowRoll = known->second.slowRoll](const PlaneSource&) { return slowRoll; });
-}
-
-std::optional<RunOutSource> RunOutActions::runOutOf(const Plane& plane) const {
-    for (const Taken& one : taken_)
-        if (one.shown.lock().get() == &plane.shown()) return one.source;
-    return std::nullopt;
-}
-
-void RunOutActions::restore(Plane& plane, const RunOutSource& source) {
-    start(plane, source, makerOf(source));
+    start(*plane, [form = *form, runOut = known->second](const Source& original) {
+        RunOutSource source = runOut->source;
+        source.form = form;
+        return withoutRunOut(original, std::move(source), runOut->slowRoll);
+    });
 }
 
 }  // namespace Rotavue::Workbench

@@ -1,7 +1,6 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
 #include "tests/workbench/bench/bench_fixture.h"
-#include "workbench/window/run_out/run_out_keeper.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -12,6 +11,7 @@
 #include <cmath>
 #include <numbers>
 #include <utility>
+#include <vector>
 
 namespace Rotavue::Workbench {
 
@@ -140,63 +140,44 @@ TEST_F(RunOutActionsTest, WhatIsFoundForAPlaneThatIsGoneReachesNoOther) {
     }
 }
 
-TEST_F(RunOutActionsTest, IsKeptAndRestoredForAnotherPlaneOfTheSameBearing) {
-    EXPECT_FALSE(actions_.runOutOf(*plane_).has_value());
-    takeFrom({0.1, 0.5});
-    ASSERT_TRUE(becomes(VectorWords));
+TEST_F(RunOutActionsTest, RunOutThatAPlaneBeginsWithoutIsKnown) {
+    plane_ = &bench_.addPlane(still(*plane_));
+    actions_.refresh();
+    EXPECT_TRUE(actions_.vector.isChecked());
+    actions_.none.trigger();
+    EXPECT_EQ(plane_->compensation(), "");
     actions_.waveform.trigger();
-    ASSERT_TRUE(becomes(WaveformWords));
-    const auto kept = actions_.runOutOf(*plane_);
-    ASSERT_TRUE(kept.has_value());
-    EXPECT_EQ(kept->form, CompensationForm::Waveform);
-    EXPECT_EQ(kept->span.from, 0.1);
-    EXPECT_EQ(kept->span.to, 0.5);
-    EXPECT_FALSE(kept->slowRoll.has_value());
-    plane_ = &add();
-    actions_.restore(*plane_, *kept);
     EXPECT_TRUE(becomes(WaveformWords));
-    EXPECT_NEAR(largest(*plane_), 0.0, 0.01);
+    EXPECT_EQ(plane_->shown().runOut->source.span.to, 0.5);
 }
 
-TEST_F(RunOutActionsTest, GoesThroughAViewAndBack) {
-    const CompensationKeeper keeper = runOutKeeper(actions_);
-    EXPECT_FALSE(keeper.taken(*plane_));
-    takeFrom({0.1, 0.5});
-    ASSERT_TRUE(becomes(VectorWords));
-    actions_.waveform.trigger();
-    ASSERT_TRUE(becomes(WaveformWords));
-    const auto saved = keeper.taken(*plane_);
-    ASSERT_TRUE(saved);
-    EXPECT_EQ(saved->form, "waveform");
-    EXPECT_EQ(saved->span.to, 0.5);
-    plane_ = &add();
-    keeper.take(*plane_, *saved);
-    EXPECT_TRUE(becomes(WaveformWords));
-}
-
-TEST_F(RunOutActionsTest, RestoringReachesEveryPlane) {
-    std::vector<Plane*> planes{plane_};
-    for (int i = 0; i < 3; ++i)
-        planes.push_back(&add());
-    for (Plane* const plane : planes)
-        actions_.restore(*plane, {.span = {0.1, 0.5}});
+TEST_F(RunOutActionsTest, TakesItFromSeveralPlanesAtOnce) {
+    std::vector<Plane*> planes{plane_, &add(), &add(), &add()};
+    for (Plane* const plane : planes) {
+        plane_ = plane;
+        takeFrom({0.1, 0.5});
+    }
     for (Plane* const plane : planes) {
         plane_ = plane;
         EXPECT_TRUE(becomes(VectorWords));
     }
 }
 
-TEST_F(RunOutActionsTest, WhatIsKeptFollowsAnUndo) {
+TEST_F(RunOutActionsTest, UndoTakesOffWhatWasTakenOffBefore) {
     takeFrom({0.1, 0.5});
     ASSERT_TRUE(becomes(VectorWords));
     const int before = bench_.undoStack().index();
     takeFrom({0.2, 0.9});
     ASSERT_TRUE(QTest::qWaitFor([&] { return bench_.undoStack().index() > before; }));
-    EXPECT_EQ(actions_.runOutOf(*plane_)->span.from, 0.2);
+    EXPECT_EQ(plane_->shown().runOut->source.span.from, 0.2);
     bench_.undoStack().undo();
-    EXPECT_EQ(actions_.runOutOf(*plane_)->span.from, 0.1);
+    EXPECT_EQ(plane_->shown().runOut->source.span.from, 0.1);
+    actions_.waveform.trigger();
+    ASSERT_TRUE(becomes(WaveformWords));
+    EXPECT_EQ(plane_->shown().runOut->source.span.from, 0.1);
     bench_.undoStack().undo();
-    EXPECT_FALSE(actions_.runOutOf(*plane_).has_value());
+    bench_.undoStack().undo();
+    EXPECT_FALSE(plane_->shown().runOut);
 }
 
 TEST_F(RunOutActionsTest, ARecordingOfSlowRollGivesItToo) {
@@ -215,12 +196,12 @@ TEST_F(RunOutActionsTest, ARecordingOfSlowRollGivesItToo) {
     actions_.takeFrom(file.toStdString());
     ASSERT_TRUE(becomes(VectorWords));
     EXPECT_NEAR(largest(*plane_), 30.0, 0.05);
-    EXPECT_EQ(actions_.runOutOf(*plane_)->slowRoll, file.toStdString());
+    EXPECT_EQ(plane_->shown().runOut->source.slowRoll, file.toStdString());
 }
 
 TEST_F(RunOutActionsTest, RecordingThatCannotBeReadIsReportedAndNothingChanges) {
     QSignalSpy reports(&bench_, &Bench::troubled);
-    actions_.restore(*plane_, {.slowRoll = "missing.csv"});
+    actions_.takeFrom("missing.csv");
     ASSERT_TRUE(reports.wait());
     EXPECT_TRUE(reports[0][0].toString().startsWith("rotor: missing.csv: "));
     EXPECT_EQ(plane_->compensation(), "");
