@@ -32,11 +32,10 @@ auto findValue(auto& values, std::wstring_view name) {
                         [&](const RegistryValue& value) { return value.name == name; });
 }
 
-template <class Content>
-const Content* contentOf(const RegistryEntry* entry, std::wstring_view name) {
+const RegistryContent* contentOf(const RegistryEntry* entry, std::wstring_view name) {
     if (entry == nullptr) return nullptr;
     const auto found = findValue(entry->values, name);
-    return found == entry->values.end() ? nullptr : std::get_if<Content>(&found->content);
+    return found == entry->values.end() ? nullptr : &found->content;
 }
 
 }  // namespace
@@ -60,11 +59,13 @@ RegistryEntry* RegistryFile::entry(std::wstring_view path) {
 }
 
 const std::wstring* RegistryFile::text(std::wstring_view path, std::wstring_view name) const {
-    return contentOf<std::wstring>(find(path), name);
+    const RegistryContent* content = contentOf(find(path), name);
+    return content == nullptr ? nullptr : content->text();
 }
 
 const std::uint32_t* RegistryFile::number(std::wstring_view path, std::wstring_view name) const {
-    return contentOf<std::uint32_t>(find(path), name);
+    const RegistryContent* content = contentOf(find(path), name);
+    return content == nullptr ? nullptr : content->number();
 }
 
 std::vector<std::wstring> RegistryFile::namesBelow(std::wstring_view path) const {
@@ -87,9 +88,9 @@ bool RegistryFile::create(const std::wstring& path) {
 
 bool RegistryFile::set(std::wstring_view path, RegistryValue value) {
     RegistryEntry* key = entry(path);
-    const auto* content = std::get_if<std::wstring>(&value.content);
+    const std::wstring* text = value.content.text();
     if (key == nullptr || !isEncodable(value.name)) return false;
-    if (content != nullptr && !isEncodable(*content)) return false;
+    if (text != nullptr && !isEncodable(*text)) return false;
     const auto found = findValue(key->values, value.name);
     if (found == key->values.end() && key->values.size() >= MaxValues) return false;
     if (found == key->values.end())

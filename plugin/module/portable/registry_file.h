@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plugin/framework/platform.h"
+#include "plugin/module/portable/registry_content.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -8,7 +9,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 /// The registry store of a platform without a registry: one text file per scope. The module writes
@@ -39,10 +39,10 @@ public:
     std::size_t line;  ///< counted from 1; 0 where the file as a whole cannot be read
 };
 
-/// A named value: a text, or a number of 32 bits. The default value has the empty name.
+/// A named value. The default value has the empty name.
 struct RegistryValue {
     std::wstring name;
-    std::variant<std::wstring, std::uint32_t> content;
+    RegistryContent content;
 
     bool operator==(const RegistryValue&) const = default;
 };

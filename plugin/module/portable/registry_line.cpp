@@ -162,8 +162,8 @@ RegistryValue readValueLine(std::wstring_view line) {
 
 std::wstring valueLine(const RegistryValue& value) {
     const std::wstring name = value.name.empty() ? L"@" : quotedForm(value.name);
-    return name + L" = " +
-           std::visit([](const auto& one) { return contentForm(one); }, value.content);
+    const std::wstring* text = value.content.text();
+    return name + L" = " + (text ? contentForm(*text) : contentForm(*value.content.number()));
 }
 
 }  // namespace Meridax::VisualControls::Rotavue

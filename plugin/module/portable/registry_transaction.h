@@ -34,9 +34,7 @@ private:
     std::filesystem::path path_;
     FileLock lock_;
     RegistryFile file_;
-    /// The text of what the file on the disk holds. A copy of the content would do, but this
-    /// compiler's variants do not survive a copy for which there is no memory.
-    std::string stored_;
+    std::string stored_;  ///< the text of what the file on the disk holds
 };
 
 }  // namespace Meridax::VisualControls::Rotavue

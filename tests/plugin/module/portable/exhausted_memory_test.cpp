@@ -66,5 +66,25 @@ TEST_F(RegistrationWithoutMemory, IsMadeUpForByTheNextOne) {
     }
 }
 
+TEST(RegistryContent, SurvivesACopyForWhichThereIsNoMemory) {
+    const std::wstring text(100, L'a');  // longer than what a string holds in itself
+    RegistryFile file;
+    ASSERT_TRUE(file.create(L"A"));
+    ASSERT_TRUE(file.set(L"A", {L"Name", text}) && file.set(L"A", {L"Width", 400U}));
+    bool refused = true;
+    for (std::int64_t n = 1; refused; ++n) {
+        MemoryMeter::failAt(n);
+        try {
+            const RegistryFile copy = file;
+            refused = MemoryMeter::failNoMore();
+            EXPECT_TRUE(copy == file);
+        } catch (const std::bad_alloc&) {
+            MemoryMeter::failNoMore();
+        }
+        ASSERT_EQ(*file.text(L"A", L"Name"), text) << n;
+        ASSERT_EQ(*file.number(L"A", L"Width"), 400U) << n;
+    }
+}
+
 }  // namespace
 }  // namespace Meridax::VisualControls::Rotavue
