@@ -229,6 +229,7 @@ void HostileHost::changeFacts() {
     facts.lastPosition = {integer(bytes_), integer(bytes_)};
     facts.acquiredSampleCount = integer(bytes_);
     facts.editText = {bytes_.flag(), text(bytes_)};
+    facts.version.major = bytes_.below(8) == 0 ? 2 : 4;  // one that is told so when it attaches
 }
 
 void HostileHost::changeChannel() {

@@ -1,6 +1,7 @@
 #include "host_kit/loader/module.h"
 #include "host_kit/memory/memory_host.h"
 #include "host_kit/memory/utf8.h"
+#include "plugin/framework/host/host_error.h"
 #include "plugin/framework/message_codes.h"
 #include "plugin/framework/unicode.h"
 #include "tests/fuzz/memory_file.h"
@@ -18,10 +19,15 @@ using namespace Rotavue;
 using Meridax::VisualControls::Api::MessageCode;
 using Settings = std::map<std::wstring, std::wstring>;
 
+/// What a host answers in one message before it fails. A display time of years has millions of
+/// places read, which is bounded, but takes a minute under the sanitizers.
+constexpr std::size_t MostCalls = 100'000;
+
 /// One control that shows a small orbit, for all inputs.
-class ShownControl {
+class ShownControl final : HostKit::CallWatcher {
 public:
     ShownControl() {
+        host_.gate.watch(this, dataCalls());
         HostKit::ChannelDescription& orbit = host_.description.channels["orbit"];
         orbit.sampleCount = 16;
         orbit.sampleRate = 1000.0;
@@ -48,7 +54,20 @@ public:
     void copy() { send(MessageCode::Copy, {}); }
 
 private:
+    static HostKit::CallGroups dataCalls() {
+        HostKit::CallGroups groups;
+        groups.set(static_cast<std::size_t>(HostKit::CallGroup::Data));
+        return groups;
+    }
+
+    void onCall(HostKit::Operation) override {
+        if (++calls_ > MostCalls) {
+            throw Meridax::Host::HostError(Meridax::Host::Status::Unspecified);
+        }
+    }
+
     void send(MessageCode code, const HostKit::MessageList& list) {
+        calls_ = 0;
         try {
             control_->message(static_cast<std::uint32_t>(code), &list, nullptr);
         } catch (const std::exception&) {
@@ -58,6 +77,7 @@ private:
 
     HostKit::Module module_{"linked"};
     HostKit::MemoryHost host_;
+    std::size_t calls_ = 0;  ///< of the message that is under way
     Meridax::Host::Ref<Meridax::VisualControls::Api::IMeridaxPlugin> control_ =
         module_.makeControl();
 };

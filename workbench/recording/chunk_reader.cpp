@@ -5,8 +5,9 @@
 
 namespace Rotavue::Workbench {
 
-ChunkReader::ChunkReader(const std::filesystem::path& file, std::uint64_t offset)
-    : file_(file), stream_(openInput(file)), position_(offset) {
+ChunkReader::ChunkReader(const std::filesystem::path& file, std::uint64_t offset,
+                         std::size_t readSize)
+    : file_(file), stream_(openInput(file)), readSize_(readSize), position_(offset) {
     stream_.seekg(0, std::ios::end);
     size_ = static_cast<std::uint64_t>(stream_.tellg());
     stream_.seekg(static_cast<std::streamoff>(offset));
@@ -28,8 +29,8 @@ bool ChunkReader::next(std::string& text) {
 // Appends what the file holds next.
 void ChunkReader::read(std::string& text) {
     const std::size_t begin = text.size();
-    text.resize(begin + ReadSize);
-    stream_.read(text.data() + begin, static_cast<std::streamsize>(ReadSize));
+    text.resize(begin + readSize_);
+    stream_.read(text.data() + begin, static_cast<std::streamsize>(readSize_));
     text.resize(begin + static_cast<std::size_t>(stream_.gcount()));
     if (stream_.bad()) throw RecordingError({file_}, "a fault of the disk", "a readable file");
 }

@@ -7,7 +7,6 @@
 #include <string>
 #include <thread>
 
-#include "workbench/recording/chunk_reader.h"
 #include "workbench/recording/row_parser.h"
 
 namespace Rotavue::Workbench {
@@ -28,9 +27,9 @@ unsigned threadCount(unsigned wanted) {
 class RowCollector {
 public:
     RowCollector(const std::filesystem::path& file, const TableLayout& layout,
-                 std::span<const WantedColumn> wanted)
+                 std::span<const WantedColumn> wanted, std::size_t chunkSize)
         : parser_(file, layout, wanted),
-          chunks_(file, layout.firstDataOffset),
+          chunks_(file, layout.firstDataOffset, chunkSize),
           values_(wanted.size()) {
         before_.lines = layout.firstDataLine - 1;
     }
@@ -111,12 +110,15 @@ void RowCollector::append(const ParsedRows& rows) {
 
 }  // namespace
 
-CsvFile::CsvFile(const std::filesystem::path& file, unsigned threads)
-    : file_(file), layout_(findTableLayout(file)), threads_(threadCount(threads)) {}
+CsvFile::CsvFile(const std::filesystem::path& file, unsigned threads, std::size_t chunkSize)
+    : file_(file),
+      layout_(findTableLayout(file)),
+      threads_(threadCount(threads)),
+      chunkSize_(chunkSize) {}
 
 std::vector<std::vector<double>> CsvFile::read(std::span<const WantedColumn> wanted,
                                                const ReadingProgress& progress) {
-    return RowCollector(file_, layout_, wanted).read(threads_, progress);
+    return RowCollector(file_, layout_, wanted, chunkSize_).read(threads_, progress);
 }
 
 }  // namespace Rotavue::Workbench

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 
+#include "workbench/recording/chunk_reader.h"
 #include "workbench/recording/sample_source.h"
 #include "workbench/recording/table_layout.h"
 
@@ -17,8 +19,10 @@ namespace Rotavue::Workbench {
 class CsvFile : public SampleSource {
 public:
     /// Finds the layout (table_layout.h) and throws as that does. `threads` is the number of
-    /// threads that read; 0: as many as the machine runs at once.
-    explicit CsvFile(const std::filesystem::path& file, unsigned threads = 0);
+    /// threads that read; 0: as many as the machine runs at once. Each takes `chunkSize` bytes
+    /// at once, which is more than a line has.
+    explicit CsvFile(const std::filesystem::path& file, unsigned threads = 0,
+                     std::size_t chunkSize = ChunkReader::ReadSize);
 
     using SampleSource::read;
     const SourceHead& head() const override { return layout_.head; }
@@ -29,6 +33,7 @@ private:
     std::filesystem::path file_;
     TableLayout layout_;
     unsigned threads_;
+    std::size_t chunkSize_;
 };
 
 }  // namespace Rotavue::Workbench
