@@ -52,9 +52,10 @@ LogLines FaultSession::play(const std::function<void(MemoryHost&)>& prepare) con
     return toLines(log.str());
 }
 
-void FaultSession::playQuietly() const {
+LogLines FaultSession::playQuietly() const {
     std::ostringstream log;
     Player(session_, builtModule(), log, {CallGroups(), nullptr}).play();
+    return toLines(log.str());
 }
 
 std::size_t endOfMessage(const LogLines& log, std::size_t place) {

@@ -34,8 +34,8 @@ public:
     /// Plays it on the built module. `prepare` gets the host before the first step.
     LogLines play(const std::function<void(MemoryHost&)>& prepare = {}) const;
 
-    /// The same without a log, for those who look at other things than calls.
-    void playQuietly() const;
+    /// The same with a log that tells of no calls.
+    LogLines playQuietly() const;
 
 private:
     Session session_;

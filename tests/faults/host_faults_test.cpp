@@ -37,6 +37,10 @@ std::vector<std::size_t> placesOf(const LogLines& log, Hits hits) {
 
 class FaultySession : public testing::TestWithParam<std::filesystem::path> {
 protected:
+    static void TearDownTestSuite() {
+        std::cout << failures_ << " failing calls and " << nulls_ << " null objects in all\n";
+    }
+
     /// After the fault at this place of the log nothing stays held, and the control draws its next
     /// frame as it would have.
     void expectGoesOn(const LogLines& log, std::size_t place) const {
@@ -46,6 +50,9 @@ protected:
             EXPECT_TRUE(closingFrameWorks(log)) << log[log.size() - 2];
         }
     }
+
+    static inline std::size_t failures_ = 0;
+    static inline std::size_t nulls_ = 0;
 
     const FaultSession session_{GetParam()};
     const LogLines sound_ = session_.play();
@@ -59,6 +66,7 @@ TEST_P(FaultySession, RaisesTheFailureOfEachHostCall) {
     for (std::size_t n = 0; n < places.size(); ++n) {
         const LogLine call(sound_[places[n]]);
         if (!call.failed.empty()) continue;  // The session's own fault comes first.
+        ++failures_;
         SCOPED_TRACE(sound_[places[n]]);
         const LogLines log = session_.play([n](MemoryHost& host) {
             host.gate.fail({{}, static_cast<std::int64_t>(n) + 1, Host::Status::Unspecified, {}});
@@ -71,7 +79,6 @@ TEST_P(FaultySession, RaisesTheFailureOfEachHostCall) {
         EXPECT_EQ(end, places[n] + 1) << "called after the failure: " << log[places[n] + 1];
         expectGoesOn(log, places[n]);
     }
-    std::cout << places.size() << " failing calls\n";
 }
 
 TEST_P(FaultySession, RaisesAnInvalidPointerForEachNullObject) {
@@ -79,6 +86,7 @@ TEST_P(FaultySession, RaisesAnInvalidPointerForEachNullObject) {
         sound_, [](const LogLine& line) { return line.asksForObject && line.failed.empty(); });
     for (std::size_t n = 0; n < places.size(); ++n) {
         if (!LogLine(sound_[places[n]]).object) continue;  // Null as it is.
+        ++nulls_;
         SCOPED_TRACE(sound_[places[n]]);
         const LogLines log = session_.play(
             [n](MemoryHost& host) { host.gate.nullObject(static_cast<std::int64_t>(n) + 1); });
@@ -89,7 +97,6 @@ TEST_P(FaultySession, RaisesAnInvalidPointerForEachNullObject) {
         EXPECT_TRUE(error == NullText || (error.empty() && mayBeNull(call))) << error;
         expectGoesOn(log, places[n]);
     }
-    std::cout << places.size() << " null objects\n";
 }
 
 std::string testName(const testing::TestParamInfo<std::filesystem::path>& info) {

@@ -6,7 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <cstdlib>
+#include <fstream>
+#include <iostream>
 #include <random>
 
 namespace Rotavue::HostKit {
@@ -27,6 +31,15 @@ constexpr std::int64_t Stretch = 1000;
 std::int64_t messageCount() {
     const char* asked = std::getenv("ROTAVUE_SOAK_MESSAGES");
     return asked == nullptr ? UsualMessages : std::strtoll(asked, nullptr, 10);
+}
+
+/// The memory that the system holds for this program.
+std::int64_t residentKilobytes() {
+    std::ifstream pages("/proc/self/statm");
+    std::int64_t all = 0;
+    std::int64_t resident = 0;
+    pages >> all >> resident;
+    return resident * ::sysconf(_SC_PAGESIZE) / 1024;
 }
 
 /// A host whose channels, settings and pointer change between the messages that it sends.
@@ -149,14 +162,21 @@ TEST_F(Soak, MemoryIsFlatFromTheThousandthMessageToTheLast) {
     const std::int64_t messages = messageCount();
     ASSERT_GT(messages, Stretch);
     std::int64_t living = 0;
+    std::int64_t resident = 0;
     for (std::int64_t sent = 0; sent < messages; ++sent) {
-        if (sent == Stretch) living = livingAtRest();
+        if (sent == Stretch) {
+            living = livingAtRest();
+            resident = residentKilobytes();
+        }
         if (sent > Stretch && sent % (10 * Stretch) == 0) {
             ASSERT_EQ(livingAtRest(), living) << "after " << sent << " messages";
         }
         step();
     }
     EXPECT_EQ(livingAtRest(), living);
+    std::cout << living << " allocations and " << resident << " kB after " << Stretch
+              << " messages, " << MemoryMeter::living() << " and " << residentKilobytes()
+              << " kB after " << messages << "\n";
     EXPECT_LT(errors_, messages / 10) << "most messages do something";
     control_ = nullptr;
     EXPECT_EQ(host_.references(), 0);
