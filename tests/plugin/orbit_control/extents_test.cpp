@@ -23,6 +23,21 @@ TEST(Extents, OnePointIsMinimumAndMaximum) {
     EXPECT_FALSE(extents.isUnset());
 }
 
+TEST(Extents, AreUnsetAsLongAsOneEdgeIs) {
+    constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
+    // The largest number moves a maximum alone, the smallest a minimum.
+    for (const Point& point :
+         {Point{Largest, 1}, Point{-Largest, 1}, Point{1, Largest}, Point{1, -Largest}}) {
+        Extents extents;
+        extents.takeIn(point.x, point.y);
+        EXPECT_TRUE(extents.isUnset()) << point.x << ' ' << point.y;
+        extents.takeIn(NoNumber, NoNumber);
+        EXPECT_TRUE(extents.isUnset()) << point.x << ' ' << point.y;
+        extents.takeIn(0, 0);
+        EXPECT_FALSE(extents.isUnset()) << point.x << ' ' << point.y;
+    }
+}
+
 TEST(Extents, EachEdgeGoesItsOwnWay) {
     Extents extents;
     extents.takeIn(1.0, 2.0);

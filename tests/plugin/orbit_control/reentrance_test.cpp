@@ -218,6 +218,32 @@ TEST_F(Reentrance, FrameDrawnInsideTheRedrawRequestShowsThePointer) {
     EXPECT_EQ(*(hovered + 1), R"(IHostCanvas.TextRect(60, 240, 84, 256, "-44", 256))");
 }
 
+TEST_F(Reentrance, FrameMayBeDrawnInsideTheMessageToAHostThatIsTooOld) {
+    const Api::ControlMaker maker = [] { return std::make_unique<RotavueVisualControl>(); };
+    Api::ClipboardSteps clipboard;
+    Api::LiveObjects living;
+    const Api::ListArguments attach{Api::object(host.app()), Api::object(host.control())};
+    const Api::ListArguments frame{
+        Api::object(host.canvas()), Api::number(0), Api::number(0), Api::number(300),
+        Api::number(300),           Api::number(0), Api::number(0), Api::number(0)};
+    host.description.host.version = {2, 99, 0};
+    const auto plugin =
+        Api::VisualControlBridge::create({maker, clipboard, living}).offered<Api::IMeridaxPlugin>();
+    const auto send = [&](Api::MessageCode code, const Api::ListArguments& list) {
+        plugin->message(static_cast<std::uint32_t>(code), &list, nullptr);
+    };
+    Lines lines;
+    Interruption modal(HostKit::operation("IHostApp.showMessage"), [&] {
+        lines = callsOf([&] { send(Api::MessageCode::Draw, frame); }, drawing());
+    });
+    watch(modal);
+    send(Api::MessageCode::Attach, attach);
+    host.gate.watch(nullptr, {});
+    EXPECT_TRUE(modal.happened());
+    EXPECT_EQ(lines, callsOf([&] { send(Api::MessageCode::Draw, frame); }, drawing()));
+    EXPECT_FALSE(lines.empty());
+}
+
 TEST_F(Reentrance, EditorThatIsOpenKeepsItsLabelWhateverIsDrawnMeanwhile) {
     key.graph.setManualLimits(1);
     key.graph.setAutoScaleType(1);

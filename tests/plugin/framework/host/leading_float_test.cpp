@@ -53,6 +53,15 @@ TEST_P(OutOfRange, RaisesOutOfRange) {
 
 INSTANTIATE_TEST_SUITE_P(Texts, OutOfRange, testing::Values(L"1e39", L"-1e39", L"1e-60"));
 
+TEST(LeadingFloatRange, TakesAMegabyteLikeAShortText) {
+    const std::wstring zeros(1 << 20, L'0');
+    EXPECT_EQ(leadingFloat(zeros + L"45 degrees"), 45.0F);
+    EXPECT_EQ(leadingFloat(L"45." + zeros + L"1"), 45.0F);
+    EXPECT_EQ(leadingFloat(std::wstring(1 << 20, L' ') + L"7"), 7.0F);
+    EXPECT_THROW(leadingFloat(L"45" + zeros), std::out_of_range);
+    EXPECT_THROW(leadingFloat(std::wstring(1 << 20, L'x')), std::invalid_argument);
+}
+
 TEST(LeadingFloatRange, LeavesAnOldRangeErrorAlone) {
     errno = ERANGE;
     EXPECT_EQ(leadingFloat(L"1"), 1.0F);

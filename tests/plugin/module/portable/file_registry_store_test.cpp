@@ -1,6 +1,7 @@
 #include "plugin/module/portable/file_registry_store.h"
 
 #include "plugin/module/portable/file_lock.h"
+#include "tests/plugin/module/portable/full_disk.h"
 #include "tests/plugin/module/portable/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -74,6 +75,18 @@ TEST_F(FileRegistryStoreTest, KeyIsDeletedAtOnceUnlessKeysAreBelowIt) {
 TEST_F(FileRegistryStoreTest, DeletingInNoFileMakesNone) {
     EXPECT_FALSE(store.deleteKey(RegistryScope::User, L"A"));
     EXPECT_FALSE(std::filesystem::exists(user.parent_path()));
+}
+
+TEST_F(FileRegistryStoreTest, FullDiskLeavesTheKeyThatIsDeleted) {
+    store.createKey(RegistryScope::User, L"A")->setText(L"Name", L"x");
+    const FullDisk full(4);
+    EXPECT_FALSE(store.deleteKey(RegistryScope::User, L"A"));
+    EXPECT_EQ(*read().text(L"A", L"Name"), L"x");
+}
+
+TEST_F(FileRegistryStoreTest, WhatIsNoPathGivesNoKey) {
+    EXPECT_EQ(store.createKey(RegistryScope::User, LR"(A\\B)"), nullptr);
+    EXPECT_FALSE(std::filesystem::exists(user));
 }
 
 TEST_F(FileRegistryStoreTest, DamagedFileGivesNoKeyAndStaysAsItIs) {

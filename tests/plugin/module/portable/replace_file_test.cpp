@@ -1,5 +1,6 @@
 #include "plugin/module/portable/replace_file.h"
 
+#include "tests/plugin/module/portable/full_disk.h"
 #include "tests/plugin/module/portable/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,15 @@ namespace Meridax::VisualControls::Rotavue {
 namespace {
 
 namespace fs = std::filesystem;
+
+TEST(ReplaceFile, FullDiskLeavesTheOldContentAndNothingBeside) {
+    const TemporaryFolder folder;
+    writeFile(folder / "r", "before");
+    const FullDisk full(4);  // of "content" the first four bytes are written
+    EXPECT_FALSE(replaceFile(folder / "r", "content"));
+    EXPECT_EQ(readFile(folder / "r"), "before");
+    EXPECT_FALSE(fs::exists(folder / "r.new"));
+}
 
 TEST(ReplaceFile, MakesAFile) {
     const TemporaryFolder folder;
