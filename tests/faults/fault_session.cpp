@@ -42,7 +42,8 @@ LogLine::LogLine(const std::string& text) {
 }
 
 FaultSession::FaultSession(const std::filesystem::path& file)
-    : session_(withClosingSteps(readText(file))) {}
+    : session_(withClosingSteps(readText(file))),
+      hasOwnFault_(readText(file).find("\"fail\"") != std::string::npos) {}
 
 LogLines FaultSession::play(const std::function<void(MemoryHost&)>& prepare) const {
     std::ostringstream log;

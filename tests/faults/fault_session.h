@@ -37,8 +37,13 @@ public:
     /// The same with a log that tells of no calls.
     LogLines playQuietly() const;
 
+    /// True for a session that plans faults of its own: one that was not reached may come true in
+    /// the closing frame.
+    bool hasOwnFault() const { return hasOwnFault_; }
+
 private:
     Session session_;
+    bool hasOwnFault_;
 };
 
 /// The place of the line that tells how the message ended in whose course the line at `place`

@@ -21,7 +21,7 @@ using Settings = std::map<std::wstring, std::wstring>;
 
 /// What a host answers in one message before it fails. A display time of years has millions of
 /// places read, which is bounded, but takes a minute under the sanitizers.
-constexpr std::size_t MostCalls = 100'000;
+constexpr std::size_t MostCalls = 10'000;
 
 /// One control that shows a small orbit, for all inputs.
 class ShownControl final : HostKit::CallWatcher {

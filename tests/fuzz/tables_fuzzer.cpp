@@ -57,7 +57,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text = Fuzz::textOf(data, size);
     const Fuzz::MemoryFile file(text);
     const Reading whole = readAll(file.path(), 1, size + 1);
-    const Reading parts = readAll(file.path(), 3, std::max(longestLine(text), size / MostParts) + 1);
+    const Reading parts =
+        readAll(file.path(), 3, std::max(longestLine(text), size / MostParts) + 1);
     const bool same = std::ranges::equal(whole.columns, parts.columns, isSame);
     if (!same || whole.fault != parts.fault) std::abort();
     return 0;
