@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
@@ -50,6 +51,7 @@ FileActions::FileActions(Bench& bench, QMainWindow& window, QMenu& menu, QSettin
     window.installEventFilter(this);
     connect(&opener_, &RecordingOpener::failed, this, &FileActions::tell);
     connect(&bench, &Bench::troubled, this, &FileActions::tell);
+    connect(&bench.undoStack(), &QUndoStack::indexChanged, this, [this] { ++changes_; });
     connect(&loader(), &RecordingLoader::loaded, this, &FileActions::takeLoaded);
     connect(&loader(), &RecordingLoader::failed, this,
             [this](const LoadRequest& request) { dropPendingView(request); });
@@ -62,6 +64,8 @@ void FileActions::makeMenu(QMenu& menu) {
     recentMenu_->setToolTipsVisible(true);
     connect(recentMenu_, &QMenu::aboutToShow, this, &FileActions::fillRecent);
     QAction* const before = menu.actions().value(0);
+    menu.insertAction(before, makeAction(QStringLiteral("newView"), tr("&New view"),
+                                         QKeySequence::New, &FileActions::newView));
     menu.insertAction(before, makeAction(QStringLiteral("open"), tr("&Open..."), QKeySequence::Open,
                                          &FileActions::askForFiles));
     menu.insertMenu(before, recentMenu_);
@@ -106,6 +110,14 @@ void FileActions::setViewFile(const QString& file) {
     Q_EMIT viewFileChanged(viewFile_);
 }
 
+// The view's file stays as it is.
+void FileActions::newView() {
+    if (!mayLoseChanges()) return;
+    showView(bench_, {}, {});
+    viewFile_.clear();
+    Q_EMIT viewFileChanged(viewFile_);
+}
+
 void FileActions::askForFiles() {
     const QString filter =
         tr("Recordings and views (*.csv *.txt *.tsv *.wav *.rotavue);;All files (*)");
@@ -130,6 +142,7 @@ void FileActions::openView(const QString& file) {
         PendingView pending{file, readView(pathOf(file)), {}};
         if (!mayLoseChanges()) return;
         pending_ = std::move(pending);
+        pending_->changes = changes_;
     } catch (const std::exception& error) {
         return tell(QString::fromUtf8(error.what()));
     }
@@ -151,18 +164,32 @@ void FileActions::takeLoaded(const LoadRequest& request,
 void FileActions::dropPendingView(const LoadRequest& request) {
     if (!request.isOfView || !pending_) return;
     pending_.reset();
-    loader().cancel();
+    loader().cancelWaitingOfView();
 }
 
+// A view is long in coming: its user may have gone on with what is shown. The question waits until
+// the loader has told all.
 void FileActions::showPendingView() {
+    if (pending_->changes != changes_ && !bench_.undoStack().isClean()) {
+        QTimer::singleShot(0, this, &FileActions::askForPendingView);
+        return;
+    }
     PendingView pending = std::move(*pending_);
     pending_.reset();
     try {
         showView(bench_, pending.view, pending.planes);
     } catch (const std::exception& error) {
-        tell(QString::fromUtf8(error.what()));
+        return tell(QString::fromUtf8(error.what()));
     }
     setViewFile(pending.file);
+}
+
+void FileActions::askForPendingView() {
+    if (!pending_) return;
+    pending_->changes = changes_;
+    const bool isWanted = mayLoseChanges();
+    if (isWanted) return showPendingView();
+    pending_.reset();
 }
 
 // To have opened a recording is nothing that could be lost.

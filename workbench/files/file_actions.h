@@ -70,6 +70,7 @@ private:
     void fillRecent();
     void setViewFile(const QString& file);
 
+    void newView();
     void askForFiles();
     void save();
     void saveAs();
@@ -79,6 +80,7 @@ private:
     void takeLoaded(const LoadRequest& request, const std::shared_ptr<const PlaneSource>& source);
     void dropPendingView(const LoadRequest& request);
     void showPendingView();
+    void askForPendingView();
     void addRecording(const LoadRequest& request, const std::shared_ptr<const PlaneSource>& source);
     void tell(const QString& line) { messages_->tell(line); }
 
@@ -87,6 +89,7 @@ private:
         QString file;
         View view;
         std::vector<std::shared_ptr<const PlaneSource>> planes;
+        int changes = 0;  ///< that its user may lose
     };
 
     Bench& bench_;
@@ -95,6 +98,7 @@ private:
     RecordingOpener opener_;
     QString viewFile_;
     std::optional<PendingView> pending_;
+    int changes_ = 0;  ///< of the bench, so far
     std::optional<Settings> first_;
     std::vector<CurveRequest> curves_{CurveRequest{}};
     QMenu* recentMenu_;

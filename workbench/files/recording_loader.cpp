@@ -1,5 +1,6 @@
 #include "workbench/files/recording_loader.h"
 
+#include <algorithm>
 #include <exception>
 #include <stdexcept>
 #include <utility>
@@ -60,10 +61,25 @@ void RecordingLoader::load(LoadRequest request) {
 }
 
 void RecordingLoader::cancel() {
-    if (task_) task_->cancel();
-    for (std::deque<LoadRequest> dropped = std::exchange(waiting_, {}); !dropped.empty();
-         dropped.pop_front())
-        Q_EMIT cancelled(dropped.front());
+    std::deque<LoadRequest> dropped = std::exchange(waiting_, {});
+    if (task_ && !task_->isCancelled()) {
+        task_->cancel();
+        dropped.push_front(current_);
+    }
+    drop(std::move(dropped));
+}
+
+void RecordingLoader::cancelWaitingOfView() {
+    const auto isOther = [](const LoadRequest& request) { return !request.isOfView; };
+    const auto first = std::stable_partition(waiting_.begin(), waiting_.end(), isOther);
+    std::deque<LoadRequest> dropped(first, waiting_.end());
+    waiting_.erase(first, waiting_.end());
+    drop(std::move(dropped));
+}
+
+void RecordingLoader::drop(std::deque<LoadRequest> requests) {
+    for (; !requests.empty(); requests.pop_front())
+        Q_EMIT cancelled(requests.front());
 }
 
 // The timer runs for as long as there is something to load.
@@ -89,16 +105,13 @@ void RecordingLoader::look() {
     }
 }
 
-// What was cancelled too late is dropped all the same.
+// The end of what was cancelled has been told. Where that was too late it is dropped all the same.
 void RecordingLoader::finish() {
     const std::unique_ptr<Task> task = std::move(task_);
     const LoadRequest request = std::move(current_);
+    if (task->isCancelled()) return;
     try {
-        const auto source = task->take();
-        if (task->isCancelled()) throw ReadingCancelled();
-        Q_EMIT loaded(request, source);
-    } catch (const ReadingCancelled&) {
-        Q_EMIT cancelled(request);
+        Q_EMIT loaded(request, task->take());
     } catch (const std::bad_alloc&) {
         Q_EMIT failed(request, QString::fromStdString(request.file.string()) +
                                    QStringLiteral(": found more than fits into memory, allowed: a "

@@ -43,8 +43,12 @@ public:
 
     void load(LoadRequest request);
 
-    /// Cancels the recording that is being loaded and all that wait behind it; each has its signal.
+    /// Cancels the recording that is being loaded and all that wait behind it. Each has its signal
+    /// before this returns.
     void cancel();
+
+    /// Cancels those that wait for a view, likewise.
+    void cancelWaitingOfView();
 
     bool isLoading() const { return task_ != nullptr || !waiting_.empty(); }
 
@@ -65,6 +69,7 @@ Q_SIGNALS:
 private:
     using Task = BackgroundTask<std::shared_ptr<const PlaneSource>>;
 
+    void drop(std::deque<LoadRequest> requests);
     void beginNext();
     void look();
     void finish();

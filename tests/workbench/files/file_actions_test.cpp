@@ -93,6 +93,19 @@ protected:
             question->button(button)->click();
         });
     }
+    // Answers a question that comes by itself; false where none comes.
+    static bool answersWhenAsked(QMessageBox::StandardButton button) {
+        bool isAnswered = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (question == nullptr) return;
+            isAnswered = true;
+            question->button(button)->click();
+        });
+        timer.start(1);
+        return QTest::qWaitFor([&] { return isAnswered; });
+    }
     QMenu& recent() {
         auto* menu = menu_->findChild<QMenu*>("recentMenu");
         Q_EMIT menu->aboutToShow();
@@ -315,14 +328,100 @@ TEST_F(FileActionsTest, ViewWhoseRunOutCannotBeFoundSaysInWhichRecording) {
     EXPECT_EQ(files_->viewFile(), "");
 }
 
+TEST_F(FileActionsTest, ViewWithAPlaneThatCannotBeMadeChangesNothing) {
+    recording("a.csv");
+    recording("b.csv");
+    open({recording("c.csv")});
+    // The first plane can be had; of the second one the control cannot read a setting.
+    const QString view = qt(write("v.rotavue", R"({"rotavueView": 1, "planes": [
+        {"recording": "a.csv", "curves": [{"kind": "raw"}], "setup": {}},
+        {"recording": "b.csv", "curves": [{"kind": "raw"}], "setup": {"revolutions": "many"}}]})"));
+    open({view});
+    EXPECT_NE(told(), "");
+    EXPECT_EQ(planes(), QStringList{"c"});
+    EXPECT_EQ(files_->viewFile(), "");
+}
+
+TEST_F(FileActionsTest, ChangesThatAreMadeWhileAViewLoadsAreAskedFor) {
+    open({recording("a.csv")});
+    ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
+    window_->show();
+    for (const auto button : {QMessageBox::Cancel, QMessageBox::Discard}) {
+        files_->open({qt(at("v.rotavue"))});
+        circle();
+        EXPECT_TRUE(answersWhenAsked(button));
+        EXPECT_EQ(isCircle(0), button == QMessageBox::Cancel);
+        EXPECT_EQ(isChanged(), button == QMessageBox::Cancel);
+        ASSERT_TRUE(files_->saveTo(qt(at("w.rotavue"))));
+    }
+}
+
+TEST_F(FileActionsTest, ChangesThatItsUserHasGivenUpAreAskedForOnce) {
+    open({recording("a.csv")});
+    ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
+    window_->show();
+    circle();
+    answerWith(QMessageBox::Discard);
+    open({qt(at("v.rotavue"))});
+    EXPECT_FALSE(isCircle(0));
+    EXPECT_FALSE(isChanged());
+}
+
+TEST_F(FileActionsTest, AnotherViewOpensAtOnceAfterACancel) {
+    open({recording("a.csv")});
+    ASSERT_TRUE(files_->saveTo(qt(at("a.rotavue"))));
+    open({recording("b.csv")});
+    ASSERT_TRUE(files_->saveTo(qt(at("b.rotavue"))));
+    for (const char* first : {"a.rotavue", "b.rotavue"}) {
+        restart();
+        files_->open({qt(at(first))});
+        files_->loader().cancel();
+        open({qt(at("b.rotavue"))});
+        EXPECT_EQ(told(), "");
+        EXPECT_EQ(planes(), (QStringList{"a", "b"}));
+    }
+}
+
+TEST_F(FileActionsTest, RecordingsOpenEvenIfTheViewBeforeThemDoesNot) {
+    open({recording("a.csv"), recording("b.csv")});
+    ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
+    std::filesystem::remove(at("a.csv"));
+    restart();
+    files_->open({qt(at("v.rotavue"))});
+    open({recording("c.csv")});
+    EXPECT_EQ(planes(), QStringList{"c"});
+}
+
+TEST_F(FileActionsTest, NewViewLeavesTheViewAndItsFile) {
+    open({recording("a.csv")});
+    ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
+    menu_->actions()[0]->trigger();
+    EXPECT_TRUE(planes().isEmpty());
+    EXPECT_EQ(files_->viewFile(), "");
+    EXPECT_FALSE(isChanged());
+    EXPECT_FALSE(bench_->undoStack().canUndo());
+    EXPECT_EQ(readView(at("v.rotavue")).planes.size(), 1u);
+}
+
+TEST_F(FileActionsTest, NewViewAsksBeforeChangesAreLost) {
+    open({recording("a.csv")});
+    window_->show();
+    circle();
+    answerWith(QMessageBox::Cancel);
+    menu_->actions()[0]->trigger();
+    EXPECT_EQ(planes(), QStringList{"a"});
+}
+
 TEST_F(FileActionsTest, ItsActionsComeFirstInTheMenuWithTheirKeys) {
     const auto actions = menu_->actions();
-    ASSERT_EQ(actions.size(), 6);
-    EXPECT_EQ(actions[0]->objectName(), "open");
-    EXPECT_EQ(actions[0]->shortcut(), QKeySequence(QKeySequence::Open));
-    EXPECT_EQ(actions[3]->objectName(), "saveView");
-    EXPECT_EQ(actions[3]->shortcut(), QKeySequence(QKeySequence::Save));
-    EXPECT_EQ(actions[5]->text(), "Quit");
+    ASSERT_EQ(actions.size(), 7);
+    EXPECT_EQ(actions[0]->objectName(), "newView");
+    EXPECT_EQ(actions[0]->shortcut(), QKeySequence(QKeySequence::New));
+    EXPECT_EQ(actions[1]->objectName(), "open");
+    EXPECT_EQ(actions[1]->shortcut(), QKeySequence(QKeySequence::Open));
+    EXPECT_EQ(actions[4]->objectName(), "saveView");
+    EXPECT_EQ(actions[4]->shortcut(), QKeySequence(QKeySequence::Save));
+    EXPECT_EQ(actions[6]->text(), "Quit");
 }
 
 TEST_F(FileActionsTest, ControlsBeginWithTheSettingsOfTheStart) {

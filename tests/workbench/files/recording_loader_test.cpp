@@ -78,9 +78,22 @@ TEST_F(RecordingLoaderTest, CancelsWhatIsLoadedAndWhatWaits) {
     loader_.load({large("a.csv")});
     loader_.load({small("b.csv")});
     loader_.cancel();
+    EXPECT_EQ(log_, "cancelled a.csv\ncancelled b.csv\n");
+    loader_.cancel();
     waitUntilIdle();
-    EXPECT_EQ(log_, "cancelled b.csv\ncancelled a.csv\nidle\n");
+    EXPECT_EQ(log_, "cancelled a.csv\ncancelled b.csv\nidle\n");
     EXPECT_TRUE(planes_.empty());
+}
+
+TEST_F(RecordingLoaderTest, CancelsWhatWaitsForAViewAndGoesOnWithTheRest) {
+    loader_.load({small("a.csv")});
+    loader_.load({small("b.csv"), {}, true});
+    loader_.load({small("c.csv")});
+    loader_.load({small("d.csv"), {}, true});
+    loader_.cancelWaitingOfView();
+    EXPECT_EQ(log_, "cancelled b.csv\ncancelled d.csv\n");
+    waitUntilIdle();
+    EXPECT_EQ(log_, "cancelled b.csv\ncancelled d.csv\nloaded a.csv\nloaded c.csv\nidle\n");
 }
 
 TEST_F(RecordingLoaderTest, LoadsAgainAfterACancel) {
