@@ -112,6 +112,15 @@ std::uint32_t Plane::colorOf(std::size_t curve) const {
     return usualCurveColor(curve, light_);
 }
 
+std::vector<CurveRequest> Plane::drawnCurves() const {
+    std::vector<CurveRequest> drawn;
+    for (std::size_t i = 0; i < curves_.size(); ++i) {
+        const bool isThere = host_.description.channels.contains(idOf(i));
+        if (curves_[i].kind == CurveKind::Raw || isThere) drawn.push_back(curves_[i]);
+    }
+    return drawn;
+}
+
 void Plane::setLight(bool light) {
     light_ = light;
     recolor();

@@ -69,11 +69,17 @@ public:
     const CurveOptions& curveOptions() const { return options_; }
     void setCurveOptions(CurveOptions options);
 
+    /// Those of them that the control can draw; `notes` tells why others are missing.
+    std::vector<CurveRequest> drawnCurves() const;
+
     /// The colour of a curve by its place in `curves`, in the host's encoding.
     std::uint32_t colorOf(std::size_t curve) const;
 
     /// The curves' colours suit a light or a dark background.
     void setLight(bool light);
+
+    /// Digits behind the point of what the axes say.
+    std::int32_t decimals() const { return decimals_; }
 
     // Time.
 

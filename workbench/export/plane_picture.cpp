@@ -98,7 +98,7 @@ void PlanePicture::setLimit(double limit) {
 
 GraphScale PlanePicture::scaleWith(std::int32_t ticks) const {
     GraphScale scale = plainScale(limit_, backgroundOf(settings_), ticks);
-    scale.decimals = axisDecimals(plane_.shown().recording);
+    scale.decimals = plane_.decimals();
     return scale;
 }
 
@@ -122,7 +122,7 @@ PictureHeader PlanePicture::header() const {
     const Recording& recording = plane_.shown().recording;
     return pictureHeader({.machine = recording.machine,
                           .name = plane_.name(),
-                          .curves = plane_.curves(),
+                          .curves = plane_.drawnCurves(),
                           .coupling = recording.coupling,
                           .span = plane_.span(),
                           .compensation = plane_.compensation()},

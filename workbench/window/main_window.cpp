@@ -109,6 +109,9 @@ void MainWindow::makeViewMenu() {
               Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { tiles_.step(-1); });
     addAction(*viewMenu_, "equalAxes", tr("One scale for both &axes"), Qt::CTRL | Qt::Key_E,
               [this] { facts_.makeEqual(); });
+    addAction(*viewMenu_, "notes", tr("N&otes of the plane"), Qt::CTRL | Qt::Key_I, [this] {
+        if (OrbitTile* tile = tiles_.tileOf(currentPlane())) tile->toggleNotes();
+    });
     makeThemeMenu();
     viewMenu_->addSeparator();
     for (QDockWidget* dock : findChildren<QDockWidget*>())

@@ -18,10 +18,11 @@ namespace {
 
 QString curvesText(const Plane& plane) {
     QStringList words;
-    for (const CurveRequest& curve : plane.curves())
+    for (const CurveRequest& curve : plane.drawnCurves())
         words += curve.kind == CurveKind::Raw ? OrbitTile::tr("direct")
                                               : QString::fromStdString(wordsOf(curve));
-    if (words.isEmpty()) return OrbitTile::tr("no curve chosen");
+    if (plane.curves().empty()) return OrbitTile::tr("no curve chosen");
+    if (words.isEmpty()) return OrbitTile::tr("no curve");
     return words.join(" + ");
 }
 
@@ -42,6 +43,12 @@ QString placeOf(const char* probe, double angle) {
 
 QString placesText(const MachineFacts& machine) {
     return placeOf("X ", machine.xAngle) + ", " + placeOf("Y ", machine.yAngle);
+}
+
+void makeParagraph(QLabel& label) {
+    label.setTextFormat(Qt::PlainText);
+    label.setWordWrap(true);
+    label.setMinimumWidth(1);
 }
 
 QString speedText(double rpm) {
@@ -65,31 +72,48 @@ QString factsOf(const Plane& plane) {
 OrbitTile::OrbitTile(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent)
     : QFrame(parent), bench_(bench), view_(bench, std::move(plane), this) {
     setFrameShape(QFrame::StyledPanel);
+    for (QLabel* text : {&facts_, &notes_})
+        makeParagraph(*text);
+    facts_.setObjectName("facts");
+    notes_.setObjectName("notes");
+    notes_.setContentsMargins(8, 0, 8, 2);
+    notes_.hide();
+    notesButton_.setIcon(style()->standardIcon(QStyle::SP_MessageBoxInformation));
+    notesButton_.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    notesButton_.setAutoRaise(true);
+    notesButton_.setCheckable(true);
+    connect(&notesButton_, &QToolButton::toggled, this, &OrbitTile::tellNotes);
+    layOut();
+    setCurrent(false);
+    tellFacts();
+    tellNotes();
+    // After each frame, which the facts belong to.
+    connect(&view_, &OrbitView::drawn, this, &OrbitTile::tellFacts);
+    connect(&bench_, &Bench::notesChanged, this, [this](const Plane* changed) {
+        if (changed == &view_.plane()) tellNotes();
+    });
+}
+
+void OrbitTile::layOut() {
     auto* close = new QToolButton(this);
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     close->setAutoRaise(true);
     close->setToolTip(tr("Close this plane (Ctrl+W)"));
     close->setAccessibleName(tr("Close this plane"));
     connect(close, &QToolButton::clicked, this, [this] { bench_.removePlane(view_.plane()); });
-    facts_.setObjectName("facts");
-    facts_.setTextFormat(Qt::PlainText);
-    facts_.setWordWrap(true);
-    facts_.setMinimumWidth(1);
     auto* line = new QHBoxLayout;
     line->setContentsMargins(8, 2, 2, 2);
     line->setSpacing(10);
     line->addWidget(&name_);
     line->addWidget(&facts_, 1);
+    line->addWidget(&notesButton_);
     line->addWidget(close);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(1, 1, 1, 1);
     column->setSpacing(0);
     column->addLayout(line);
+    column->addWidget(&notes_);
     column->addWidget(&view_, 1);
-    setCurrent(false);
-    tellFacts();
-    // After each frame, which the facts belong to.
-    connect(&view_, &OrbitView::drawn, this, &OrbitTile::tellFacts);
 }
 
 void OrbitTile::setCurrent(bool current) {
@@ -105,6 +129,23 @@ void OrbitTile::tellFacts() {
     if (text == facts_.toolTip()) return;
     facts_.setToolTip(text);
     facts_.setText(text);
+}
+
+void OrbitTile::tellNotes() {
+    QStringList lines;
+    for (const std::string& note : view_.plane().notes())
+        lines += QString::fromStdString(note);
+    lines.removeDuplicates();
+    notes_.setText(lines.join('\n'));
+    notesButton_.setText(lines.size() == 1 ? tr("1 note") : tr("%1 notes").arg(lines.size()));
+    notesButton_.setToolTip(tr("What to know of this recording and its curves (Ctrl+I):") + '\n' +
+                            lines.join('\n'));
+    notesButton_.setVisible(!lines.isEmpty());
+    notes_.setVisible(!lines.isEmpty() && notesButton_.isChecked());
+}
+
+void OrbitTile::toggleNotes() {
+    notesButton_.toggle();
 }
 
 }  // namespace Rotavue::Workbench

@@ -5,11 +5,13 @@
 
 #include <QFrame>
 #include <QLabel>
+#include <QToolButton>
 
 namespace Rotavue::Workbench {
 
 /// A plane in the middle of the window: its control, and above it what is shown, on as many
-/// lines as that takes.
+/// lines as that takes. A button tells how many notes there are on the recording and its curves,
+/// and opens them.
 class OrbitTile : public QFrame {
     Q_OBJECT
 
@@ -22,13 +24,20 @@ public:
     /// Marks the tile that the docks speak of, where there are several.
     void setCurrent(bool current);
 
+    /// Opens the notes, or closes them.
+    void toggleNotes();
+
 private:
+    void layOut();
     void tellFacts();
+    void tellNotes();
 
     Bench& bench_;
     OrbitView view_;
     QLabel name_;
     QLabel facts_;
+    QToolButton notesButton_;
+    QLabel notes_;
 };
 
 /// "direct + 1X, 8 turns, 2998 rpm, X 45° R, Y 45° L, CCW": what a picture of the plane must say.

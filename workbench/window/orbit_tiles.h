@@ -26,7 +26,8 @@ public:
     /// The next plane, or the one before for a negative step, becomes the current one.
     void step(int planes);
 
-    /// The view of a plane; null where there is none.
+    /// The tile of a plane, and the view in it; null where there is none.
+    OrbitTile* tileOf(const Plane* plane) const;
     OrbitView* viewOf(const Plane* plane) const;
 
     const std::vector<OrbitTile*>& tiles() const { return tiles_; }
@@ -39,7 +40,6 @@ Q_SIGNALS:
 
 private:
     void rebuild();
-    OrbitTile* tileOf(const Plane* plane) const;
     OrbitTile* makeTile(const std::shared_ptr<Plane>& plane);
     void dropTiles();
     void layOut();

@@ -1,7 +1,5 @@
 #include "workbench/window/plain_keys.h"
 
-#include "workbench/window/docks/time_plot.h"
-
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -10,9 +8,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTextEdit>
-
-#include <algorithm>
-#include <array>
 
 namespace Rotavue::Workbench {
 
@@ -27,19 +22,19 @@ bool isAnyOf(const QObject* object) {
     return (... || (qobject_cast<const Widgets*>(object) != nullptr));
 }
 
-/// What a plot over time does with its keys: marks, zooms and pages.
-bool isOfPlots(int key) {
-    constexpr std::array Keys{Qt::Key_BracketLeft, Qt::Key_BracketRight, Qt::Key_PageUp,
-                              Qt::Key_PageDown};
-    return std::find(Keys.begin(), Keys.end(), key) != Keys.end();
+/// Lists and tables move about, tick, and look for what is typed. Other keys are their actions'.
+bool isOfViews(int key) {
+    const bool moves = key >= Qt::Key_Home && key <= Qt::Key_PageDown;
+    const bool digit = key >= Qt::Key_0 && key <= Qt::Key_9;
+    const bool letter = key >= Qt::Key_A && key <= Qt::Key_Z;
+    return moves || digit || letter || key == Qt::Key_Space;
 }
 
 /// A button needs the space bar alone.
 bool needsKey(const QObject* object, int key) {
-    if (isAnyOf<TimePlot>(object)) return isOfPlots(key);
     if (isAnyOf<QAbstractButton>(object)) return key == Qt::Key_Space;
-    return isAnyOf<QLineEdit, QAbstractSpinBox, QComboBox, QAbstractItemView, QTextEdit, QMenu>(
-        object);
+    if (isAnyOf<QAbstractItemView>(object)) return isOfViews(key);
+    return isAnyOf<QLineEdit, QAbstractSpinBox, QComboBox, QTextEdit, QMenu>(object);
 }
 
 }  // namespace

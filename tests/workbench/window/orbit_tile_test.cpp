@@ -14,6 +14,11 @@ protected:
         settle();
         return *window_.tiles().tiles()[tile]->findChild<QLabel*>("facts");
     }
+
+    QLabel& notes() {
+        settle();
+        return *window_.tiles().tiles()[0]->findChild<QLabel*>("notes");
+    }
 };
 
 TEST_F(OrbitTileTest, FactsAreReadInFullHoweverNarrowTheTileIs) {
@@ -33,6 +38,32 @@ TEST_F(OrbitTileTest, OneLineIsEnoughWhereThereIsRoom) {
     open();
     const QLabel& facts = factsOver(0);
     EXPECT_LT(facts.heightForWidth(facts.width()), 2 * facts.fontMetrics().height());
+}
+
+TEST_F(OrbitTileTest, CurveThatCannotBeDrawnIsNotNamedButNoted) {
+    const PlaneSetup missing{
+        .curves = {{}, {.kind = CurveKind::Reference, .orders = {}, .file = "/nowhere.json"}}};
+    const OrbitView& view = open(rotor(), missing);
+    EXPECT_TRUE(factsOver(0).text().startsWith("direct, 8 turns"))
+        << factsOver(0).text().toStdString();
+    ASSERT_EQ(view.plane().drawnCurves().size(), 1U);
+    EXPECT_EQ(view.plane().drawnCurves()[0].kind, CurveKind::Raw);
+    EXPECT_FALSE(notes().isVisible());
+    QTest::keyClick(&window_, Qt::Key_I, Qt::ControlModifier);
+    EXPECT_TRUE(notes().isVisible());
+    EXPECT_TRUE(notes().text().contains("/nowhere.json")) << notes().text().toStdString();
+    QTest::keyClick(&window_, Qt::Key_I, Qt::ControlModifier);
+    EXPECT_FALSE(notes().isVisible());
+}
+
+TEST_F(OrbitTileTest, NotesGoWithTheCurveThatTheyAreAbout) {
+    const PlaneSetup missing{
+        .curves = {{}, {.kind = CurveKind::Reference, .orders = {}, .file = "/nowhere.json"}}};
+    OrbitView& view = open(rotor(), missing);
+    bench().setCurves(view.plane(), {CurveRequest{}});
+    EXPECT_FALSE(notes().text().contains("/nowhere.json"));
+    bench().undoStack().undo();
+    EXPECT_TRUE(notes().text().contains("/nowhere.json"));
 }
 
 }  // namespace

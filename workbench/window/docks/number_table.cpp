@@ -64,8 +64,8 @@ QTableView* tableOf(QAbstractItemModel& model) {
 NumberTable::NumberTable(QWidget* parent)
     : QWidget(parent), view_(tableOf(model_)), notes_(new QLabel), warningText_(new QLabel) {
     setObjectName("NumberTable");
-    auto* equal = new QPushButton(tr("Make &equal"));
-    equal->setToolTip(tr("Give x and y the same span (Alt+E)"));
+    auto* equal = new QPushButton(tr("Make e&qual"));
+    equal->setToolTip(tr("Give x and y the same span (Alt+Q)"));
     connect(equal, &QPushButton::clicked, this, &NumberTable::equalSpansWanted);
     warning_ = warningBar(*warningText_, *equal);
     notes_->setWordWrap(true);

@@ -42,7 +42,7 @@ TimePlot::TimePlot(QWidget* parent) : QWidget(parent), colors_(plotColors(palett
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::CrossCursor);
     setToolTip(
-        tr("Drag: move the cursor. Ctrl+drag or [ and ]: mark a stretch; Delete: unmark.\n"
+        tr("Drag: move the cursor. Ctrl+drag or I and O: mark a stretch; Delete: unmark.\n"
            "Wheel: zoom (Shift: time alone, Ctrl: values alone); + and -: zoom the time.\n"
            "Ctrl+Left, Ctrl+Right: turn over. Double click or 0: show everything."));
 }

@@ -1,0 +1,84 @@
+#include "tests/workbench/window/window_fixture.h"
+#include "workbench/window/docks/time_plot.h"
+
+#include <QInputDialog>
+#include <QTreeWidget>
+
+namespace Rotavue::Workbench {
+namespace {
+
+/// Keys where a person presses them: in the window as it is, with the keyboard in one of its parts.
+class WindowKeysTest : public WindowTest {
+protected:
+    template <class Part>
+    Part& focused() {
+        auto* part = window_.findChild<Part*>();
+        part->setFocus();
+        EXPECT_TRUE(part->hasFocus());
+        return *part;
+    }
+
+    static void press(QWidget& part, Qt::Key key) {
+        QTest::keyClick(&part, key);
+        settle();
+    }
+
+    double speedAfter(QWidget& part, Qt::Key key) {
+        press(part, key);
+        return bench().playback().speed();
+    }
+};
+
+TEST_F(WindowKeysTest, InsertAsksForOrdersInTheTree) {
+    open();
+    auto& tree = focused<QTreeWidget>();
+    tree.setCurrentItem(tree.topLevelItem(0)->child(0));
+    press(tree, Qt::Key_Insert);
+    auto* dialog = window_.findChild<QInputDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    dialog->setTextValue("2");
+    dialog->accept();
+    settle();
+    EXPECT_EQ(bench().planes()[0]->curves().size(), 2U);
+}
+
+TEST_F(WindowKeysTest, DeleteTakesACurveOfTheTreeAway) {
+    open(rotor(), {.curves = {{}, {.kind = CurveKind::Harmonic, .orders = {2.0}}}});
+    auto& tree = focused<QTreeWidget>();
+    for (int i = 0; i < tree.topLevelItem(0)->childCount(); ++i)
+        if (tree.topLevelItem(0)->child(i)->text(0) == "2X")
+            tree.setCurrentItem(tree.topLevelItem(0)->child(i));
+    press(tree, Qt::Key_Delete);
+    EXPECT_EQ(bench().planes()[0]->curves(), std::vector<CurveRequest>{CurveRequest{}});
+}
+
+TEST_F(WindowKeysTest, ATreeMovesWithTheArrowsAndTheTimeStands) {
+    open();
+    const double before = bench().cursor();
+    auto& tree = focused<QTreeWidget>();
+    tree.setCurrentItem(tree.topLevelItem(0));
+    press(tree, Qt::Key_Down);
+    EXPECT_NE(tree.currentItem(), tree.topLevelItem(0));
+    press(tree, Qt::Key_Home);
+    EXPECT_EQ(bench().cursor(), before);
+}
+
+TEST_F(WindowKeysTest, BracketsChangeTheSpeedWhereverTheKeyboardIs) {
+    open();
+    auto& tree = focused<QTreeWidget>();
+    const double usual = bench().playback().speed();
+    const double slower = speedAfter(tree, Qt::Key_BracketLeft);
+    EXPECT_LT(slower, usual);
+    auto& plot = focused<TimePlot>();
+    EXPECT_EQ(speedAfter(plot, Qt::Key_BracketRight), usual);
+}
+
+TEST_F(WindowKeysTest, PagesOfTurnsAreTurnedFromAPlotOverTime) {
+    open();
+    press(focused<TimePlot>(), Qt::Key_PageUp);
+    // Eight turns of 20 ms before the last mark, which is at (100 - 0.25) / 50 s.
+    EXPECT_NEAR(bench().cursor(), 1.835, 1e-6);
+}
+
+}  // namespace
+}  // namespace Rotavue::Workbench
