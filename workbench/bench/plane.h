@@ -78,9 +78,6 @@ public:
     /// The curves' colours suit a light or a dark background.
     void setLight(bool light);
 
-    /// Digits behind the point of what the axes say.
-    std::int32_t decimals() const { return decimals_; }
-
     // Time.
 
     /// Moves the cursor, s after the first sample. A time behind the last sample shows that one.

@@ -98,7 +98,7 @@ void PlanePicture::setLimit(double limit) {
 
 GraphScale PlanePicture::scaleWith(std::int32_t ticks) const {
     GraphScale scale = plainScale(limit_, backgroundOf(settings_), ticks);
-    scale.decimals = plane_.decimals();
+    scale.decimals = plane_.original().decimals;
     return scale;
 }
 
