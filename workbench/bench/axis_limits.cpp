@@ -43,7 +43,10 @@ bool AxisLimits::areEqual() const {
 
 AxisLimits axisLimits(Plane& plane) {
     plane.readBack();
-    const Settings& settings = plane.settings();
+    return limitsIn(plane.settings());
+}
+
+AxisLimits limitsIn(const Settings& settings) {
     const auto manual = settings.find(ManualKey);
     return {.xMin = limitIn(settings, XMinKey, -1.0),
             .xMax = limitIn(settings, XMaxKey, 1.0),

@@ -18,7 +18,12 @@ struct AxisLimits {
     /// How many times as long a unit is upright as across; 1 where that is not known.
     double ratio() const;
     bool areEqual() const;
+
+    bool operator==(const AxisLimits&) const = default;
 };
+
+/// What settings say of the limits; found ones stand there too.
+AxisLimits limitsIn(const Settings& settings);
 
 /// What the control's last frame had, or what its user has set. Asks the control.
 AxisLimits axisLimits(Plane& plane);
@@ -27,7 +32,7 @@ AxisLimits axisLimits(Plane& plane);
 /// limits stay automatic.
 Settings withEqualAxes(Plane& plane);
 
-/// The plane's settings with these limits.
+/// The plane's settings with these limits; those of an automatic scale are of its last frame.
 Settings withLimits(const Plane& plane, const AxisLimits& limits);
 
 }  // namespace Rotavue::Workbench

@@ -1,6 +1,7 @@
 #include "workbench/bench/bench.h"
 
 #include "workbench/bench/change_command.h"
+#include "workbench/bench/settings_command.h"
 #include "workbench/bench/turn_step.h"
 #include "workbench/scene/scheme_colors.h"
 
@@ -90,15 +91,17 @@ void Bench::change(Plane& plane, const QString& what, std::function<void(Plane&)
                    std::function<void(Plane&)> takeBack) {
     const std::shared_ptr<Plane> kept = shared(plane);
     const auto told = [this, kept](const std::function<void(Plane&)>& part) {
-        return [this, kept, part] {
-            part(*kept);
-            kept->showMoment(cursor_, hostState());
-            Q_EMIT curvesChanged(kept.get());
-            Q_EMIT settingsChanged(kept.get());
-            Q_EMIT notesChanged(kept.get());
-        };
+        return [this, kept, part] { apply(*kept, part); };
     };
     undo_.push(new ChangeCommand(what, told(make), told(takeBack)));
+}
+
+void Bench::apply(Plane& plane, const std::function<void(Plane&)>& part) {
+    part(plane);
+    plane.showMoment(cursor_, hostState());
+    Q_EMIT curvesChanged(&plane);
+    Q_EMIT settingsChanged(&plane);
+    Q_EMIT notesChanged(&plane);
 }
 
 void Bench::setCurves(Plane& plane, std::vector<CurveRequest> curves) {
@@ -134,20 +137,28 @@ void Bench::showOriginal(Plane& plane) {
            showing(plane.sharedShown()));
 }
 
-void Bench::setSettings(Plane& plane, const Settings& settings, const QString& what) {
-    change(
-        plane, what.isEmpty() ? tr("settings") : what,
-        [settings](Plane& one) { one.load(settings); },
-        [before = plane.settings()](Plane& one) { one.load(before); });
+void Bench::changeSettings(Plane& plane, const QString& what, int run, const Settings& before,
+                           const Settings& after) {
+    const auto load = [this](Plane& one, const Settings& settings) {
+        apply(one, [&](Plane& loading) { loading.load(settings); });
+    };
+    std::vector<SettingsStep> steps{{shared(plane), before, after}};
+    if (companions_) {
+        for (const auto& [other, settings] : companions_(plane, after))
+            steps.push_back({shared(*other), other->settings(), settings});
+    }
+    undo_.push(
+        new SettingsCommand(what.isEmpty() ? tr("settings") : what, std::move(steps), run, load));
 }
 
-void Bench::noticeSettings(Plane& plane, const QString& what) {
+void Bench::setSettings(Plane& plane, const Settings& settings, const QString& what, int run) {
+    changeSettings(plane, what, run, plane.settings(), settings);
+}
+
+void Bench::noticeSettings(Plane& plane, const QString& what, int run) {
     const Settings before = plane.settings();
     if (!has(plane) || !plane.readBack()) return;
-    change(
-        plane, what.isEmpty() ? tr("settings") : what,
-        [now = plane.settings()](Plane& one) { one.load(now); },
-        [before](Plane& one) { one.load(before); });
+    changeSettings(plane, what, run, before, plane.settings());
 }
 
 double Bench::duration() const {

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace Rotavue::Workbench {
@@ -63,13 +64,25 @@ public:
     void setCurves(Plane& plane, std::vector<CurveRequest> curves);
     void setCurveOptions(Plane& plane, CurveOptions options);
 
-    /// Lets a plane's control load settings [undoable]. `what` names the change in the menu.
-    void setSettings(Plane& plane, const Settings& settings, const QString& what = {});
+    /// Lets a plane's control load settings [undoable]. `what` names the change in the menu;
+    /// changes of one run (`beginRun`) that follow each other are one step of undo.
+    void setSettings(Plane& plane, const Settings& settings, const QString& what = {},
+                     int run = NoRun);
 
     /// To be called after a message that may have made the control change its settings: a widget
     /// read, a limit edited, a strip clicked. What is different becomes a command [undoable];
     /// without a difference, or for a plane that is not on the bench, nothing happens.
-    void noticeSettings(Plane& plane, const QString& what = {});
+    void noticeSettings(Plane& plane, const QString& what = {}, int run = NoRun);
+
+    static constexpr int NoRun = -1;
+
+    /// What settings other planes need when a plane gets these; all of it is one step of undo.
+    using Companions =
+        std::function<std::vector<std::pair<Plane*, Settings>>(Plane& plane, const Settings& now)>;
+    void setCompanions(Companions companions) { companions_ = std::move(companions); }
+
+    /// The number of a run of changes that a user makes in one go.
+    int beginRun() { return nextRun_++; }
 
     // Time.
 
@@ -112,6 +125,11 @@ private:
     void change(Plane& plane, const QString& what, std::function<void(Plane&)> make,
                 std::function<void(Plane&)> takeBack);
 
+    /// Pushes a change of a plane's settings.
+    void changeSettings(Plane& plane, const QString& what, int run, const Settings& before,
+                        const Settings& after);
+    void apply(Plane& plane, const std::function<void(Plane&)>& part);
+
     void insert(std::size_t place, std::shared_ptr<Plane> plane);
     void take(std::size_t place);
     std::size_t placeOf(const Plane& plane) const;
@@ -124,6 +142,8 @@ private:
     QUndoStack undo_;
     double cursor_ = 0.0;
     std::int32_t scheme_;
+    int nextRun_ = 0;
+    Companions companions_;
     Playback playback_;
 };
 
