@@ -1,15 +1,12 @@
 #include "cli/recording_arguments.h"
 
-#include "cli/argument_values.h"
 #include "cli/usage_error.h"
-#include "workbench/recording/option_items.h"
-#include "workbench/recording/option_words.h"
+#include "workbench/recording/option_text.h"
 
 #include <array>
 #include <cctype>
 #include <stdexcept>
 #include <string_view>
-#include <variant>
 
 namespace Rotavue::Cli {
 
@@ -18,7 +15,6 @@ namespace {
 using namespace Workbench;
 
 constexpr const char* Group = "What the recording holds (before what the machine file says)";
-constexpr std::size_t LongestText = 200;
 
 struct ItemWords {
     std::string_view pointer;
@@ -59,41 +55,9 @@ const ItemWords& wordsOf(std::string_view pointer) {
     throw std::logic_error("an item of the machine file has no words for its option");
 }
 
-/// Each reads a text as one kind of item; nothing for a text that the item does not take.
-std::optional<double> read(const NumberItem& item, const std::string& text) {
-    const auto value = numberIn(text);
-    return value && isAllowed(item, *value) ? value : std::nullopt;
-}
-
-std::optional<int> read(const CountItem& item, const std::string& text) {
-    const auto value = wholeNumberIn(text);
-    if (!value || !isAllowed(item, *value)) return std::nullopt;
-    return static_cast<int>(*value);
-}
-
-std::optional<double> read(const AngleItem& item, const std::string& text) {
-    const auto value = parseProbeAngle(text);
-    return value && isAllowed(item, *value) ? value : std::nullopt;
-}
-
-std::optional<std::string> read(const TextItem&, const std::string& text) {
-    if (text.empty() || text.size() > LongestText) return std::nullopt;
-    return text;
-}
-
-template <class Value>
-std::optional<Value> read(const WordItem<Value>& item, const std::string& text) {
-    return valueOf(item.words, text);
-}
-
 void set(RecordingOptions& options, const OptionItem& item, const std::string& text) {
-    std::visit(
-        [&](const auto& kind) {
-            const auto value = read(kind, text);
-            if (!value) throw UsageError(optionNameOf(item.pointer), text, allowedText(item.kind));
-            kind.field(options) = value;
-        },
-        item.kind);
+    if (setItem(options, item, text)) return;
+    throw UsageError(optionNameOf(item.pointer), text, allowedText(item.kind));
 }
 
 }  // namespace

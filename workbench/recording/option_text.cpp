@@ -17,7 +17,8 @@ std::optional<Number> wholeTextAs(const std::string& text) {
 }
 
 std::optional<double> read(const NumberItem& item, const std::string& text) {
-    const auto value = wholeTextAs<double>(text);
+    const bool hasPlus = text.size() > 1 && text[0] == '+' && text[1] != '-';
+    const auto value = wholeTextAs<double>(text.substr(hasPlus ? 1 : 0));
     return value && std::isfinite(*value) && isAllowed(item, *value) ? value : std::nullopt;
 }
 
