@@ -4,6 +4,7 @@
 #include "workbench/export/plane_picture.h"
 #include "workbench/export/plane_report.h"
 #include "workbench/paint/painting_studio.h"
+#include "workbench/window/usable.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -115,7 +116,7 @@ void OutActions::attempt(Deed deed) {
 
 void OutActions::refresh() {
     for (QAction* action : actions())
-        action->setEnabled(!bench_.planes().empty());
+        setUsable(*action, !bench_.planes().empty(), tr("nothing is open"));
 }
 
 std::shared_ptr<Plane> OutActions::current() const {

@@ -1,6 +1,7 @@
 #include "workbench/window/docks/channel_tree.h"
 
 #include "workbench/analysis/harmonics.h"
+#include "workbench/window/usable.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -163,10 +164,10 @@ QAction* ChannelTree::action(const QString& text, const QKeySequence& key,
 
 void ChannelTree::makeActions() {
     auto* bar = new QHBoxLayout;
-    QAction* const adding[] = {
-        action(tr("Add &orders..."), Qt::Key_Insert, &ChannelTree::askOrders),
-        action(tr("Add a &reference..."), Qt::CTRL | Qt::Key_Insert, &ChannelTree::askReference)};
-    for (QAction* one : adding) {
+    orders_ = action(tr("Add &orders..."), Qt::Key_Insert, &ChannelTree::askOrders);
+    reference_ =
+        action(tr("Add a &reference..."), Qt::CTRL | Qt::Key_Insert, &ChannelTree::askReference);
+    for (QAction* one : {orders_, reference_}) {
         auto* button = new QToolButton;
         button->setDefaultAction(one);
         button->setToolButtonStyle(Qt::ToolButtonTextOnly);
@@ -174,11 +175,28 @@ void ChannelTree::makeActions() {
     }
     bar->addStretch();
     static_cast<QVBoxLayout*>(layout())->addLayout(bar);
-    action(tr("&Show this alone"), Qt::CTRL | Qt::Key_Space, &ChannelTree::showOnlySelected);
-    action(tr("Re&move"), Qt::Key_Delete, &ChannelTree::removeSelected);
+    alone_ =
+        action(tr("&Show this alone"), Qt::CTRL | Qt::Key_Space, &ChannelTree::showOnlySelected);
+    remove_ = action(tr("Re&move"), Qt::Key_Delete, &ChannelTree::removeSelected);
     rest_ = action(tr("Rests at the &bottom of the clearance"), Qt::CTRL | Qt::Key_B,
                    &ChannelTree::toggleRest);
     rest_->setCheckable(true);
+    enableActions();
+}
+
+void ChannelTree::enableActions() {
+    const auto plane = selectedPlane();
+    const CurveRequest* curve = selectedCurve();
+    const QString nothing = tr("nothing is open");
+    const QString noCurve = plane ? tr("no curve is selected") : nothing;
+    const QString whyNoOrders = plane ? obstacle(planes_[*plane], CurveKind::Harmonic) : nothing;
+    setUsable(*orders_, whyNoOrders.isEmpty(), whyNoOrders);
+    setUsable(*reference_, plane.has_value(), nothing);
+    setUsable(*alone_, curve != nullptr, noCurve);
+    const bool isThere = curve && (!isUsual(*curve) || shownCurve(planes_[*plane], *curve));
+    setUsable(*remove_, isThere, curve ? tr("it is not shown") : noCurve);
+    setUsable(*rest_, curve != nullptr && curve->kind == CurveKind::ShaftCenter,
+              plane ? tr("the shaft centre is not selected") : nothing);
 }
 
 void ChannelTree::setPlanes(std::vector<TreePlane> planes) {
@@ -289,8 +307,7 @@ void ChannelTree::selectPlane(std::size_t plane) {
 
 void ChannelTree::selected() {
     const auto plane = selectedPlane();
-    const CurveRequest* curve = selectedCurve();
-    rest_->setEnabled(curve != nullptr && curve->kind == CurveKind::ShaftCenter);
+    enableActions();
     rest_->setChecked(plane && planes_[*plane].rest == RestPosition::BottomOfClearance);
     if (plane && !tree_->signalsBlocked()) planeSelected(*plane);
 }

@@ -85,6 +85,7 @@ private:
     void want(std::size_t plane, const CurveRequest& request, bool shown);
     void toggled(QTreeWidgetItem* item);
     void selected();
+    void enableActions();
     void askOrders();
     void askReference();
     void removeSelected();
@@ -93,6 +94,10 @@ private:
     const CurveRequest* selectedCurve() const;
 
     QTreeWidget* tree_;
+    QAction* orders_ = nullptr;
+    QAction* reference_ = nullptr;
+    QAction* alone_ = nullptr;
+    QAction* remove_ = nullptr;
     QAction* rest_ = nullptr;
     std::vector<TreePlane> planes_;
     std::vector<Curves> offered_;  ///< by plane: the rows of its curves

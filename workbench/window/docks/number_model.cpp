@@ -29,8 +29,6 @@ QVariant NumberModel::data(const QModelIndex& index, int role) const {
     const bool whole = isWholeOrbit(index.row(), index.column());
     if (role == Qt::DisplayRole) return row.cells[static_cast<std::size_t>(index.column())];
     if (role == Qt::ToolTipRole) return row.help;
-    // Two columns wide, it has no say in the width of one.
-    if (role == Qt::SizeHintRole && whole) return QSize(1, 1);
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignVCenter | (whole ? Qt::AlignHCenter : Qt::AlignRight));
     return {};
@@ -43,6 +41,7 @@ QVariant NumberModel::headerData(int section, Qt::Orientation orientation, int r
         return role == Qt::ToolTipRole ? QVariant(sheet_.rows[place].help) : QVariant();
     }
     const NumberColumn& column = sheet_.columns[place];
+    if (role == Qt::ToolTipRole) return column.plane + ", " + column.probe;
     return role == Qt::DisplayRole ? QVariant(column.plane + '\n' + column.probe) : QVariant();
 }
 

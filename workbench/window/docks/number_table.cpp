@@ -1,5 +1,8 @@
 #include "workbench/window/docks/number_table.h"
 
+#include "workbench/window/docks/number_header.h"
+#include "workbench/window/usable.h"
+
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -43,7 +46,7 @@ QWidget* warningBar(QLabel& text, QPushButton& button) {
     return bar;
 }
 
-QTableView* tableOf(QAbstractItemModel& model) {
+QTableView* tableOf(NumberModel& model) {
     auto* view = new QTableView;
     view->setObjectName("Numbers");
     view->setModel(&model);
@@ -52,8 +55,9 @@ QTableView* tableOf(QAbstractItemModel& model) {
     view->setTabKeyNavigation(false);
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + RowRoom);
-    view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    view->horizontalHeader()->setMinimumSectionSize(view->fontMetrics().averageCharWidth() * 8);
+    view->setHorizontalHeader(new NumberHeader(model, view));
+    view->setItemDelegate(new NumberDelegate(model, view));
+    view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     view->verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
     return view;
@@ -72,11 +76,13 @@ NumberTable::NumberTable(QWidget* parent)
     notes_->setTextFormat(Qt::PlainText);
     notes_->hide();
 
-    auto* copyAction = new QAction(tr("&Copy the numbers"), view_);
-    copyAction->setShortcut(QKeySequence::Copy);
-    copyAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(copyAction, &QAction::triggered, this, &NumberTable::copy);
-    view_->addAction(copyAction);
+    copyAction_ = new QAction(tr("&Copy the numbers"), view_);
+    copyAction_->setToolTip(tr("Copy the numbers (Ctrl+C)"));
+    setUsable(*copyAction_, false, tr("nothing is open"));
+    copyAction_->setShortcut(QKeySequence::Copy);
+    copyAction_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(copyAction_, &QAction::triggered, this, &NumberTable::copy);
+    view_->addAction(copyAction_);
     view_->setToolTip(tr("Arrows with Shift select, Ctrl+A selects all, Ctrl+C copies"));
 
     auto* rows = new QVBoxLayout(this);
@@ -110,6 +116,7 @@ void NumberTable::take(NumberSheet sheet) {
     }
     model_.setSheet(std::move(sheet));
     joinCells();
+    setUsable(*copyAction_, model_.columnCount() > 0, tr("nothing is open"));
     computed();
 }
 

@@ -9,6 +9,7 @@
 
 #include <vector>
 
+class QAction;
 class QLabel;
 class QPushButton;
 class QTableView;
@@ -56,6 +57,7 @@ private:
 
     NumberModel model_;
     QTableView* view_;
+    QAction* copyAction_;
     QLabel* notes_;
     QWidget* warning_;
     QLabel* warningText_;

@@ -17,9 +17,11 @@ PanelMessages messagesOf(HostKit::DrivenControl& control) {
 }  // namespace
 
 PropertyLink::PropertyLink(Bench& bench, PropertyPanel& panel, QObject* parent)
-    : QObject(parent), bench_(bench), panel_(panel) {
-    connect(&panel, &PropertyPanel::changed, this, [this](const QString& caption) {
-        if (plane_ != nullptr) bench_.noticeSettings(*plane_, caption);
+    : QObject(parent), bench_(bench), panel_(panel), run_([&bench] { return bench.beginRun(); }) {
+    connect(&panel, &PropertyPanel::changed, this, [this](const QWidget* editor) {
+        const QString caption = editor != nullptr ? editor->accessibleName() : QString();
+        const int run = run_.numberFor(editor);
+        if (plane_ != nullptr) bench_.noticeSettings(*plane_, caption, run);
     });
     connect(&panel, &PropertyPanel::failed, &bench, &Bench::report);
     connect(&bench, &Bench::settingsChanged, this, [this](const Plane* plane) {
@@ -30,6 +32,7 @@ PropertyLink::PropertyLink(Bench& bench, PropertyPanel& panel, QObject* parent)
 void PropertyLink::setCurrent(Plane* plane) {
     if (plane == plane_) return;
     plane_ = plane;
+    run_.end();
     if (plane_ == nullptr) return panel_.clear();
     panel_.show(QString::fromStdString(plane_->name()), messagesOf(plane_->control()));
 }

@@ -53,10 +53,9 @@ void PropertyPanel::refresh() {
 
 void PropertyPanel::take(const Host::Ref<Host::IHostPropertyControl>& widget) {
     guard([&] {
-        const QString caption = captionOf(widget);
         messages_.read(widget);
         messages_.fill(Host::Ref<Host::IHostPropertyPanel>::share(panel_.get()));
-        changed(caption);
+        changed(editorOf(widget));
     });
 }
 
@@ -71,9 +70,8 @@ void PropertyPanel::guard(const std::function<void()>& messages) {
     }
 }
 
-QString PropertyPanel::captionOf(const Host::Ref<Host::IHostPropertyControl>& widget) const {
-    const auto* editor = tabs_->findChild<QWidget*>(QString::fromStdWString(widget->GetName()));
-    return editor != nullptr ? editor->accessibleName() : QString();
+const QWidget* PropertyPanel::editorOf(const Host::Ref<Host::IHostPropertyControl>& widget) const {
+    return tabs_->findChild<QWidget*>(QString::fromStdWString(widget->GetName()));
 }
 
 }  // namespace Rotavue::Workbench

@@ -48,9 +48,9 @@ public:
     QSize sizeHint() const override { return {260, 380}; }
 
 Q_SIGNALS:
-    /// The control has taken a change of the widget with that caption, and its settings may be
-    /// others than before.
-    void changed(const QString& caption);
+    /// The control has taken a change of that widget, and its settings may be others than before.
+    /// Its accessible name is its caption; null where the widget is gone.
+    void changed(const QWidget* editor);
 
     /// The control refused a message.
     void failed(const QString& message);
@@ -58,7 +58,7 @@ Q_SIGNALS:
 private:
     void take(const Host::Ref<Host::IHostPropertyControl>& widget);
     void guard(const std::function<void()>& messages);
-    QString captionOf(const Host::Ref<Host::IHostPropertyControl>& widget) const;
+    const QWidget* editorOf(const Host::Ref<Host::IHostPropertyControl>& widget) const;
 
     QLabel* title_;
     QTabWidget* tabs_;

@@ -1,5 +1,7 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
+#include "workbench/window/usable.h"
+
 #include <QFileDialog>
 #include <QKeySequence>
 
@@ -32,7 +34,8 @@ RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch m
     name(waveform, "compensateWaveform");
     take.setText(tr("&Take from the marked stretch"));
     take.setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_U));
-    take.setToolTip(tr("What the probes report in slow roll is run-out: mark whole turns of it"));
+    take.setToolTip(tr("What the probes report in slow roll is run-out: mark whole turns of it") +
+                    " (" + take.shortcut().toString(QKeySequence::NativeText) + ')');
     takeFile.setText(tr("Take from a &recording of slow roll..."));
     none.setText(tr("&Leave run-out in"));
     vector.setText(tr("Compensate 1X and 2X &vectors"));
@@ -63,11 +66,13 @@ void RunOutActions::refresh() {
         if (one->shown().runOut) known_[one] = one->shown().runOut;
     const auto plane = shared(current_());
     const bool known = plane && known_.contains(plane);
-    take.setEnabled(plane && marked_().has_value());
-    takeFile.setEnabled(plane != nullptr);
+    const QString nothing = tr("nothing is open");
+    setUsable(take, plane && marked_().has_value(),
+              plane ? tr("no stretch is marked in the waveforms") : nothing);
+    setUsable(takeFile, plane != nullptr, nothing);
     const auto form = plane ? compensationOf(*plane) : std::nullopt;
     for (QAction* action : {&none, &vector, &waveform})
-        action->setEnabled(known);
+        setUsable(*action, known, tr("no run-out of this plane has been taken"));
     none.setChecked(!form);
     vector.setChecked(form == CompensationForm::Vector);
     waveform.setChecked(form == CompensationForm::Waveform);

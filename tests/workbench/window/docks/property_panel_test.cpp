@@ -34,8 +34,8 @@ protected:
         panel.resize(320, 420);
         panel.show("Bearing 1", control.messages());
         panel.QWidget::show();
-        QObject::connect(&panel, &PropertyPanel::changed, [this](const QString& caption) {
-            changes.push_back({caption, before, control.save()});
+        QObject::connect(&panel, &PropertyPanel::changed, [this](const QWidget* changed) {
+            changes.push_back({changed->accessibleName(), before, control.save()});
             before = changes.back().after;
         });
     }

@@ -1,0 +1,70 @@
+#include "workbench/window/docks/number_header.h"
+
+#include "workbench/window/docks/number_model.h"
+
+#include <QPainter>
+
+namespace Rotavue::Workbench {
+
+namespace {
+
+constexpr int Padding = 5;  ///< on either side of a text
+
+/// The left one of the two columns of a plane.
+int firstOf(int section) {
+    return section - section % 2;
+}
+
+}  // namespace
+
+NumberHeader::NumberHeader(const NumberModel& model, QWidget* parent)
+    : QHeaderView(Qt::Horizontal, parent), model_(model) {
+    setObjectName("NumberHeader");
+    setSectionResizeMode(QHeaderView::ResizeToContents);
+    setMinimumSectionSize(0);
+    setSectionsClickable(true);
+    setHighlightSections(false);
+}
+
+QSize NumberHeader::sectionSizeFromContents(int section) const {
+    const QString& probe = model_.sheet().columns[static_cast<std::size_t>(section)].probe;
+    const QFontMetrics metrics(font());
+    return {metrics.horizontalAdvance(probe) + 2 * Padding, 2 * metrics.height() + Padding};
+}
+
+void NumberHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
+    const NumberColumn& column = model_.sheet().columns[static_cast<std::size_t>(section)];
+    const int half = rect.height() / 2;
+    painter->fillRect(rect, palette().button());
+    painter->setPen(palette().color(QPalette::ButtonText));
+    painter->drawText(rect.adjusted(0, half, 0, 0), Qt::AlignCenter, column.probe);
+    // Each of the two sections paints its part of the name over both.
+    const int first = firstOf(section);
+    const int left = sectionViewportPosition(first);
+    const QRect both(left, rect.top(), sectionSize(first) + sectionSize(first + 1), half);
+    painter->setClipRect(rect, Qt::IntersectClip);
+    const QRect place = both.adjusted(Padding, 0, -Padding, 0);
+    painter->drawText(place, Qt::AlignCenter,
+                      fontMetrics().elidedText(column.plane, Qt::ElideMiddle, place.width()));
+    painter->setPen(palette().color(QPalette::Mid));
+    painter->drawLine(both.topRight(), both.bottomRight() + QPoint(0, half));
+    painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+}
+
+NumberDelegate::NumberDelegate(const NumberModel& model, QObject* parent)
+    : QStyledItemDelegate(parent), model_(model) {}
+
+QSize NumberDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const int first = firstOf(index.column());
+    const QFontMetrics metrics(option.font);
+    const auto widthOf = [&](int column) {
+        const QModelIndex cell = model_.index(index.row(), column);
+        return metrics.horizontalAdvance(model_.data(cell, Qt::DisplayRole).toString());
+    };
+    const int room = 2 * Padding;
+    if (!model_.isWholeOrbit(index.row(), first))
+        return {widthOf(index.column()) + room, metrics.height()};
+    return {(widthOf(first) + room + 1) / 2, metrics.height()};
+}
+
+}  // namespace Rotavue::Workbench
