@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <exception>
 
+#include "workbench/window/usable.h"
+
 namespace Rotavue::Workbench {
 namespace {
 
@@ -44,7 +46,8 @@ FileActions::FileActions(Bench& bench, QMainWindow& window, QMenu& menu, QSettin
       opener_(settings, &window),
       recentMenu_(new QMenu(tr("Open &recent"), &menu)),
       messages_(new MessageBar(&window)),
-      loading_(new LoadingBar(opener_.loader(), &window)) {
+      loading_(new LoadingBar(opener_.loader(), &window)),
+      offers_(new OfferBar(&window)) {
     setObjectName(QStringLiteral("files"));
     makeMenu(menu);
     window.setAcceptDrops(true);
@@ -52,6 +55,9 @@ FileActions::FileActions(Bench& bench, QMainWindow& window, QMenu& menu, QSettin
     connect(&opener_, &RecordingOpener::failed, this, &FileActions::tell);
     connect(&bench, &Bench::troubled, this, &FileActions::tell);
     connect(&bench.undoStack(), &QUndoStack::indexChanged, this, [this] { ++changes_; });
+    connect(&bench, &Bench::planesChanged, this, &FileActions::enableActions);
+    connect(this, &FileActions::viewFileChanged, this, &FileActions::enableActions);
+    enableActions();
     connect(&loader(), &RecordingLoader::loaded, this, &FileActions::takeLoaded);
     connect(&loader(), &RecordingLoader::failed, this,
             [this](const LoadRequest& request) { dropPendingView(request); });
@@ -70,10 +76,18 @@ void FileActions::makeMenu(QMenu& menu) {
                                          &FileActions::askForFiles));
     menu.insertMenu(before, recentMenu_);
     menu.insertSeparator(before);
-    menu.insertAction(before, makeAction(QStringLiteral("saveView"), tr("&Save view"),
-                                         QKeySequence::Save, &FileActions::save));
-    menu.insertAction(before, makeAction(QStringLiteral("saveViewAs"), tr("Save view &as..."),
-                                         QKeySequence::SaveAs, &FileActions::saveAs));
+    saving_ = {makeAction(QStringLiteral("saveView"), tr("&Save view"), QKeySequence::Save,
+                          &FileActions::save),
+               makeAction(QStringLiteral("saveViewAs"), tr("Save view &as..."),
+                          QKeySequence::SaveAs, &FileActions::saveAs)};
+    for (QAction* action : saving_)
+        menu.insertAction(before, action);
+}
+
+void FileActions::enableActions() {
+    const bool any = !bench_.planes().empty() || !viewFile_.isEmpty();
+    for (QAction* action : saving_)
+        setUsable(*action, any, tr("nothing is open"));
 }
 
 QAction* FileActions::makeAction(const QString& name, const QString& text, const QKeySequence& key,
@@ -81,6 +95,8 @@ QAction* FileActions::makeAction(const QString& name, const QString& text, const
     auto* action = new QAction(text, this);
     action->setObjectName(name);
     action->setShortcut(key);
+    action->setToolTip(QString(text).remove(u'&') + " (" +
+                       action->shortcut().toString(QKeySequence::NativeText) + ')');
     connect(action, &QAction::triggered, this, slot);
     return action;
 }
@@ -139,13 +155,17 @@ void FileActions::open(const QStringList& files, const RecordingOptions& options
 void FileActions::openView(const QString& file) {
     if (pending_) return tell(tr("%1: another view is being opened").arg(file));
     try {
-        PendingView pending{file, readView(pathOf(file)), {}};
+        PendingView pending{.file = file, .view = readView(pathOf(file)), .planes = {}};
         if (!mayLoseChanges()) return;
         pending_ = std::move(pending);
         pending_->changes = changes_;
     } catch (const std::exception& error) {
         return tell(QString::fromUtf8(error.what()));
     }
+    loadPending();
+}
+
+void FileActions::loadPending() {
     const std::vector<ViewPlane> planes = pending_->view.planes;
     if (planes.empty()) return showPendingView();
     for (std::size_t i = 0; i < planes.size(); ++i)
@@ -163,8 +183,10 @@ void FileActions::takeLoaded(const LoadRequest& request,
 // Without one of its recordings a view is not shown, and what was shown stays.
 void FileActions::dropPendingView(const LoadRequest& request) {
     if (!request.isOfView || !pending_) return;
+    const bool isUnsaved = pending_->isUnsaved;
     pending_.reset();
     loader().cancelWaitingOfView();
+    if (isUnsaved) endUnsaved(false);
 }
 
 // A view is long in coming: its user may have gone on with what is shown. The question waits until
@@ -179,9 +201,54 @@ void FileActions::showPendingView() {
     try {
         showView(bench_, pending.view, pending.planes);
     } catch (const std::exception& error) {
-        return tell(QString::fromUtf8(error.what()));
+        tell(QString::fromUtf8(error.what()));
+        if (pending.isUnsaved) endUnsaved(false);
+        return;
     }
-    setViewFile(pending.file);
+    if (!pending.isUnsaved) return setViewFile(pending.file);
+    bench_.undoStack().resetClean();
+    endUnsaved(pending.isComplete);
+}
+
+void FileActions::startAutosave(const QString& folder) {
+    autosave_ = new Autosave(
+        bench_, *offers_, folder, [this] { return viewOf(bench_); }, this);
+    connect(autosave_, &Autosave::wanted, this, &FileActions::openUnsaved);
+    connect(autosave_, &Autosave::failed, this, &FileActions::tell);
+}
+
+void FileActions::openUnsaved(const QString& file) {
+    try {
+        PendingView pending{
+            .file = file, .view = readView(pathOf(file)), .planes = {}, .isUnsaved = true};
+        if (pending_ || !mayLoseChanges()) return endUnsaved(false);
+        pending.isComplete = leaveOutGone(pending.view);
+        if (pending.view.planes.empty()) return endUnsaved(pending.isComplete);
+        pending_ = std::move(pending);
+        pending_->changes = changes_;
+    } catch (const std::exception& error) {
+        tell(QString::fromUtf8(error.what()));
+        return endUnsaved(false);
+    }
+    loadPending();
+}
+
+/// Takes planes out whose recording is gone, and tells of each. True where none is.
+bool FileActions::leaveOutGone(View& view) {
+    const auto isGone = [this](const ViewPlane& plane) {
+        std::error_code fault;
+        if (std::filesystem::exists(plane.recording, fault)) return false;
+        tell(tr("%1: found no such file, its plane is not restored").arg(textOf(plane.recording)));
+        return true;
+    };
+    return std::erase_if(view.planes, isGone) == 0;
+}
+
+// Half a view is kept for the next start: a disk may come back.
+void FileActions::endUnsaved(bool restored) {
+    if (autosave_ == nullptr) return;
+    if (restored) return autosave_->restored();
+    autosave_->notRestored();
 }
 
 void FileActions::askForPendingView() {
@@ -189,7 +256,9 @@ void FileActions::askForPendingView() {
     pending_->changes = changes_;
     const bool isWanted = mayLoseChanges();
     if (isWanted) return showPendingView();
+    const bool isUnsaved = pending_->isUnsaved;
     pending_.reset();
+    if (isUnsaved) endUnsaved(false);
 }
 
 // To have opened a recording is nothing that could be lost.
@@ -239,6 +308,7 @@ bool FileActions::saveTo(const QString& file) {
     }
     setViewFile(file);
     bench_.undoStack().setClean();
+    if (autosave_ != nullptr) autosave_->forget();
     return true;
 }
 

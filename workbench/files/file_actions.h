@@ -11,8 +11,10 @@
 #include <vector>
 
 #include "workbench/bench/bench.h"
+#include "workbench/files/autosave.h"
 #include "workbench/files/loading_bar.h"
 #include "workbench/files/message_bar.h"
+#include "workbench/files/offer_bar.h"
 #include "workbench/files/recent_files.h"
 #include "workbench/files/recording_opener.h"
 #include "workbench/files/view_keeper.h"
@@ -37,6 +39,12 @@ public:
     /// To be put into the window, where there is room for them.
     MessageBar& messages() { return *messages_; }
     LoadingBar& loading() { return *loading_; }
+    OfferBar& offers() { return *offers_; }
+
+    /// From now on what is not saved is kept in that folder, and what a crash has left there is
+    /// offered. To be called once, when all that makes a view is there.
+    void startAutosave(const QString& folder);
+    Autosave* autosave() const { return autosave_; }
 
     /// Opens recordings, and the last view among the files.
     void open(const QStringList& files, const RecordingOptions& options = {});
@@ -76,7 +84,12 @@ private:
     void saveAs();
     bool saveOrAsk();
 
+    void enableActions();
     void openView(const QString& file);
+    void openUnsaved(const QString& file);
+    bool leaveOutGone(View& view);
+    void loadPending();
+    void endUnsaved(bool restored);
     void takeLoaded(const LoadRequest& request, const std::shared_ptr<const PlaneSource>& source);
     void dropPendingView(const LoadRequest& request);
     void showPendingView();
@@ -89,7 +102,9 @@ private:
         QString file;
         View view;
         std::vector<std::shared_ptr<const PlaneSource>> planes;
-        int changes = 0;  ///< that its user may lose
+        int changes = 0;         ///< that its user may lose
+        bool isUnsaved = false;  ///< a crash left it behind
+        bool isComplete = true;  ///< with all of its recordings
     };
 
     Bench& bench_;
@@ -104,6 +119,9 @@ private:
     QMenu* recentMenu_;
     MessageBar* messages_;
     LoadingBar* loading_;
+    OfferBar* offers_;
+    Autosave* autosave_ = nullptr;
+    QList<QAction*> saving_;
 };
 
 }  // namespace Rotavue::Workbench

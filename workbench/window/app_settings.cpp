@@ -16,4 +16,8 @@ std::unique_ptr<QSettings> appSettings() {
                                        "rotavue");
 }
 
+QString unsavedFolder() {
+    return QFileInfo(appSettings()->fileName()).path() + "/unsaved";
+}
+
 }  // namespace Rotavue::Workbench

@@ -10,4 +10,7 @@ namespace Rotavue::Workbench {
 /// or in `rotavue.ini` beside the program where that file is there.
 std::unique_ptr<QSettings> appSettings();
 
+/// Where windows keep what they have not saved: "unsaved" beside the settings.
+QString unsavedFolder();
+
 }  // namespace Rotavue::Workbench

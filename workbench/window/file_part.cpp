@@ -12,6 +12,7 @@ void addFiles(MainWindow& window) {
     auto* files = new FileActions(window.bench(), window, window.fileMenu(), *settings);
     window.addBar(files->loading());
     window.addBar(files->messages());
+    window.addBar(files->offers());
     window.addCloseCheck([files] { return files->mayLoseChanges(); });
     QObject::connect(files, &FileActions::viewFileChanged, &window, &MainWindow::setViewName);
 }

@@ -77,6 +77,7 @@ int runWindow(const WindowOrder& order) {
     if (order.width > 0) window.resize(order.width, order.height);
     window.show();
     if (!order.screenshot) {
+        filesOf(window).startAutosave(unsavedFolder());
         open(window, order);
         return QApplication::exec();
     }
