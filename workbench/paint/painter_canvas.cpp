@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QPolygonF>
+#include <QTransform>
 
 #include <algorithm>
 
@@ -122,6 +123,16 @@ void PainterCanvas::drawText(const QString& text, QPointF corner) {
                   .color = font_.color(),
                   .ground = brush_.fill(),
                   .form = options_.text});
+    if (options_.painted) {
+        options_.painted({text, middleOfText(text, corner), brush_.fill().has_value()});
+    }
+}
+
+// From its corner a text runs along its angle, and its lines stand across that.
+QPointF PainterCanvas::middleOfText(const QString& text, QPointF corner) {
+    QTransform turn;
+    turn.rotate(-0.1 * font_.tenths());
+    return corner + turn.map(0.5 * QPointF(font_.face().width(text), font_.face().lineHeight()));
 }
 
 void PainterCanvas::TextOut(std::int32_t x, std::int32_t y, const std::wstring& text) {

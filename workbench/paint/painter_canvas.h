@@ -9,17 +9,27 @@
 #include <QPointF>
 #include <QRectF>
 #include <QSize>
+#include <QString>
 
 #include <cstdint>
+#include <functional>
 
 class QPainter;
 
 namespace Rotavue::Workbench {
 
+/// A text that was painted, and where.
+struct PaintedText {
+    QString text;
+    QPointF middle;  ///< in the painter's coordinates
+    bool onGround;   ///< on a filled ground
+};
+
 struct CanvasOptions {
     std::int32_t fontHeight = 14;  ///< what the font's height is at first, in pixels
     LineQuality lines = LineQuality::Smooth;
     TextForm text = TextForm::Letters;
+    std::function<void(const PaintedText&)> painted = {};  ///< told of each text
 };
 
 /// The host's canvas on a Qt painter: an area of `size` pixels with its own (0, 0), which is where
@@ -57,6 +67,7 @@ private:
 
     void strokeLines();
     void drawText(const QString& text, QPointF corner);
+    QPointF middleOfText(const QString& text, QPointF corner);
     QPointF middleOf(std::int32_t x, std::int32_t y) const;
     QRectF boxOf(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) const;
 

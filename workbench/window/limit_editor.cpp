@@ -22,6 +22,7 @@ constexpr int LeastCharacters = 8;
 LimitEditor::LimitEditor(QWidget& below) : QLineEdit(&below), below_(below) {
     setObjectName("limitEditor");
     setAccessibleName(tr("Limit of the axis"));
+    setToolTip(tr("Return accepts, Escape does not; Tab and Shift+Tab go to the next limit"));
     setValidator(new QRegularExpressionValidator(Number, this));
     setAlignment(Qt::AlignCenter);
     hide();
@@ -42,6 +43,7 @@ void LimitEditor::placeAt(QPoint place, const QString& text) {
 
 HostKit::EditAnswer LimitEditor::edit(QPoint place, const QString& text) {
     cancel();
+    way_ = Way::Nowhere;
     setText(text);
     placeAt(place, text);
     selectAll();
@@ -53,7 +55,7 @@ HostKit::EditAnswer LimitEditor::edit(QPoint place, const QString& text) {
     const bool hadFocus = hasFocus();
     hide();
     if (hadFocus) below_.setFocus(Qt::PopupFocusReason);
-    return {.accepted = result == Accepted, .text = this->text().toStdWString()};
+    return {.accepted = result == Accepted && isModified(), .text = this->text().toStdWString()};
 }
 
 void LimitEditor::cancel() {
@@ -63,6 +65,14 @@ void LimitEditor::cancel() {
 void LimitEditor::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) return cancel();
     QLineEdit::keyPressEvent(event);
+}
+
+// An open number, "-" say, stays where it is, as it does with Return.
+bool LimitEditor::focusNextPrevChild(bool next) {
+    if (!loop_.isRunning() || !hasAcceptableInput()) return true;
+    way_ = next ? Way::Next : Way::Previous;
+    loop_.exit(Accepted);
+    return true;
 }
 
 void LimitEditor::focusOutEvent(QFocusEvent* event) {

@@ -6,10 +6,14 @@
 #include <QLineEdit>
 #include <QPoint>
 
+#include <utility>
+
 namespace Rotavue::Workbench {
 
 /// A line edit that lies over a text of a control while the user changes it. Return accepts,
-/// Escape and a click elsewhere do not; afterwards the widget below has the focus again.
+/// Escape and a click elsewhere do not; Tab and Shift+Tab accept and ask for a neighbour. A text
+/// that nobody has touched counts as not accepted: it is shorter than the number that it stands
+/// for. Afterwards the widget below has the focus again.
 class LimitEditor : public QLineEdit {
     Q_OBJECT
 
@@ -25,12 +29,18 @@ public:
 
     bool isEditing() const { return loop_.isRunning(); }
 
+    enum class Way { Nowhere, Next, Previous };
+
+    /// Where the user wanted to go from the last text; after that, nowhere.
+    Way takeWay() { return std::exchange(way_, Way::Nowhere); }
+
     /// Ends the editing as Escape does.
     void cancel();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     enum Result { Cancelled, Accepted };
@@ -39,6 +49,7 @@ private:
 
     QWidget& below_;
     QEventLoop loop_;
+    Way way_ = Way::Nowhere;
 };
 
 }  // namespace Rotavue::Workbench

@@ -2,6 +2,7 @@
 
 #include "workbench/window/about_box.h"
 #include "workbench/window/app_settings.h"
+#include "workbench/window/usable.h"
 #include "workbench/window/window_parts.h"
 
 #include <QActionGroup>
@@ -35,7 +36,8 @@ MainWindow::MainWindow(std::shared_ptr<HostKit::Module> module)
     : bench_(std::move(module)),
       tiles_(bench_),
       transport_(bench_, tiles_),
-      facts_(bench_, tiles_, *statusBar()) {
+      facts_(bench_, tiles_, *statusBar()),
+      scaleLock_(bench_) {
     setObjectName("mainWindow");
     qApp->installEventFilter(&plainKeys_);
     setDockNestingEnabled(true);
@@ -51,6 +53,8 @@ MainWindow::MainWindow(std::shared_ptr<HostKit::Module> module)
     sizeDocks();
     firstLayout_ = saveState(LayoutVersion);
     connect(&bench_, &Bench::planesChanged, this, &MainWindow::showTitle);
+    connect(&bench_, &Bench::planesChanged, this, &MainWindow::enableActions);
+    enableActions();
     connect(&bench_.undoStack(), &QUndoStack::cleanChanged, this, &MainWindow::showTitle);
     setTheme(themeNamed(appSettings()->value(ThemeKey).toString()));
     showTitle();
@@ -93,6 +97,8 @@ void MainWindow::makeMenus() {
     viewMenu_ = menuBar()->addMenu(tr("&View"));
     timeMenu_ = menuBar()->addMenu(tr("&Time"));
     helpMenu_ = menuBar()->addMenu(tr("&Help"));
+    for (QMenu* menu : {fileMenu_, editMenu_, viewMenu_, timeMenu_, helpMenu_})
+        menu->setToolTipsVisible(true);
     QAction* undo = bench_.undoStack().createUndoAction(this);
     undo->setShortcut(QKeySequence::Undo);
     QAction* redo = bench_.undoStack().createRedoAction(this);
@@ -107,11 +113,7 @@ void MainWindow::makeViewMenu() {
               [this] { tiles_.step(1); });
     addAction(*viewMenu_, "previousPlane", tr("&Previous plane"),
               Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { tiles_.step(-1); });
-    addAction(*viewMenu_, "equalAxes", tr("One scale for both &axes"), Qt::CTRL | Qt::Key_E,
-              [this] { facts_.makeEqual(); });
-    addAction(*viewMenu_, "notes", tr("N&otes of the plane"), Qt::CTRL | Qt::Key_I, [this] {
-        if (OrbitTile* tile = tiles_.tileOf(currentPlane())) tile->toggleNotes();
-    });
+    addPlotActions();
     makeThemeMenu();
     viewMenu_->addSeparator();
     for (QDockWidget* dock : findChildren<QDockWidget*>())
@@ -121,6 +123,34 @@ void MainWindow::makeViewMenu() {
     addAction(*fileMenu_, "closePlane", tr("&Close plane"), QKeySequence::Close,
               [this] { closeCurrent(); });
     addAction(*fileMenu_, "quit", tr("&Quit"), QKeySequence::Quit, [this] { close(); });
+}
+
+void MainWindow::addPlotActions() {
+    addAction(*viewMenu_, "equalAxes", tr("One scale for both &axes"), Qt::CTRL | Qt::Key_E,
+              [this] { facts_.makeEqual(); });
+    addAction(*viewMenu_, "editLimits", tr("Edit the &limits"), Qt::Key_F2, [this] {
+        if (OrbitView* view = tiles_.viewOf(currentPlane())) view->editLimits();
+    });
+    QAction& lock = addAction(*viewMenu_, "lockScale", tr("Lock one scale over all &planes"),
+                              Qt::CTRL | Qt::Key_L, [] {});
+    lock.setCheckable(true);
+    connect(&lock, &QAction::triggered, this, &MainWindow::lockScale);
+    connect(&scaleLock_, &ScaleLock::changed, this, [this, &lock](bool on) {
+        lock.setChecked(on);
+        enableActions();
+    });
+    connect(&scaleLock_, &ScaleLock::released, this, [this] {
+        statusBar()->showMessage(tr("The scale is automatic again, each plane has its own."));
+    });
+    addAction(*viewMenu_, "notes", tr("N&otes of the plane"), Qt::CTRL | Qt::Key_I, [this] {
+        if (OrbitTile* tile = tiles_.tileOf(currentPlane())) tile->toggleNotes();
+    });
+}
+
+void MainWindow::lockScale(bool on) {
+    Plane* const plane = currentPlane();
+    if (on && plane != nullptr) return scaleLock_.turnOn(*plane);
+    scaleLock_.turnOff();
 }
 
 void MainWindow::makeThemeMenu() {
@@ -163,7 +193,7 @@ QDockWidget& MainWindow::addDock(const QString& name, const QString& title, Qt::
 // The orbits have most of the room.
 void MainWindow::sizeDocks() {
     constexpr int LeftWidth = 270;
-    constexpr int RightWidth = 290;
+    constexpr int RightWidth = 336;  // the numbers of two planes
     constexpr int BottomHeight = 170;
     for (QDockWidget* dock : findChildren<QDockWidget*>()) {
         const Qt::DockWidgetArea area = dockWidgetArea(dock);
@@ -223,6 +253,19 @@ void MainWindow::showTitle() {
     if (!viewName_.isEmpty()) names = {viewName_};
     setWindowTitle("[*]" + (names.isEmpty() ? QString() : names.join(", ") + " - ") + "Rotavue");
     setWindowModified(!bench_.undoStack().isClean());
+}
+
+void MainWindow::enableActions() {
+    const std::size_t planes = bench_.planes().size();
+    const auto need = [&](const char* name, std::size_t least, const QString& why) {
+        if (auto* action = findChild<QAction*>(name)) setUsable(*action, planes >= least, why);
+    };
+    for (const char* name : {"equalAxes", "editLimits", "notes", "closePlane", "play", "start",
+                             "back", "forward", "end", "backMany", "forwardMany"})
+        need(name, 1, tr("nothing is open"));
+    for (const char* name : {"nextPlane", "previousPlane"})
+        need(name, 2, tr("there are no two planes"));
+    need("lockScale", scaleLock_.isOn() ? 0 : 2, tr("there are no two planes"));
 }
 
 void MainWindow::closeCurrent() {

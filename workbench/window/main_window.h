@@ -4,6 +4,7 @@
 #include "workbench/window/docks/marked_stretch.h"
 #include "workbench/window/orbit_tiles.h"
 #include "workbench/window/plain_keys.h"
+#include "workbench/window/scale_lock.h"
 #include "workbench/window/status_facts.h"
 #include "workbench/window/theme.h"
 #include "workbench/window/transport.h"
@@ -82,12 +83,15 @@ protected:
 private:
     void makeMenus();
     void makeViewMenu();
+    void addPlotActions();
     void makeThemeMenu();
     void makeHelpMenu();
     void makeCentre();
     void sizeDocks();
     void makeToolTips();
     void showTitle();
+    void enableActions();
+    void lockScale(bool on);
     void closeCurrent();
     void showAbout();
 
@@ -96,6 +100,7 @@ private:
     OrbitTiles tiles_;
     Transport transport_;
     StatusFacts facts_;
+    ScaleLock scaleLock_;
     PlainKeys plainKeys_;
     QMenu* fileMenu_ = nullptr;
     QMenu* editMenu_ = nullptr;

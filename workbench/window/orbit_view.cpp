@@ -1,17 +1,21 @@
 #include "workbench/window/orbit_view.h"
 
 #include "plugin/framework/color_scheme.h"
+#include "workbench/bench/axis_limits.h"
 #include "workbench/paint/host_color.h"
 #include "workbench/paint/painter_canvas.h"
 #include "workbench/paint/painting_studio.h"
 
+#include <QCursor>
 #include <QEnterEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -32,6 +36,13 @@ std::int32_t numberOf(Qt::MouseButton button) {
 
 QPoint placeOf(const QSinglePointEvent& event) {
     return event.position().toPoint();
+}
+
+/// Numbers on a ground of their own: that is how a control shows what can be clicked.
+bool isLimit(const PaintedText& painted) {
+    bool isNumber = false;
+    if (painted.onGround) QLocale::c().toDouble(painted.text, &isNumber);
+    return isNumber;
 }
 
 }  // namespace
@@ -78,9 +89,14 @@ void OrbitView::paintEvent(QPaintEvent*) {
     const auto& colors = Meridax::VisualControls::Api::schemeOf(bench_.scheme());
     QPainter painter(this);
     painter.fillRect(rect(), fromHostColor(colors.background));
+    limitPlaces_.clear();
+    const auto keepLimit = [this](const PaintedText& painted) {
+        if (isLimit(painted)) limitPlaces_.push_back(painted.middle.toPoint());
+    };
     send([&](HostKit::DrivenControl& control) {
-        PainterCanvas canvas(painter, size(),
-                             {.fontHeight = suitableTextHeight(width(), height())});
+        PainterCanvas canvas(
+            painter, size(),
+            {.fontHeight = suitableTextHeight(width(), height()), .painted = keepLimit});
         control.draw(Meridax::Host::Ref<Meridax::Host::IHostCanvas>::share(&canvas), width(),
                      height(), bench_.scheme());
     });
@@ -119,10 +135,90 @@ void OrbitView::mouseReleaseEvent(QMouseEvent* event) {
     const QPointer<OrbitView> alive(this);
     const QPoint place = placeOf(*event);
     const std::int32_t button = numberOf(event->button());
+    const std::size_t limit = nearestLimit(place);
     send([&](HostKit::DrivenControl& control) {
         control.releaseButton(button, place.x(), place.y());
     });
-    if (alive) bench_.noticeSettings(*plane_, tr("limits"));
+    if (!alive) return;
+    const int run = bench_.beginRun();
+    bench_.noticeSettings(*plane_, tr("limits"), run);
+    walkFrom(limit, run);
+}
+
+std::size_t OrbitView::nearestLimit(QPoint place) const {
+    const auto nearer = [place](QPoint a, QPoint b) {
+        return (a - place).manhattanLength() < (b - place).manhattanLength();
+    };
+    const auto nearest = std::min_element(limitPlaces_.begin(), limitPlaces_.end(), nearer);
+    return static_cast<std::size_t>(nearest - limitPlaces_.begin());
+}
+
+void OrbitView::editLimits() {
+    if (editor_.isEditing()) return;
+    const QPointer<OrbitView> alive(this);
+    const int run = bench_.beginRun();
+    setFocus(Qt::ShortcutFocusReason);
+    const Settings original = plane_->settings();
+    const bool fixed = fixScale(run);
+    const Settings before = plane_->settings();
+    editLimit(0, run);
+    if (alive) walkFrom(0, run);
+    if (!alive || !bench_.has(*plane_)) return;
+    returnPointer();
+    if (fixed && plane_->settings() == before) {
+        bench_.setSettings(*plane_, original, tr("limits"), run);
+    }
+}
+
+/// A control lets its limits be edited while they are manual. True where they were not.
+bool OrbitView::fixScale(int run) {
+    AxisLimits limits = axisLimits(*plane_);
+    if (std::exchange(limits.manual, true)) return false;
+    bench_.setSettings(*plane_, withLimits(*plane_, limits), tr("limits"), run);
+    return true;
+}
+
+/// Edits one limit after the other for as long as the user goes on from the last one.
+void OrbitView::walkFrom(std::size_t limit, int run) {
+    const QPointer<OrbitView> alive(this);
+    bool walked = false;
+    while (alive) {
+        const LimitEditor::Way way = editor_.takeWay();
+        if (way == LimitEditor::Way::Nowhere) break;
+        const std::size_t count = std::max<std::size_t>(1, limitPlaces_.size());
+        limit = (limit + (way == LimitEditor::Way::Next ? 1 : count - 1)) % count;
+        editLimit(limit, run);
+        walked = true;
+    }
+    if (alive && walked) returnPointer();
+}
+
+// The numbers of a frame stand elsewhere once a limit has changed.
+void OrbitView::editLimit(std::size_t limit, int run) {
+    const QPointer<OrbitView> alive(this);
+    repaint();
+    if (limit >= limitPlaces_.size()) return;
+    click(limitPlaces_[limit]);
+    if (alive) bench_.noticeSettings(*plane_, tr("limits"), run);
+}
+
+void OrbitView::click(QPoint place) {
+    send([place](HostKit::DrivenControl& control) {
+        control.movePointer(place.x(), place.y());
+        control.pressButton(0, place.x(), place.y());
+        control.releaseButton(0, place.x(), place.y());
+    });
+}
+
+/// The control's pointer goes back to where the display's is; out of the way if that is elsewhere.
+void OrbitView::returnPointer() {
+    const QPoint place = underMouse() ? mapFromGlobal(QCursor::pos()) : QPoint(-1, -1);
+    const bool inside = underMouse();
+    send([place, inside](HostKit::DrivenControl& control) {
+        control.movePointer(place.x(), place.y());
+        if (!inside) control.leavePointer();
+    });
+    update();
 }
 
 void OrbitView::wheelEvent(QWheelEvent* event) {

@@ -4,9 +4,11 @@
 #include "workbench/bench/bench.h"
 #include "workbench/window/limit_editor.h"
 
+#include <QPoint>
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
 namespace Rotavue::Workbench {
 
@@ -26,6 +28,11 @@ public:
 
     /// The editor that lies over a limit while it is changed.
     LimitEditor& editor() { return editor_; }
+
+    /// Lets the user edit the limits without a pointer: the first one, and from there on whichever
+    /// Tab and Shift+Tab lead to. Returns when the user is done. An automatic scale becomes manual
+    /// with the first limit that is accepted. All of it is one step of undo.
+    void editLimits();
 
     QSize minimumSizeHint() const override { return {220, 220}; }
     QSize sizeHint() const override { return {520, 480}; }
@@ -59,10 +66,18 @@ private:
     template <class Message>
     void send(Message message);
 
+    bool fixScale(int run);
+    void editLimit(std::size_t limit, int run);
+    void walkFrom(std::size_t limit, int run);
+    std::size_t nearestLimit(QPoint place) const;
+    void click(QPoint place);
+    void returnPointer();
+
     Bench& bench_;
     std::shared_ptr<Plane> plane_;
     LimitEditor editor_;
     QString lastFailure_;
+    std::vector<QPoint> limitPlaces_;  ///< where the last frame has its limits
 };
 
 }  // namespace Rotavue::Workbench

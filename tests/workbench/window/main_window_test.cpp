@@ -13,19 +13,7 @@
 namespace Rotavue::Workbench {
 namespace {
 
-class MainWindowTest : public WindowTest {
-protected:
-    QAction& action(const char* name) {
-        auto* found = window_.findChild<QAction*>(name);
-        EXPECT_NE(found, nullptr) << name;
-        return *found;
-    }
-
-    void press(Qt::Key key) {
-        QTest::keyClick(QApplication::focusWidget(), key);
-        settle();
-    }
-};
+using MainWindowTest = WindowTest;
 
 TEST_F(MainWindowTest, ATileForEachPlane) {
     open(rotor("Bearing 1"));

@@ -15,12 +15,6 @@ namespace {
 
 class OutPartTest : public WindowTest {
 protected:
-    QAction& action(const char* name) {
-        auto* found = window_.findChild<QAction*>(name);
-        EXPECT_NE(found, nullptr) << name;
-        return *found;
-    }
-
     bool saysOverTheOrbit(const QString& words) {
         settle();
         const auto labels = window_.tiles().findChildren<QLabel*>("facts");

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QImage>
 #include <QTest>
@@ -68,6 +69,18 @@ protected:
     }
 
     Bench& bench() { return window_.bench(); }
+
+    QAction& action(const char* name) {
+        auto* found = window_.findChild<QAction*>(name);
+        EXPECT_NE(found, nullptr) << name;
+        return *found;
+    }
+
+    /// A key for whatever has the focus.
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        settle();
+    }
 
     MainWindow window_{std::make_shared<HostKit::Module>(ROTAVUE_MODULE_FILE)};
 };
