@@ -36,14 +36,6 @@ bool isOn(const std::wstring& text) {
     return text == L"1" || text == L"True";
 }
 
-/// Limits that the automatic scale finds anew in every frame are no settings.
-Settings withoutFoundLimits(Settings settings) {
-    if (isOn(textOf(settings, L"useManualMagnitudeLimits", L"False"))) return settings;
-    for (const wchar_t* key : {L"minXValue", L"maxXValue", L"minYValue", L"maxYValue"})
-        settings.erase(key);
-    return settings;
-}
-
 std::shared_ptr<const PlaneSource> originalOf(const std::shared_ptr<const PlaneSource>& source) {
     return source->runOut ? source->runOut->original : source;
 }
@@ -273,6 +265,13 @@ std::vector<std::string> Plane::notes() const {
     for (const auto& ofCurve : notesOfCurves_)
         notes.insert(notes.end(), ofCurve.begin(), ofCurve.end());
     return notes;
+}
+
+Settings withoutFoundLimits(Settings settings) {
+    if (isOn(textOf(settings, L"useManualMagnitudeLimits", L"False"))) return settings;
+    for (const wchar_t* key : {L"minXValue", L"maxXValue", L"minYValue", L"maxYValue"})
+        settings.erase(key);
+    return settings;
 }
 
 }  // namespace Rotavue::Workbench

@@ -148,4 +148,8 @@ private:
 /// and the clearance where it is known.
 Settings usualSettings(const PlaneSource& source);
 
+/// What of settings a user has set: limits that the automatic scale finds anew in every frame are
+/// left out.
+Settings withoutFoundLimits(Settings settings);
+
 }  // namespace Rotavue::Workbench

@@ -5,6 +5,14 @@
 
 namespace Rotavue::Workbench {
 
+namespace {
+
+bool changesNothing(const SettingsStep& step) {
+    return withoutFoundLimits(step.before) == withoutFoundLimits(step.after);
+}
+
+}  // namespace
+
 SettingsCommand::SettingsCommand(const QString& text, std::vector<SettingsStep> steps, int run,
                                  Apply apply)
     : QUndoCommand(text), steps_(std::move(steps)), run_(run), apply_(std::move(apply)) {}
@@ -22,8 +30,7 @@ void SettingsCommand::undo() {
 bool SettingsCommand::mergeWith(const QUndoCommand* later) {
     for (const SettingsStep& step : static_cast<const SettingsCommand*>(later)->steps_)
         take(step);
-    setObsolete(std::all_of(steps_.begin(), steps_.end(),
-                            [](const SettingsStep& step) { return step.before == step.after; }));
+    setObsolete(std::all_of(steps_.begin(), steps_.end(), changesNothing));
     return true;
 }
 

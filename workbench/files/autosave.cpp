@@ -23,7 +23,6 @@ Autosave::Autosave(Bench& bench, OfferBar& bar, QString folder, MakeView view, Q
 }
 
 Autosave::~Autosave() {
-    bench_.undoStack().disconnect(this);
     views_.forget();
 }
 

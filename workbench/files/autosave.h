@@ -22,7 +22,8 @@ public:
 
     using MakeView = std::function<View()>;
 
-    /// `view` says what the window shows; the bar offers. Bench and bar must outlive this.
+    /// `view` says what the window shows; the bar offers. Bench and bar may go shortly before this
+    /// does, as parts of a window that ends, but not while events are handled.
     Autosave(Bench& bench, OfferBar& bar, QString folder, MakeView view, QObject* parent = nullptr);
 
     /// An orderly end keeps nothing.
