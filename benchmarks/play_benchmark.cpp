@@ -1,10 +1,12 @@
 #include "host_kit/loader/module.h"
 #include "workbench/bench/bench.h"
+#include "workbench/window/main_window.h"
 #include "workbench/window/orbit_view.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QImage>
 
 #include <cmath>
@@ -13,7 +15,8 @@
 
 /// What a moment costs while four planes play: the cursor moves on by a thirtieth of a second and
 /// each control draws its frame, 10,000 points of 25 turns, into 500 x 420 pixels of the screen's
-/// form. benchmarks/README.md has the figures.
+/// form; or the whole window is painted, with every dock open. benchmarks/README.md has the
+/// figures.
 namespace Rotavue::Benchmarks {
 namespace {
 
@@ -41,14 +44,25 @@ Recording whirling(double seconds) {
     return recording;
 }
 
+constexpr int PlaneCount = 4;
+constexpr double FrameTime = 1.0 / 30.0;
+
+std::shared_ptr<HostKit::Module> loadedModule() {
+    return std::make_shared<HostKit::Module>(HostKit::programFolder() / "Rotavue64.vc");
+}
+
+void addPlane(Bench& bench) {
+    Plane& plane = bench.addPlane(preparePlane(whirling(4.0)));
+    Settings settings = plane.settings();
+    settings[L"revolutions"] = L"25";
+    plane.load(settings);
+}
+
 class FourPlanes {
 public:
     FourPlanes() {
-        for (int i = 0; i < 4; ++i) {
-            Plane& plane = bench_.addPlane(preparePlane(whirling(4.0)));
-            Settings settings = plane.settings();
-            settings[L"revolutions"] = L"25";
-            plane.load(settings);
+        for (int i = 0; i < PlaneCount; ++i) {
+            addPlane(bench_);
             views_.push_back(std::make_unique<OrbitView>(bench_, bench_.planes().back()));
             views_.back()->resize(500, 420);
         }
@@ -57,29 +71,66 @@ public:
     }
 
     void frame(QImage& screen) {
-        constexpr double FrameTime = 1.0 / 30.0;
         bench_.playback().advance(FrameTime);
         for (const auto& view : views_)
             view->render(&screen);
     }
 
 private:
-    Bench bench_{std::make_shared<HostKit::Module>(HostKit::programFolder() / "Rotavue64.vc")};
+    Bench bench_{loadedModule()};
     std::vector<std::unique_ptr<OrbitView>> views_;
 };
 
-void playFourPlanes(benchmark::State& state) {
+class WholeWindow {
+public:
+    WholeWindow() : window_(loadedModule()) {
+        window_.resize(Size);
+        window_.show();
+        for (int i = 0; i < PlaneCount; ++i)
+            addPlane(window_.bench());
+        for (QDockWidget* dock : window_.findChildren<QDockWidget*>())
+            dock->show();
+        window_.bench().setCursor(1.0);
+        QApplication::processEvents();
+        window_.bench().playback().play();
+    }
+
+    // What the docks put off until their numbers are there belongs to the moment.
+    void frame(QImage& screen) {
+        window_.bench().playback().advance(FrameTime);
+        QApplication::sendPostedEvents();
+        window_.render(&screen);
+    }
+
+    static constexpr QSize Size{1600, 1000};
+
+private:
+    MainWindow window_;
+};
+
+template <class Scene>
+void play(benchmark::State& state, Scene& scene, QSize size) {
     const auto scale = static_cast<int>(state.range(0));
-    FourPlanes planes;
-    QImage screen(QSize(500, 420) * scale, QImage::Format_RGB32);
+    QImage screen(size * scale, QImage::Format_RGB32);
     screen.setDevicePixelRatio(scale);
     for ([[maybe_unused]] auto _ : state)
-        planes.frame(screen);
+        scene.frame(screen);
     state.counters["frames"] =
         benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 
+void playFourPlanes(benchmark::State& state) {
+    FourPlanes planes;
+    play(state, planes, {500, 420});
+}
+
+void playWholeWindow(benchmark::State& state) {
+    WholeWindow window;
+    play(state, window, WholeWindow::Size);
+}
+
 BENCHMARK(playFourPlanes)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+BENCHMARK(playWholeWindow)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace Rotavue::Benchmarks

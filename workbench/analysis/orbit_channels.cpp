@@ -1,5 +1,9 @@
 #include "workbench/analysis/orbit_channels.h"
 
+#include <memory>
+#include <utility>
+#include <vector>
+
 #include "workbench/analysis/bearing_properties.h"
 #include "workbench/analysis/channel_text.h"
 #include "workbench/recording/gaps.h"
@@ -100,13 +104,15 @@ ChannelDescription harmonicChannel(const Harmonics& harmonics, const Recording& 
     return channel;
 }
 
-ChannelDescription subSyncChannel(const SubSyncOrbit& orbit, const Recording& recording,
+ChannelDescription subSyncChannel(SubSyncOrbit orbit, const Recording& recording,
                                   const ChannelStyle& style) {
     ChannelDescription channel = channelOf(recording, style, L"SubSync");
     setSize(channel, orbit.x.size(), 1);
-    channel.values[XComponent] = orbit.x;
-    channel.values[YComponent] = orbit.y;
-    holdGaps(channel.values[XComponent], channel.values[YComponent]);
+    holdGaps(orbit.x, orbit.y);
+    // Copies of the channel share what may be as long as the recording.
+    using List = const std::vector<double>;
+    channel.values.share(XComponent, std::make_shared<List>(std::move(orbit.x)));
+    channel.values.share(YComponent, std::make_shared<List>(std::move(orbit.y)));
     return channel;
 }
 

@@ -43,7 +43,7 @@ HostKit::ChannelDescription harmonicChannel(const Harmonics& harmonics, const Re
 
 /// As many samples as the recording has, at its rate, component 4 toward the X probe and 5 toward
 /// the Y probe. A gap holds the values before it (gaps.h).
-HostKit::ChannelDescription subSyncChannel(const SubSyncOrbit& orbit, const Recording& recording,
+HostKit::ChannelDescription subSyncChannel(SubSyncOrbit orbit, const Recording& recording,
                                            const ChannelStyle& style);
 
 /// One sample of four elements for each position, with its own time stamp in s after the

@@ -78,12 +78,14 @@ std::string leftOutNote(std::size_t count) {
 }  // namespace
 
 ShaftCenterHistory shaftCenterHistory(const Recording& recording, const ShaftTrack& track,
-                                      const ShaftCenterOptions& options) {
+                                      const ShaftCenterOptions& options,
+                                      const ReadingProgress& progress) {
     check(recording, options);
     const ProbeValues shift = shiftFor(recording, options);
     const std::vector<TimeSpan> intervals = intervalsOf(recording, options);
     ShaftCenterHistory history{{}, recording.machine.unit, recording.startTime, {}};
     for (const TimeSpan& interval : intervals) {
+        progress.reach(interval.from / recording.duration());
         const auto mean = meanPosition(recording, wholeTurnsIn(track, interval));
         if (!mean) continue;
         const double middle = 0.5 * (interval.from + interval.to);

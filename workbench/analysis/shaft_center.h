@@ -46,8 +46,9 @@ struct ShaftCenterHistory {
 /// Throws AnalysisError if the recording has lost its mean by AC coupling, if the bottom of the
 /// clearance is wanted and no clearance height is given or the probes look along one line, if the
 /// interval is shorter than a sample or longer than 1e9 s, if the rest span has no sample, or if no
-/// interval gives a position.
+/// interval gives a position; and ReadingCancelled.
 ShaftCenterHistory shaftCenterHistory(const Recording& recording, const ShaftTrack& track,
-                                      const ShaftCenterOptions& options = {});
+                                      const ShaftCenterOptions& options = {},
+                                      const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench

@@ -83,10 +83,18 @@ int stepsPerTurn(const TurnedSamples& samples) {
     return static_cast<int>(std::bit_floor(static_cast<unsigned>(most)));
 }
 
-void filterSamples(const Recording& recording, const TurnedSamples& samples, SubSyncOrbit& orbit) {
+// How much of all is done when there are steps of the angle, and when these are filtered.
+constexpr double PartOfSteps = 0.4;
+constexpr double PartOfFilter = 0.7;
+constexpr std::size_t SamplesBetweenWords = 1U << 16U;
+
+void filterSamples(const Recording& recording, const TurnedSamples& samples, SubSyncOrbit& orbit,
+                   const ReadingProgress& progress) {
     const AngleSteps steps = averageBySteps(recording, samples, stepsPerTurn(samples));
+    progress.reach(PartOfSteps);
     if (steps.values.empty()) return;
     const auto low = lowOrders(steps.values, steps.perTurn, orbit.band);
+    const ReadingProgress rest = progress.between(PartOfFilter, 1.0);
     std::vector<double> x;
     std::vector<double> y;
     for (const std::complex<double>& value : low) {
@@ -94,6 +102,8 @@ void filterSamples(const Recording& recording, const TurnedSamples& samples, Sub
         y.push_back(value.imag());
     }
     for (std::size_t i = 0; i < samples.count(); ++i) {
+        if (i % SamplesBetweenWords == 0)
+            rest.reach(static_cast<double>(i) / static_cast<double>(samples.count()));
         const std::size_t k = samples.first + i;
         if (!std::isfinite(recording.x[k] + recording.y[k])) continue;
         const double place = steps.placeOf(samples.turns[i]);
@@ -102,12 +112,16 @@ void filterSamples(const Recording& recording, const TurnedSamples& samples, Sub
     }
 }
 
-void filterRuns(const Recording& recording, const std::vector<ShaftRun>& runs,
-                SubSyncOrbit& orbit) {
+void filterRuns(const Recording& recording, const std::vector<ShaftRun>& runs, SubSyncOrbit& orbit,
+                const ReadingProgress& progress) {
     std::size_t used = 0;
     for (std::size_t i = 0; i < runs.size(); ++i) {
         if (static_cast<double>(runs[i].turnCount()) < LeastTurns) continue;
-        filterSamples(recording, turnedSamples(recording, runs[i], widened(runs, i)), orbit);
+        const TimeSpan span = widened(runs, i);
+        const ReadingProgress part =
+            progress.between(std::clamp(span.from / recording.duration(), 0.0, 1.0),
+                             std::clamp(span.to / recording.duration(), 0.0, 1.0));
+        filterSamples(recording, turnedSamples(recording, runs[i], span), orbit, part);
         ++used;
     }
     if (used == 0) refuse("needs 4 turns of the shaft in one go, and there are fewer");
@@ -116,7 +130,7 @@ void filterRuns(const Recording& recording, const std::vector<ShaftRun>& runs,
 }  // namespace
 
 SubSyncOrbit subSynchronousOrbit(const Recording& recording, const ShaftTrack& track,
-                                 const SubSyncOptions& options) {
+                                 const SubSyncOptions& options, const ReadingProgress& progress) {
     checkBand(options.band);
     SubSyncOrbit orbit;
     orbit.x.assign(recording.sampleCount(), Gap);
@@ -124,11 +138,11 @@ SubSyncOrbit subSynchronousOrbit(const Recording& recording, const ShaftTrack& t
     orbit.unit = recording.machine.unit;
     orbit.band = options.band;
     if (track.hasKeyphasor()) {
-        filterRuns(recording, track.runs(), orbit);
+        filterRuns(recording, track.runs(), orbit, progress);
     } else {
         const double frequency = assumedFrequency(recording, options, orbit.notes);
         const ShaftRun run = evenRun(recording, frequency);
-        filterSamples(recording, turnedSamples(recording, run, {}), orbit);
+        filterSamples(recording, turnedSamples(recording, run, {}), orbit, progress);
     }
     return orbit;
 }

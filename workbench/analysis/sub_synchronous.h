@@ -37,8 +37,9 @@ struct SubSyncOrbit {
 ///
 /// Throws AnalysisError if the keyphasor is there and shows no run of four turns or more, if there
 /// is none and neither a speed nor a line that stands out, if the recording is shorter than four
-/// turns, or if there are fewer than four samples a turn.
+/// turns, or if there are fewer than four samples a turn; and ReadingCancelled.
 SubSyncOrbit subSynchronousOrbit(const Recording& recording, const ShaftTrack& track,
-                                 const SubSyncOptions& options = {});
+                                 const SubSyncOptions& options = {},
+                                 const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench

@@ -6,9 +6,17 @@
 #include "workbench/scene/scheme_colors.h"
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 #include <utility>
 
 namespace Rotavue::Workbench {
+
+namespace {
+
+constexpr std::chrono::milliseconds WorkInterval{20};
+
+}  // namespace
 
 Bench::Bench(std::shared_ptr<HostKit::Module> module, QObject* parent)
     : QObject(parent), module_(std::move(module)), scheme_(LightNumber), playback_(*this) {
@@ -16,6 +24,8 @@ Bench::Bench(std::shared_ptr<HostKit::Module> module, QObject* parent)
         placePlanes();
         Q_EMIT cursorMoved(cursor_);
     });
+    work_.setInterval(WorkInterval);
+    connect(&work_, &QTimer::timeout, this, &Bench::lookForWork);
 }
 
 /// Commands hold planes, and planes hold controls of the module.
@@ -42,12 +52,15 @@ void Bench::insert(std::size_t place, std::shared_ptr<Plane> plane) {
     plane->setLight(scheme_ == LightNumber);
     planes_.insert(planes_.begin() + static_cast<std::ptrdiff_t>(place), std::move(plane));
     if (first) cursor_ = duration();
+    planes_[place]->resumeCurves();
     planes_[place]->showMoment(cursor_, hostState());
+    watchWork();
     Q_EMIT planesChanged();
     if (first) Q_EMIT cursorMoved(cursor_);
 }
 
 void Bench::take(std::size_t place) {
+    planes_[place]->suspendCurves();
     planes_.erase(planes_.begin() + static_cast<std::ptrdiff_t>(place));
     if (planes_.empty()) playback_.pause();
     Q_EMIT planesChanged();
@@ -99,6 +112,7 @@ void Bench::change(Plane& plane, const QString& what, std::function<void(Plane&)
 void Bench::apply(Plane& plane, const std::function<void(Plane&)>& part) {
     part(plane);
     plane.showMoment(cursor_, hostState());
+    watchWork();
     Q_EMIT curvesChanged(&plane);
     Q_EMIT settingsChanged(&plane);
     Q_EMIT notesChanged(&plane);
@@ -184,6 +198,50 @@ void Bench::setCursor(double seconds) {
     cursor_ = std::clamp(seconds, 0.0, duration());
     placePlanes();
     Q_EMIT cursorMoved(cursor_);
+}
+
+bool Bench::isWorking() const {
+    return std::any_of(planes_.begin(), planes_.end(),
+                       [](const auto& plane) { return plane->slowCurves().current() != nullptr; });
+}
+
+bool Bench::isIdle() const {
+    return std::all_of(planes_.begin(), planes_.end(),
+                       [](const auto& plane) { return plane->slowCurves().isIdle(); });
+}
+
+void Bench::watchWork() {
+    if (!isIdle() && !work_.isActive()) work_.start();
+}
+
+void Bench::cancelWork() {
+    for (const auto& plane : planes_) {
+        if (plane->slowCurves().current() == nullptr) continue;
+        plane->cancelCurves();
+        Q_EMIT notesChanged(plane.get());
+    }
+}
+
+void Bench::finishWork() {
+    for (lookForWork(); isWorking(); lookForWork())
+        std::this_thread::sleep_for(WorkInterval);
+}
+
+void Bench::lookForWork() {
+    for (const auto& plane : std::vector(planes_)) {
+        if (!plane->showMadeCurves()) continue;
+        Q_EMIT curvesChanged(plane.get());
+        Q_EMIT notesChanged(plane.get());
+    }
+    for (const auto& plane : planes_) {
+        const CurveRequest* made = plane->slowCurves().current();
+        if (made == nullptr) continue;
+        const auto what = QString::fromStdString(plane->name() + ", " + wordsOf(*made));
+        Q_EMIT worked(what, plane->slowCurves().part());
+        return;
+    }
+    Q_EMIT workEnded();
+    if (isIdle()) work_.stop();
 }
 
 void Bench::stepTurns(const Plane& plane, int turns) {

@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QUndoStack>
 
 #include <cstdint>
@@ -99,6 +100,16 @@ public:
 
     Playback& playback() { return playback_; }
 
+    // Curves that take long; each comes when it is made.
+
+    bool isWorking() const;
+
+    /// Gives up what is being made for any plane.
+    void cancelWork();
+
+    /// Waits until all is made.
+    void finishWork();
+
     // The rest.
 
     QUndoStack& undoStack() { return undo_; }
@@ -117,6 +128,8 @@ Q_SIGNALS:
     void curvesChanged(Plane* plane);    ///< curves, their options, or what is compensated
     void settingsChanged(Plane* plane);  ///< of the control
     void notesChanged(Plane* plane);     ///< what a person should know
+    void worked(const QString& what, double part);  ///< now and then; 0 to 1
+    void workEnded();
     void schemeChanged(std::int32_t scheme);
     void troubled(const QString& line);
 
@@ -136,6 +149,9 @@ private:
     std::shared_ptr<Plane> shared(const Plane& plane) const;
     void placePlanes();
     HostState hostState() const;
+    bool isIdle() const;
+    void watchWork();
+    void lookForWork();
 
     std::shared_ptr<HostKit::Module> module_;
     std::vector<std::shared_ptr<Plane>> planes_;
@@ -145,6 +161,7 @@ private:
     int nextRun_ = 0;
     Companions companions_;
     Playback playback_;
+    QTimer work_;
 };
 
 }  // namespace Rotavue::Workbench

@@ -78,6 +78,11 @@ Plane::Plane(std::shared_ptr<const PlaneSource> source, HostKit::Module& module,
 void Plane::takeRaw() {
     host_.description.assigned.groups.clear();
     assignRawOrbit(host_.description, shown_->raw);
+    useShown();
+}
+
+void Plane::useShown() {
+    slow_.use({{shown_, &shown_->recording}, {shown_, &shown_->track}, options_});
 }
 
 std::string Plane::compensation() const {
@@ -97,6 +102,7 @@ void Plane::setCurves(std::vector<CurveRequest> curves) {
 
 void Plane::setCurveOptions(CurveOptions options) {
     options_ = std::move(options);
+    useShown();
     assign();
 }
 
@@ -144,6 +150,7 @@ void Plane::assign() {
     host.assigned.slots = {{host.assigned.groups.empty() ? PlainSlot : GroupSlot}};
     notesOfCurves_.assign(curves_.size(), {});
     dropCurves();
+    slow_.keepOnly(curves_);
     for (std::size_t i = 0; i < curves_.size(); ++i)
         make(i);
     stretch_ = stretchOf(span(), shown_->track);
@@ -164,8 +171,9 @@ void Plane::dropCurves() {
 void Plane::make(std::size_t curve) {
     const CurveRequest& request = curves_[curve];
     if (request.kind == CurveKind::Raw) return;
+    if (!isOfShownTurns(request.kind)) return takeSlow(curve);
     HostKit::ChannelTable& channels = host_.description.channels;
-    const ShownSpan shown = spanOf(request.kind);
+    const ShownSpan shown = span();
     DerivedCurves derived(shown_->recording, shown_->track, shown, options_);
     try {
         channels[idOf(curve)] =
@@ -177,11 +185,37 @@ void Plane::make(std::size_t curve) {
     }
 }
 
-ShownSpan Plane::spanOf(CurveKind kind) const {
-    ShownSpan shown = span();
-    // The control cuts the history at the cursor by itself.
-    if (kind == CurveKind::ShaftCenter) shown.time = shown_->duration();
-    return shown;
+void Plane::takeSlow(std::size_t curve) {
+    HostKit::ChannelTable& channels = host_.description.channels;
+    const CurveRequest& request = curves_[curve];
+    const MadeCurve* made = slow_.find(request);
+    notesOfCurves_[curve] =
+        made != nullptr ? made->notes : std::vector{wordsOf(request) + ": is being made"};
+    if (made == nullptr || !made->channel) return channels.erase(idOf(curve));
+    ChannelDescription& channel = channels[idOf(curve)];
+    channel = *made->channel;
+    channel.name = channelText(nameOf(request));
+    channel.color = colorOf(curve);
+}
+
+void Plane::cancelCurves() {
+    slow_.cancel();
+    assign();
+}
+
+void Plane::suspendCurves() {
+    slow_.forgetUnmade();
+}
+
+void Plane::resumeCurves() {
+    for (const CurveRequest& curve : curves_)
+        if (!isOfShownTurns(curve.kind)) slow_.find(curve);
+}
+
+bool Plane::showMadeCurves() {
+    const bool any = slow_.look();
+    if (any) assign();
+    return any;
 }
 
 void Plane::listChannels() {

@@ -6,6 +6,7 @@
 #include "workbench/scene/curve_options.h"
 #include "workbench/scene/curve_request.h"
 #include "workbench/scene/shown_span.h"
+#include "workbench/scene/slow_curves.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -109,6 +110,21 @@ public:
     HostKit::DrivenControl& control() { return *control_; }
     HostKit::MemoryHost& host() { return host_; }
 
+    // Curves that take long, scene/slow_curves.h: they are made on a thread of their own, and come
+    // when they are there.
+
+    const SlowCurves& slowCurves() const { return slow_; }
+
+    /// Shows what has been made since the last look. True if there was any.
+    bool showMadeCurves();
+
+    /// Gives up what is not made yet; a note says so.
+    void cancelCurves();
+
+    /// Stops making curves for as long as nobody sees the plane, and goes on.
+    void suspendCurves();
+    void resumeCurves();
+
     /// What a person should know of the recording and its curves, one line each; a curve that
     /// cannot be had of this recording has a line that says why.
     std::vector<std::string> notes() const;
@@ -125,7 +141,8 @@ private:
     void recolor();
     void refreshShownTurns();
     void placeHost();
-    ShownSpan spanOf(CurveKind kind) const;
+    void takeSlow(std::size_t curve);
+    void useShown();
     std::string nameOf(const CurveRequest& request) const;
 
     std::shared_ptr<const PlaneSource> original_;
@@ -140,6 +157,7 @@ private:
     TimeSpan stretch_{0.0, 0.0};  ///< that the curves of the shown turns are made of
     Settings settings_;
     std::vector<std::vector<std::string>> notesOfCurves_;  ///< by place in `curves_`
+    SlowCurves slow_;
     HostKit::MemoryHost host_;
     std::unique_ptr<HostKit::DrivenControl> control_;
 };

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QFrame>
-
-class QLabel;
-class QProgressBar;
+#include "workbench/files/progress_row.h"
 
 namespace Rotavue::Workbench {
 
@@ -11,7 +8,7 @@ class RecordingLoader;
 
 /// How far the recording is that is being loaded, with a button that cancels. It comes only once
 /// that has taken half a second: what is quick needs no word.
-class LoadingBar : public QFrame {
+class LoadingBar : public ProgressRow {
     Q_OBJECT
 
 public:
@@ -19,10 +16,6 @@ public:
 
     /// The loader must outlive it.
     explicit LoadingBar(RecordingLoader& loader, QWidget* parent = nullptr);
-
-private:
-    QLabel* text_;
-    QProgressBar* progress_;
 };
 
 }  // namespace Rotavue::Workbench

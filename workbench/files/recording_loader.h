@@ -12,7 +12,7 @@
 
 #include "workbench/bench/plane_source.h"
 #include "workbench/bench/run_out.h"
-#include "workbench/files/background_task.h"
+#include "workbench/recording/background_task.h"
 
 namespace Rotavue::Workbench {
 

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <filesystem>
 #include <stdexcept>
+#include <utility>
 
 namespace Rotavue::Workbench {
 
@@ -36,8 +37,12 @@ ReferenceOrbit stored(const std::filesystem::path& file) {
 }
 
 /// The mean over all turns of a recording.
-ReferenceOrbit averaged(const std::filesystem::path& file, const RecordingOptions& options) {
-    const Recording recording = readRecording(file, options);
+ReferenceOrbit averaged(const std::filesystem::path& file, const RecordingOptions& options,
+                        const ReadingProgress& progress) {
+    const Recording recording = readRecording(file, options, [&](double part) {
+        progress.reach(part);
+        return true;
+    });
     try {
         return referenceFrom(averageOrbit(recording, ShaftTrack(recording)), recording);
     } catch (const AnalysisError& error) {
@@ -45,8 +50,9 @@ ReferenceOrbit averaged(const std::filesystem::path& file, const RecordingOption
     }
 }
 
-ReferenceOrbit readReference(const std::filesystem::path& file, const RecordingOptions& options) {
-    return file.extension() == ".json" ? stored(file) : averaged(file, options);
+ReferenceOrbit readReference(const std::filesystem::path& file, const RecordingOptions& options,
+                             const ReadingProgress& progress) {
+    return file.extension() == ".json" ? stored(file) : averaged(file, options, progress);
 }
 
 }  // namespace
@@ -60,8 +66,13 @@ double usualInterval(double length, double speed, double sampleRate) {
 }
 
 DerivedCurves::DerivedCurves(const Recording& recording, const ShaftTrack& track,
-                             const ShownSpan& span, const CurveOptions& options)
-    : recording_(recording), span_(span), options_(options), track_(track) {}
+                             const ShownSpan& span, const CurveOptions& options,
+                             ReadingProgress progress)
+    : recording_(recording),
+      span_(span),
+      options_(options),
+      track_(track),
+      progress_(std::move(progress)) {}
 
 void DerivedCurves::note(const std::vector<std::string>& notes) {
     notes_.insert(notes_.end(), notes.begin(), notes.end());
@@ -99,15 +110,15 @@ ChannelDescription DerivedCurves::harmonic(const CurveRequest& request, const Ch
 }
 
 ChannelDescription DerivedCurves::subSync(const ChannelStyle& style) {
-    const SubSyncOrbit orbit =
-        subSynchronousOrbit(recording_, track_, {.band = {}, .speed = options_.speed});
+    SubSyncOrbit orbit =
+        subSynchronousOrbit(recording_, track_, {.band = {}, .speed = options_.speed}, progress_);
     note(orbit.notes);
-    return subSyncChannel(orbit, recording_, style);
+    return subSyncChannel(std::move(orbit), recording_, style);
 }
 
 ChannelDescription DerivedCurves::reference(const CurveRequest& request,
                                             const ChannelStyle& style) const {
-    const ReferenceOrbit orbit = readReference(request.file, options_.reference);
+    const ReferenceOrbit orbit = readReference(request.file, options_.reference, progress_);
     checkComparable(orbit, recording_);
     return referenceChannel(orbit, recording_, style);
 }
@@ -122,7 +133,8 @@ ChannelDescription DerivedCurves::shaftCenter(const ChannelStyle& style) {
                            {.span = {0.0, end},
                             .interval = choice.interval.value_or(usual),
                             .rest = choice.rest,
-                            .restSpan = choice.restSpan});
+                            .restSpan = choice.restSpan},
+                           progress_);
     // The control shows what is older than the newest sample.
     if (history.positions.front().time >= span_.time) {
         throw AnalysisError("the shaft centre needs a stretch of time before the newest sample");

@@ -16,12 +16,13 @@ namespace Rotavue::Workbench {
 /// The curves that an analysis makes of one recording, as the channels in which a host offers them.
 class DerivedCurves {
 public:
-    /// All four must outlive this object.
+    /// All four must outlive this object. The progress is that of each curve.
     DerivedCurves(const Recording& recording, const ShaftTrack& track, const ShownSpan& span,
-                  const CurveOptions& options);
+                  const CurveOptions& options, ReadingProgress progress = ReadingProgress());
 
     /// The curve of a request that is not raw. Raises `AnalysisError` where the recording does not
-    /// give it, and `std::runtime_error`, with the name, for a reference that cannot be used.
+    /// give it, `std::runtime_error`, with the name, for a reference that cannot be used, and
+    /// `ReadingCancelled`.
     HostKit::ChannelDescription make(const CurveRequest& request, const ChannelStyle& style);
 
     /// What a person should know of the curves made so far, one line each.
@@ -40,6 +41,7 @@ private:
     const ShownSpan& span_;
     const CurveOptions& options_;
     const ShaftTrack& track_;
+    ReadingProgress progress_;
     std::vector<std::string> notes_;
 };
 

@@ -1,6 +1,7 @@
 #include "workbench/window/file_part.h"
 
 #include "workbench/files/file_actions.h"
+#include "workbench/files/work_bar.h"
 #include "workbench/window/app_settings.h"
 #include "workbench/window/main_window.h"
 
@@ -11,6 +12,7 @@ void addFiles(MainWindow& window) {
     settings->setParent(&window);
     auto* files = new FileActions(window.bench(), window, window.fileMenu(), *settings);
     window.addBar(files->loading());
+    window.addBar(*new WorkBar(window.bench(), &window));
     window.addBar(files->messages());
     window.addBar(files->offers());
     window.addCloseCheck([files] { return files->mayLoseChanges(); });

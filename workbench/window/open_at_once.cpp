@@ -44,6 +44,7 @@ void openAtOnce(MainWindow& window, const WindowOrder& order) {
         }
     }
     if (view != nullptr) showViewFile(window, *view);
+    window.bench().finishWork();
     window.bench().undoStack().clear();
     if (order.at) window.bench().setCursor(*order.at);
 }

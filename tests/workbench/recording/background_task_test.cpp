@@ -1,4 +1,4 @@
-#include "workbench/files/background_task.h"
+#include "workbench/recording/background_task.h"
 
 #include <gtest/gtest.h>
 
