@@ -92,6 +92,38 @@ void Bench::showPlanes(std::vector<std::shared_ptr<Plane>> planes, double cursor
     undo_.clear();
 }
 
+namespace {
+
+/// The settings of a plane, but for those that suit its recording: where they are others for the
+/// new one, these.
+Settings settingsFor(const PlaneSource& source, const Plane& plane) {
+    Settings settings = plane.settings();
+    const Settings before = usualSettings(plane.original());
+    for (const auto& [key, value] : usualSettings(source))
+        if (before.at(key) != value) settings[key] = value;
+    return settings;
+}
+
+}  // namespace
+
+Plane& Bench::replacePlane(Plane& plane, std::shared_ptr<const PlaneSource> source) {
+    PlaneSetup setup{plane.curves(), settingsFor(*source, plane), plane.curveOptions()};
+    setup.options.reference = source->options;
+    const auto fresh = makePlane(std::move(source), setup);
+    const std::size_t place = placeOf(plane);
+    undo_.push(new ChangeCommand(
+        tr("what %1 holds").arg(QString::fromStdString(fresh->name())),
+        [this, place, fresh] { replace(place, fresh); },
+        [this, place, kept = shared(plane)] { replace(place, kept); }));
+    return *fresh;
+}
+
+// The bench is never empty in between: that would move the cursor and end a playback.
+void Bench::replace(std::size_t place, const std::shared_ptr<Plane>& plane) {
+    insert(place, plane);
+    take(place + 1);
+}
+
 void Bench::removePlane(Plane& plane) {
     const std::size_t place = placeOf(plane);
     const std::shared_ptr<Plane> kept = shared(plane);

@@ -52,6 +52,12 @@ public:
     /// Shows these planes in the place of all that were shown. Nothing can be undone afterwards.
     void showPlanes(std::vector<std::shared_ptr<Plane>> planes, double cursor);
 
+    /// Shows the recording of a plane as it was read anew, in the plane's place and with its curves
+    /// and settings [undoable]. What settings follow from the recording alone, such as that its
+    /// clearance is drawn, changes with it; run-out that was taken off is left in. Raises what
+    /// `Plane` raises.
+    Plane& replacePlane(Plane& plane, std::shared_ptr<const PlaneSource> source);
+
     /// Takes a plane away [undoable].
     void removePlane(Plane& plane);
 
@@ -145,6 +151,7 @@ private:
 
     void insert(std::size_t place, std::shared_ptr<Plane> plane);
     void take(std::size_t place);
+    void replace(std::size_t place, const std::shared_ptr<Plane>& plane);
     std::size_t placeOf(const Plane& plane) const;
     std::shared_ptr<Plane> shared(const Plane& plane) const;
     void placePlanes();

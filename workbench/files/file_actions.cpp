@@ -172,8 +172,10 @@ void FileActions::loadPending() {
         loader().load({planes[i].recording, planes[i].options, true, planes[i].compensation});
 }
 
+// A recording that is read anew is shown by who asked for that, recording_questions.h.
 void FileActions::takeLoaded(const LoadRequest& request,
                              const std::shared_ptr<const PlaneSource>& source) {
+    if (request.instead) return;
     if (!request.isOfView) return addRecording(request, source);
     if (!pending_) return;
     pending_->planes.push_back(source);

@@ -64,6 +64,7 @@ public:
     /// Asks whether changes shall be saved, if there are any. False where the user wants to stay.
     bool mayLoseChanges();
 
+    RecordingOpener& opener() { return opener_; }
     RecordingLoader& loader() { return opener_.loader(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -48,7 +48,7 @@ QString headerOf(const RecordingColumn& column) {
 }  // namespace
 
 ImportDialog::ImportDialog(const ImportPreview& preview, const RecordingOptions& known,
-                           QWidget* parent)
+                           QWidget* parent, ImportPurpose purpose)
     : QDialog(parent),
       preview_(preview),
       options_(known),
@@ -58,7 +58,7 @@ ImportDialog::ImportDialog(const ImportPreview& preview, const RecordingOptions&
     auto* column = new QVBoxLayout(this);
     column->addWidget(makeTable(), 1);
     column->addWidget(fields_);
-    column->addWidget(makeEnd());
+    column->addWidget(makeEnd(purpose));
     fields_->fill(known);
     showUnits();
     resize(860, 700);
@@ -96,7 +96,7 @@ QComboBox* ImportDialog::makeRoles(std::size_t column, QWidget* parent) {
     return roles;
 }
 
-QWidget* ImportDialog::makeEnd() {
+QWidget* ImportDialog::makeEnd(ImportPurpose purpose) {
     auto* box = new QWidget(this);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
@@ -105,13 +105,18 @@ QWidget* ImportDialog::makeEnd() {
     const auto machineFile = machineFileOf(preview_.file).filename().string();
     beside_ = new QCheckBox(tr("Keep it &beside the recording, in %1").arg(text(machineFile)), box);
     beside_->setObjectName(QStringLiteral("keepBeside"));
-    beside_->setChecked(true);
+    const bool further = purpose == ImportPurpose::FurtherPlane;
+    beside_->setChecked(!further);
+    beside_->setHidden(further);
+    silent_->setHidden(further);
     fault_ = new QLabel(box);
     fault_->setObjectName(QStringLiteral("importFault"));
     fault_->setTextFormat(Qt::PlainText);
     fault_->setWordWrap(true);
     fault_->hide();
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Open | QDialogButtonBox::Cancel, box);
+    if (purpose == ImportPurpose::Correct)
+        buttons->button(QDialogButtonBox::Open)->setText(tr("&Read again"));
     connect(buttons, &QDialogButtonBox::accepted, this, &ImportDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ImportDialog::reject);
     for (QWidget* widget : {static_cast<QWidget*>(silent_), static_cast<QWidget*>(beside_),

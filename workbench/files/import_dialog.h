@@ -17,6 +17,13 @@ namespace Rotavue::Workbench {
 class ImportFields;
 struct RoleName;
 
+/// What a person is asked for.
+enum class ImportPurpose {
+    Open,         ///< a recording that doesn't explain itself
+    Correct,      ///< a recording that is shown, and may have been misunderstood
+    FurtherPlane  ///< other columns of such a recording; its machine file stays
+};
+
 /// Asks what the numbers of a recording mean: its first rows, a role for each column, and what the
 /// file doesn't say about probes, keyphasor and bearing. What is wrong is told in the dialog,
 /// beside its buttons.
@@ -26,7 +33,7 @@ class ImportDialog : public QDialog {
 public:
     /// Begins with the preview's roles, and with `known` in the fields.
     ImportDialog(const ImportPreview& preview, const RecordingOptions& known,
-                 QWidget* parent = nullptr);
+                 QWidget* parent = nullptr, ImportPurpose purpose = ImportPurpose::Open);
 
     /// What was told, complete once the dialog is accepted; the path of a machine file stays as it
     /// is known.
@@ -43,7 +50,7 @@ public:
 private:
     QWidget* makeTable();
     QComboBox* makeRoles(std::size_t column, QWidget* parent);
-    QWidget* makeEnd();
+    QWidget* makeEnd(ImportPurpose purpose);
     void showUnits();
 
     /// Each gives false, having told what is wrong.

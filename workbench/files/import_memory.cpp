@@ -40,6 +40,13 @@ void ImportMemory::remember(const std::string& shape, const RememberedImport& im
     settings_.setValue(keyOf(shape, AskItem), import.askAgain);
 }
 
+bool ImportMemory::isEmpty() const {
+    settings_.beginGroup(Group);
+    const bool empty = settings_.childGroups().isEmpty();
+    settings_.endGroup();
+    return empty;
+}
+
 void ImportMemory::clear() {
     settings_.remove(Group);
 }

@@ -26,6 +26,8 @@ public:
 
     void remember(const std::string& shape, const RememberedImport& import);
 
+    bool isEmpty() const;
+
     /// Forgets all shapes.
     void clear();
 

@@ -1,7 +1,7 @@
 #include "workbench/files/recording_opener.h"
 
 #include "workbench/analysis/replace_file.h"
-#include "workbench/files/import_dialog.h"
+#include "workbench/recording/column_roles.h"
 #include "workbench/recording/machine_file.h"
 #include "workbench/recording/recording_error.h"
 
@@ -21,25 +21,60 @@ RecordingOpener::RecordingOpener(QSettings& settings, QWidget* window)
     : QObject(window), memory_(settings), window_(window) {
     connect(&loader_, &RecordingLoader::failed, this,
             [this](const LoadRequest&, const QString& line) { Q_EMIT failed(line); });
+    connect(&loader_, &RecordingLoader::loaded, this, [this](const LoadRequest& request) {
+        if (request.isToBeKept) keepBeside(request.file, request.options);
+    });
 }
 
 void RecordingOpener::open(const std::filesystem::path& file, const RecordingOptions& options) {
-    waiting_.push_back({file, options});
+    enqueue({{.file = file, .options = options}});
+}
+
+void RecordingOpener::correct(std::shared_ptr<const PlaneSource> source) {
+    enqueue({{.file = source->recording.file, .options = source->options, .instead = source},
+             ImportPurpose::Correct});
+}
+
+void RecordingOpener::openFurtherPlane(const PlaneSource& source) {
+    enqueue(
+        {{.file = source.recording.file, .options = source.options}, ImportPurpose::FurtherPlane});
+}
+
+void RecordingOpener::enqueue(Waiting waiting) {
+    waiting_.push_back(std::move(waiting));
     if (!dialog_) takeNext();
 }
 
 // One dialog at a time: the others wait until it has been answered.
 void RecordingOpener::takeNext() {
     while (!waiting_.empty() && !dialog_) {
-        const LoadRequest request = std::move(waiting_.front());
+        const Waiting waiting = std::move(waiting_.front());
         waiting_.pop_front();
         try {
-            const ImportPreview preview = previewImport(request.file, request.options);
-            if (!takeKnown(request, preview)) ask(request, preview);
+            take(waiting);
         } catch (const RecordingError& error) {
             Q_EMIT failed(QString::fromUtf8(error.what()));
         }
     }
+}
+
+void RecordingOpener::take(const Waiting& waiting) {
+    const LoadRequest& request = waiting.request;
+    if (waiting.purpose == ImportPurpose::Open) {
+        const ImportPreview preview = previewImport(request.file, request.options);
+        if (takeKnown(request, preview)) return;
+        const auto remembered = memory_.find(preview.shape);
+        const RecordingOptions known =
+            remembered ? overlaid(remembered->options, request.options) : request.options;
+        return ask(waiting, previewImport(request.file, known), known);
+    }
+    RecordingOptions known = withMachineFile(request.file, request.options);
+    ImportPreview preview = previewImport(request.file, known);
+    if (waiting.purpose == ImportPurpose::FurtherPlane) {
+        preview.columns = nextPlane(std::move(preview.columns));
+        known.point.reset();
+    }
+    ask(waiting, preview, known);
 }
 
 bool RecordingOpener::takeKnown(const LoadRequest& request, const ImportPreview& preview) {
@@ -56,33 +91,38 @@ bool RecordingOpener::takeKnown(const LoadRequest& request, const ImportPreview&
     return true;
 }
 
-void RecordingOpener::ask(const LoadRequest& request, const ImportPreview& preview) {
-    const auto remembered = memory_.find(preview.shape);
-    const RecordingOptions known =
-        remembered ? overlaid(remembered->options, request.options) : request.options;
-    ImportPreview guessed = previewImport(request.file, known);
-    guessed.shape = preview.shape;
-    dialog_ = new ImportDialog(guessed, known, window_);
+void RecordingOpener::ask(const Waiting& waiting, const ImportPreview& preview,
+                          const RecordingOptions& known) {
+    dialog_ = new ImportDialog(preview, known, window_, waiting.purpose);
     dialog_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog_, &QDialog::finished, this, [this, guessed](int result) {
+    connect(dialog_, &QDialog::finished, this, [this, waiting, shape = preview.shape](int result) {
         const QPointer<ImportDialog> answered = std::exchange(dialog_, nullptr);
         if (result == QDialog::Accepted) {
-            takeAnswer(guessed, *answered);
+            takeAnswer(waiting, shape, *answered);
         } else {
-            Q_EMIT declined(guessed.file);
+            Q_EMIT declined(waiting.request.file);
         }
         takeNext();
     });
     dialog_->open();
 }
 
-void RecordingOpener::takeAnswer(const ImportPreview& preview, const ImportDialog& dialog) {
-    memory_.remember(preview.shape, {ofItsShape(dialog.options()), !dialog.isUsedWithoutAsking()});
-    if (dialog.isKeptBeside()) keepBeside(preview.file, dialog.options());
-    loader_.load({preview.file, dialog.options()});
+void RecordingOpener::takeAnswer(const Waiting& waiting, const std::string& shape,
+                                 const ImportDialog& dialog) {
+    const RecordingOptions& told = dialog.options();
+    // Other columns of one file say nothing about what the next one holds.
+    if (waiting.purpose != ImportPurpose::FurtherPlane)
+        memory_.remember(shape, {ofItsShape(told), !dialog.isUsedWithoutAsking()});
+    LoadRequest request = waiting.request;
+    request.options = told;
+    request.options.machineFile.reset();
+    request.isComplete = true;
+    request.isToBeKept = dialog.isKeptBeside();
+    loader_.load(std::move(request));
 }
 
-// The recording opens whether that succeeds or not.
+// Written once the recording has been read with it: a wrong answer leaves what was there. The
+// recording opens whether that succeeds or not.
 void RecordingOpener::keepBeside(const std::filesystem::path& file,
                                  const RecordingOptions& options) {
     const std::filesystem::path beside = machineFileOf(file);

@@ -6,6 +6,7 @@
 
 #include <deque>
 
+#include "workbench/files/import_dialog.h"
 #include "workbench/files/import_memory.h"
 #include "workbench/files/import_preview.h"
 #include "workbench/files/recording_loader.h"
@@ -14,8 +15,6 @@ class QSettings;
 class QWidget;
 
 namespace Rotavue::Workbench {
-
-class ImportDialog;
 
 /// Opens recordings: finds out what they hold, asks where that isn't sure, and loads them in the
 /// order in which they were named. It doesn't ask where a machine file lies beside the recording,
@@ -30,6 +29,17 @@ public:
     /// `options` are what is known of the recording beyond its machine file.
     void open(const std::filesystem::path& file, const RecordingOptions& options = {});
 
+    /// Asks what an open recording holds, beginning with what it was taken for, and reads it again:
+    /// the loader's request names the one that it takes the place of.
+    void correct(std::shared_ptr<const PlaneSource> source);
+
+    /// Asks which columns of an open recording are another plane, and opens that as well.
+    void openFurtherPlane(const PlaneSource& source);
+
+    /// What was told of shapes of recordings, to be used again.
+    bool hasAnswers() const { return !memory_.isEmpty(); }
+    void forgetAnswers() { memory_.clear(); }
+
     RecordingLoader& loader() { return loader_; }
 
 Q_SIGNALS:
@@ -40,17 +50,24 @@ Q_SIGNALS:
     void declined(const std::filesystem::path& file);
 
 private:
+    struct Waiting {
+        LoadRequest request;
+        ImportPurpose purpose = ImportPurpose::Open;
+    };
+
+    void enqueue(Waiting waiting);
     void takeNext();
+    void take(const Waiting& waiting);
     /// False where a person has to be asked.
     bool takeKnown(const LoadRequest& request, const ImportPreview& preview);
-    void ask(const LoadRequest& request, const ImportPreview& preview);
-    void takeAnswer(const ImportPreview& preview, const ImportDialog& dialog);
+    void ask(const Waiting& waiting, const ImportPreview& preview, const RecordingOptions& known);
+    void takeAnswer(const Waiting& waiting, const std::string& shape, const ImportDialog& dialog);
     void keepBeside(const std::filesystem::path& file, const RecordingOptions& options);
 
     ImportMemory memory_;
     QWidget* window_;
     RecordingLoader loader_;
-    std::deque<LoadRequest> waiting_;
+    std::deque<Waiting> waiting_;
     QPointer<ImportDialog> dialog_;
 };
 

@@ -249,6 +249,24 @@ std::vector<std::string> furtherProbes(const std::vector<RecordingColumn>& colum
     return names;
 }
 
+std::vector<RecordingColumn> nextPlane(std::vector<RecordingColumn> columns) {
+    const auto isProbe = [](const RecordingColumn& column) {
+        return column.role == ColumnRole::X || column.role == ColumnRole::Y;
+    };
+    const auto last = std::find_if(columns.rbegin(), columns.rend(), isProbe).base();
+    const auto give = [&](ColumnRole role, Words words) {
+        const auto next = std::find_if(last, columns.end(), [&](const RecordingColumn& column) {
+            return column.role == ColumnRole::Unused && hasWord(column, words);
+        });
+        if (next != columns.end()) next->role = role;
+    };
+    for (auto column = columns.begin(); column != last; ++column)
+        if (isProbe(*column)) column->role = ColumnRole::Unused;
+    give(ColumnRole::X, XWords);
+    give(ColumnRole::Y, YWords);
+    return columns;
+}
+
 bool looksLikeTime(std::span<const double> values) {
     if (values.size() < LeastTimeRows) return false;
     const double step = (values.back() - values.front()) / static_cast<double>(values.size() - 1);

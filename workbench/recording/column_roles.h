@@ -31,6 +31,10 @@ std::vector<RecordingColumn> guessRoles(const SourceHead& head, const RecordingO
 /// The names of unused columns that a word makes X or Y as well: the probes of further planes.
 std::vector<std::string> furtherProbes(const std::vector<RecordingColumn>& columns);
 
+/// The columns for another plane of the file: X and Y go to the next columns behind theirs whose
+/// names tell so, or stay open; the other roles stay as they are.
+std::vector<RecordingColumn> nextPlane(std::vector<RecordingColumn> columns);
+
 /// Whether the values rise in equal steps, but for decimals that were cut off: none is further than
 /// one and a half steps, and a tenth of the whole span, from the straight line between the first
 /// and the last. False for fewer than three values.

@@ -184,6 +184,15 @@ RecordingOptions readMachineText(const std::filesystem::path& file, const std::s
     return MachineReader(file, text).read();
 }
 
+RecordingOptions withMachineFile(const std::filesystem::path& recording,
+                                 const RecordingOptions& options) {
+    const std::filesystem::path beside = machineFileOf(recording);
+    const bool found = options.machineFile || std::filesystem::exists(beside);
+    const std::filesystem::path machineFile = options.machineFile.value_or(beside);
+    if (!found || machineFile.empty()) return options;
+    return overlaid(readMachineFile(machineFile), options);
+}
+
 std::string machineText(const RecordingOptions& options) {
     RecordingOptions source = options;
     Json json = Json::object();

@@ -36,6 +36,12 @@ RecordingOptions readMachineFile(const std::filesystem::path& file);
 /// The same from a text; `file` is what its errors name.
 RecordingOptions readMachineText(const std::filesystem::path& file, const std::string& text);
 
+/// All that is known of a recording before it is read: the options, and below them what its machine
+/// file tells. That is the one that they name, or the one beside the recording if there is one; an
+/// empty name stands for none. Throws RecordingError as `readMachineFile`.
+RecordingOptions withMachineFile(const std::filesystem::path& recording,
+                                 const RecordingOptions& options);
+
 /// The text of a machine file that tells what is set in the options, but for `machineFile`.
 std::string machineText(const RecordingOptions& options);
 

@@ -17,15 +17,6 @@ std::unique_ptr<SampleSource> openSource(const std::filesystem::path& file) {
     return std::make_unique<CsvFile>(file);
 }
 
-// What is set outside goes before the machine file; a machine file that is named must be there.
-RecordingOptions withMachineFile(const std::filesystem::path& file,
-                                 const RecordingOptions& options) {
-    const std::filesystem::path beside = machineFileOf(file);
-    const bool found = options.machineFile || std::filesystem::exists(beside);
-    if (!found) return options;
-    return overlaid(readMachineFile(options.machineFile.value_or(beside)), options);
-}
-
 }  // namespace
 
 Recording readRecording(const std::filesystem::path& file, const RecordingOptions& options,

@@ -49,7 +49,7 @@ struct KeyphasorOptions {
 /// where the value grows as the shaft comes nearer to the probe: an eddy-current driver of 200
 /// mV/mil, whose volts get less negative then, is 0.00787 V/um. A negative one turns a probe round.
 struct RecordingOptions {
-    std::optional<std::filesystem::path> machineFile;  ///< unset: NAME.machine.json, if there
+    std::optional<std::filesystem::path> machineFile;  ///< unset: NAME.machine.json; "": none
     std::optional<double> rate;                        ///< samples per second; overrides the file's
     std::optional<std::string> timeColumn;             ///< name of the column, or "#1"
     ProbeOptions x;

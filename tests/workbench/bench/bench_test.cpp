@@ -49,6 +49,40 @@ TEST_F(BenchTest, PlanesComeAndGoAndComeBack) {
     EXPECT_EQ(changed.count(), 6);
 }
 
+TEST_F(BenchTest, RecordingThatIsReadAnewTakesThePlaceOfItsPlane) {
+    Plane& first = add();
+    Plane& second = add();
+    bench_.setCurves(first, {{.kind = CurveKind::Average}});
+    Settings circle = first.settings();
+    circle[L"graphType"] = L"1";
+    bench_.setSettings(first, circle);
+    bench_.setCursor(0.3);
+    Recording again = rotor(1.0);
+    again.machine.point = "Drive end";
+    const Plane& fresh = bench_.replacePlane(first, preparePlane(std::move(again)));
+    ASSERT_EQ(bench_.planes().size(), 2U);
+    EXPECT_EQ(bench_.planes()[0].get(), &fresh);
+    EXPECT_EQ(fresh.name(), "Drive end");
+    EXPECT_EQ(fresh.curves().at(0).kind, CurveKind::Average);
+    EXPECT_EQ(fresh.settings().at(L"graphType"), L"1");
+    EXPECT_DOUBLE_EQ(bench_.cursor(), 0.3);
+    bench_.undoStack().undo();
+    EXPECT_EQ(bench_.planes()[0].get(), &first);
+    EXPECT_EQ(bench_.planes()[1].get(), &second);
+    EXPECT_DOUBLE_EQ(bench_.cursor(), 0.3);
+}
+
+TEST_F(BenchTest, ClearanceThatIsToldLaterIsDrawn) {
+    Recording untold = rotor(1.0);
+    untold.machine.clearanceWidth = untold.machine.clearanceHeight = 0.0;
+    Recording told = untold;
+    told.machine.clearanceWidth = told.machine.clearanceHeight = 200.0;
+    Plane& plane = add(std::move(untold));
+    ASSERT_EQ(usualSettings(plane.original()).at(L"drawClearance"), L"False");
+    const Plane& fresh = bench_.replacePlane(plane, preparePlane(std::move(told)));
+    EXPECT_EQ(fresh.settings().at(L"drawClearance"), L"True");
+}
+
 TEST_F(BenchTest, CurvesCanBeUndone) {
     Plane& plane = add();
     const QSignalSpy changed(&bench_, &Bench::curvesChanged);

@@ -31,9 +31,12 @@ TEST_F(ImportMemoryTest, RemembersEachShapeByItself) {
 }
 
 TEST_F(ImportMemoryTest, ForgetsAll) {
+    EXPECT_TRUE(memory_.isEmpty());
     memory_.remember("a", {});
+    EXPECT_FALSE(memory_.isEmpty());
     memory_.clear();
     EXPECT_FALSE(memory_.find("a"));
+    EXPECT_TRUE(memory_.isEmpty());
 }
 
 TEST_F(ImportMemoryTest, DamagedSettingsAreAsIfNothingWereRemembered) {

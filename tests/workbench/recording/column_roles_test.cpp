@@ -90,6 +90,25 @@ TEST(ColumnRoles, LeaveTheProbesOfFurtherPlanesUnused) {
     EXPECT_EQ(further({"t", "x", "y", "axl", "X-Axis Value"}), std::vector<std::string>{});
 }
 
+TEST(ColumnRoles, OfTheNextPlaneAreTheProbesBehindThoseOfThisOne) {
+    const auto next = [](const SourceHead& head, int planes) {
+        std::vector<RecordingColumn> columns = assignRoles("f", head, {});
+        for (int plane = 0; plane < planes; ++plane)
+            columns = nextPlane(columns);
+        std::string letters;
+        for (const RecordingColumn& column : columns)
+            letters += "-txyk"[static_cast<int>(column.role)];
+        return letters;
+    };
+    const SourceHead train =
+        namedHead({"t", "P1.Y", "P1.X", "rpm", "P2.Y", "P2.X", "P3.X", "P3.Y"});
+    EXPECT_EQ(next(train, 0), "tyxk----");
+    EXPECT_EQ(next(train, 1), "t--kyx--");
+    EXPECT_EQ(next(train, 2), "t--k--xy");
+    // There is no fourth plane: a person has to tell.
+    EXPECT_EQ(next(train, 3), "t--k----");
+}
+
 TEST(ColumnRoles, OfTheOptionsComeFirst) {
     RecordingOptions options;
     options.x.column = "B";

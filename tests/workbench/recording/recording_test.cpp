@@ -270,6 +270,9 @@ TEST_F(RecordingTest, TakesAMachineFileOfAnotherNameOnlyIfItIsThere) {
     write("r.machine.json", "{");
     EXPECT_EQ(faultOf("0,1,2\n1,3,4\n2,5,6\n"),
               "r.machine.json:1:2: found the end of the file, allowed: a JSON object");
+    // An empty name: none, not even the one beside.
+    options.machineFile = "";
+    EXPECT_EQ(read("0,1,2\n1,3,4\n2,5,6\n", options).machine.point, "");
 }
 
 TEST_F(RecordingTest, ReadsAWavFileWithItsMachineFile) {
