@@ -142,9 +142,10 @@ void MainWindow::addPlotActions() {
     connect(&scaleLock_, &ScaleLock::released, this, [this] {
         statusBar()->showMessage(tr("The scale is automatic again, each plane has its own."));
     });
-    addAction(*viewMenu_, "notes", tr("N&otes of the plane"), Qt::CTRL | Qt::Key_I, [this] {
-        if (OrbitTile* tile = tiles_.tileOf(currentPlane())) tile->toggleNotes();
-    });
+    addAction(*viewMenu_, "notes", tr("N&otes of the plane"), Qt::CTRL | Qt::SHIFT | Qt::Key_N,
+              [this] {
+                  if (OrbitTile* tile = tiles_.tileOf(currentPlane())) tile->toggleNotes();
+              });
 }
 
 void MainWindow::lockScale(bool on) {

@@ -138,8 +138,8 @@ void OrbitTile::tellNotes() {
     lines.removeDuplicates();
     notes_.setText(lines.join('\n'));
     notesButton_.setText(lines.size() == 1 ? tr("1 note") : tr("%1 notes").arg(lines.size()));
-    notesButton_.setToolTip(tr("What to know of this recording and its curves (Ctrl+I):") + '\n' +
-                            lines.join('\n'));
+    notesButton_.setToolTip(tr("What to know of this recording and its curves (Ctrl+Shift+N):") +
+                            '\n' + lines.join('\n'));
     notesButton_.setVisible(!lines.isEmpty());
     notes_.setVisible(!lines.isEmpty() && notesButton_.isChecked());
 }

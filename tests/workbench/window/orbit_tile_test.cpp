@@ -49,10 +49,10 @@ TEST_F(OrbitTileTest, CurveThatCannotBeDrawnIsNotNamedButNoted) {
     ASSERT_EQ(view.plane().drawnCurves().size(), 1U);
     EXPECT_EQ(view.plane().drawnCurves()[0].kind, CurveKind::Raw);
     EXPECT_FALSE(notes().isVisible());
-    QTest::keyClick(&window_, Qt::Key_I, Qt::ControlModifier);
+    QTest::keyClick(&window_, Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(notes().isVisible());
     EXPECT_TRUE(notes().text().contains("/nowhere.json")) << notes().text().toStdString();
-    QTest::keyClick(&window_, Qt::Key_I, Qt::ControlModifier);
+    QTest::keyClick(&window_, Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_FALSE(notes().isVisible());
 }
 
