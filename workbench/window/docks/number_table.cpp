@@ -93,6 +93,11 @@ NumberTable::NumberTable(QWidget* parent)
     connect(&timer_, &QTimer::timeout, this, &NumberTable::compute);
 }
 
+NumberTable::~NumberTable() {
+    // Its header asks the model for names until the last.
+    delete view_;
+}
+
 void NumberTable::showTurns(std::vector<ShownTurns> planes) {
     planes_ = std::move(planes);
     if (timer_.isActive()) return;

@@ -24,6 +24,7 @@ class NumberTable final : public QWidget {
 
 public:
     explicit NumberTable(QWidget* parent = nullptr);
+    ~NumberTable() override;
 
     /// The stretches that the orbits show now.
     void showTurns(std::vector<ShownTurns> planes);
