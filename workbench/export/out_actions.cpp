@@ -3,8 +3,8 @@
 #include "host_kit/memory/memory_clipboard.h"
 #include "workbench/export/plane_picture.h"
 #include "workbench/export/plane_report.h"
+#include "workbench/files/usable.h"
 #include "workbench/paint/painting_studio.h"
-#include "workbench/window/usable.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <exception>
 
-#include "workbench/window/usable.h"
+#include "workbench/files/usable.h"
 
 namespace Rotavue::Workbench {
 namespace {

@@ -1,8 +1,8 @@
 #include "workbench/window/main_window.h"
 
+#include "workbench/files/usable.h"
 #include "workbench/window/about_box.h"
 #include "workbench/window/app_settings.h"
-#include "workbench/window/usable.h"
 #include "workbench/window/window_parts.h"
 
 #include <QActionGroup>

@@ -1,7 +1,7 @@
 #include "workbench/window/docks/channel_tree.h"
 
 #include "workbench/analysis/harmonics.h"
-#include "workbench/window/usable.h"
+#include "workbench/files/usable.h"
 
 #include <QAction>
 #include <QFileDialog>

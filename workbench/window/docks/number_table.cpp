@@ -1,7 +1,7 @@
 #include "workbench/window/docks/number_table.h"
 
+#include "workbench/files/usable.h"
 #include "workbench/window/docks/number_header.h"
-#include "workbench/window/usable.h"
 
 #include <QAction>
 #include <QClipboard>

@@ -1,6 +1,6 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
-#include "workbench/window/usable.h"
+#include "workbench/files/usable.h"
 
 #include <QFileDialog>
 #include <QKeySequence>
