@@ -138,12 +138,21 @@ void checkPlaces(const MachineFacts& machine, const SlowRoll& slowRoll) {
     check("keyphasor", slowRoll.tachoAngle, machine.tachoAngle);
 }
 
+// Without a mark an angle means nothing outside of its own recording.
+void checkMark(const Recording& recording, const SlowRoll& slowRoll) {
+    if ((slowRoll.hasMark && recording.hasMark()) || slowRoll.file == recording.file) return;
+    throw AnalysisError(
+        "the run-out was taken from another recording, and without one pulse a turn (or a ramp) in "
+        "both nobody knows at which angles it belongs");
+}
+
 }  // namespace
 
 void checkCompensable(const Recording& recording, const SlowRoll& slowRoll) {
     if (!recording.hasTacho())
         throw AnalysisError(
             "run-out is taken away by the shaft's angle, and the recording has no keyphasor");
+    checkMark(recording, slowRoll);
     const MachineFacts& machine = recording.machine;
     checkNames("unit", slowRoll.unit, machine.unit);
     checkNames("point", slowRoll.point, machine.point);

@@ -18,7 +18,8 @@ enum class CompensationForm : std::uint8_t {
 
 /// Throws AnalysisError unless the slow roll is of the recording's own bearing as far as both tell:
 /// probes and keyphasor at the same places, and the same unit, rotation and point where both give
-/// one; or if the recording has no keyphasor.
+/// one; or if the recording has no keyphasor; or if the two are different recordings and either
+/// one's angle counts from no mark on the shaft.
 void checkCompensable(const Recording& recording, const SlowRoll& slowRoll);
 
 /// The recording without the run-out: each sample less what the slow roll says at the shaft's angle

@@ -84,6 +84,9 @@ void addOrders(const Recording& recording, const ShaftTrack& track, std::span<co
     const Harmonics harmonics = findHarmonics(recording, track, orders, summary.span);
     for (const OrderVectors& order : harmonics.orders)
         summary.orders.push_back({order, ellipseOf(order, recording.machine)});
+    if (recording.hasMark() || summary.orders.empty()) return;
+    summary.notes.emplace_back(
+        "the lags count from no mark on the shaft: compare them within this recording alone");
 }
 
 }  // namespace

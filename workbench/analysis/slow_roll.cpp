@@ -58,6 +58,8 @@ SlowRoll takeSlowRoll(const Recording& recording, const ShaftTrack& track, const
                       int pointsPerTurn) {
     track.wholeTurns(span, "the run-out");
     SlowRoll slowRoll;
+    slowRoll.file = recording.file;
+    slowRoll.hasMark = recording.hasMark();
     takeFacts(recording.machine, slowRoll);
     try {
         takeForms(recording, track, {.span = span, .pointsPerTurn = pointsPerTurn}, slowRoll);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,11 +26,13 @@ struct SlowRoll {
     std::vector<double> x;  ///< by the shaft's angle: value k at k * 360 / x.size() degrees
     std::vector<double> y;  ///< as many, a power of two
 
-    std::string unit;         ///< empty: not given
-    std::string point;        ///< of the bearing; empty: not given
-    double xAngle = 90.0;     ///< place of the X probe, degrees clockwise from the top
-    double yAngle = 0.0;      ///< place of the Y probe
-    double tachoAngle = 0.0;  ///< place of the keyphasor probe, which the angle counts from
+    std::filesystem::path file;  ///< of the recording that it is taken from; empty: not known
+    bool hasMark = true;         ///< the angle counts from a mark on the shaft
+    std::string unit;            ///< empty: not given
+    std::string point;           ///< of the bearing; empty: not given
+    double xAngle = 90.0;        ///< place of the X probe, degrees clockwise from the top
+    double yAngle = 0.0;         ///< place of the Y probe
+    double tachoAngle = 0.0;     ///< place of the keyphasor probe, which the angle counts from
     std::optional<Rotation> rotation;  ///< empty: not given
     double speed = 0.0;                ///< rpm, the mean over the turns
     int turns = 0;                     ///< of which the waveform is the mean

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <set>
 
 namespace Rotavue::Workbench {
 
@@ -30,6 +31,22 @@ std::string fileLine(const Bench& bench) {
     for (const auto& plane : bench.planes())
         line += (line.empty() ? "" : ", ") + plane->shown().recording.file.filename().string();
     return (bench.planes().size() == 1 ? "Recording: " : "Recordings: ") + line;
+}
+
+std::string runOutWords(const Plane& plane) {
+    return plane.compensation().empty() ? "run-out not compensated" : plane.compensation();
+}
+
+/// Said once where it is the same for all planes.
+std::string runOutLine(const Bench& bench) {
+    std::set<std::string> kinds;
+    std::string line;
+    for (const auto& plane : bench.planes()) {
+        kinds.insert(runOutWords(*plane));
+        line += (line.empty() ? "" : ", ") + plane->name() + ": " + runOutWords(*plane);
+    }
+    const bool alike = bench.planes().size() > 1 && kinds.size() == 1;
+    return alike ? "All planes: " + *kinds.begin() : line;
 }
 
 std::shared_ptr<const Recording> recordingOf(const Plane& plane) {
@@ -101,8 +118,9 @@ std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameS
         pictures.push_back(std::make_unique<PlanePicture>(*plane, bench));
     if (sameScale) shareScale(bench, pictures);
     const NumberSheet sheet = sheetOf(bench);
-    ReportContent content{
-        .title = titleOf(bench), .facts = {fileLine(bench)}, .numbers = tableOf(sheet)};
+    ReportContent content{.title = titleOf(bench),
+                          .facts = {fileLine(bench), runOutLine(bench)},
+                          .numbers = tableOf(sheet)};
     for (const auto& picture : pictures) {
         PlanePicture* const plane = picture.get();
         content.orbits.push_back(

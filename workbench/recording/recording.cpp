@@ -19,6 +19,10 @@ std::unique_ptr<SampleSource> openSource(const std::filesystem::path& file) {
 
 }  // namespace
 
+bool Recording::hasMark() const {
+    return hasTacho() && keyphasorKind != KeyphasorKind::Speed && pulsesPerTurn == 1;
+}
+
 Recording readRecording(const std::filesystem::path& file, const RecordingOptions& options,
                         const ReadingWatch& watch) {
     checkOptions(options);

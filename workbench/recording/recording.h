@@ -63,6 +63,7 @@ struct Recording {
     std::vector<double> angle;       ///< degrees; empty: no keyphasor
     std::vector<double> pulseTimes;  ///< s after the first sample; of KeyphasorKind::Volts
     KeyphasorKind keyphasorKind = KeyphasorKind::None;  ///< as used
+    int pulsesPerTurn = 1;                              ///< of KeyphasorKind::Volts
     double meanSpeed = 0.0;            ///< rpm over the whole recording; 0: no keyphasor
     Coupling coupling = Coupling::Dc;  ///< as used
     MachineFacts machine;
@@ -71,6 +72,11 @@ struct Recording {
 
     std::size_t sampleCount() const { return x.size(); }
     bool hasTacho() const { return !angle.empty(); }
+
+    /// Whether the angle counts from a mark on the shaft, so that it means the same in another
+    /// recording. A sum of speeds counts from the first sample, and of several pulses a turn nobody
+    /// knows which came first.
+    bool hasMark() const;
     double duration() const { return static_cast<double>(x.size()) / sampleRate; }
 };
 

@@ -202,6 +202,7 @@ void RecordingBuilder::takeKeyphasor() {
             break;
     }
     noteFastTurns();
+    noteMissingMark();
 }
 
 void RecordingBuilder::takePulses(const std::vector<double>& volts) {
@@ -215,6 +216,7 @@ void RecordingBuilder::takePulses(const std::vector<double>& volts) {
         return;
     }
     const int pulsesPerTurn = options_.keyphasor.pulsesPerTurn.value_or(1);
+    recording_.pulsesPerTurn = pulsesPerTurn;
     recording_.angle = angleFromPulses(pulses, volts.size(), pulsesPerTurn);
     recording_.meanSpeed = speedFromPulses(pulses, recording_.sampleRate, pulsesPerTurn);
     for (const double pulse : pulses) {
@@ -251,6 +253,16 @@ void RecordingBuilder::takeSpeed(std::vector<double> rpm) {
     }
     recording_.meanSpeed = meanOf(rpm);
     recording_.angle = angleFromSpeed(rpm, recording_.sampleRate);
+}
+
+void RecordingBuilder::noteMissingMark() {
+    if (!recording_.hasTacho() || recording_.hasMark()) return;
+    const std::string why =
+        recording_.keyphasorKind == KeyphasorKind::Speed
+            ? "the keyphasor column is a speed, and the angle counts from the first sample"
+            : "the keyphasor has " + std::to_string(recording_.pulsesPerTurn) +
+                  " pulses a turn, and the angle counts from the first of the recording";
+    recording_.notes.push_back(why + ": lags hold within this recording alone");
 }
 
 // From half a turn per sample on, a step forward and a fall-back look alike.

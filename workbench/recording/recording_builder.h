@@ -41,6 +41,7 @@ private:
     void takeRamp(std::vector<double> degrees);
     void takeSpeed(std::vector<double> rpm);
     void noteFastTurns();
+    void noteMissingMark();
 
     void takeFacts();
     std::string unit() const;

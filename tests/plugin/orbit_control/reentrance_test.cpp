@@ -177,24 +177,40 @@ TEST_F(Reentrance, AnotherHostMayBeHandedInBetweenAnyTwoCallsOfADraw) {
     EXPECT_EQ(other.references(), 0);
 }
 
-TEST_F(Reentrance, PluginMayBeReleasedBetweenAnyTwoCallsOfADraw) {
-    const Api::ControlMaker maker = [] { return std::make_unique<RotavueVisualControl>(); };
-    Api::ClipboardSteps clipboard;
+/// What a host needs to make a bridge of its own and to let it attach and draw.
+class ReentrantBridge : public Reentrance {
+protected:
+    Host::Ref<Api::IMeridaxPlugin> makePlugin() {
+        return Api::VisualControlBridge::create({maker_, clipboard_, living})
+            .offered<Api::IMeridaxPlugin>();
+    }
+
+    static void send(Api::IMeridaxPlugin& plugin, Api::MessageCode code,
+                     const Api::ListArguments& list) {
+        plugin.message(static_cast<std::uint32_t>(code), &list, nullptr);
+    }
+
     Api::LiveObjects living;
     const Api::ListArguments attach{Api::object(host.app()), Api::object(host.control())};
     const Api::ListArguments frame{
         Api::object(host.canvas()), Api::number(0), Api::number(0), Api::number(300),
         Api::number(300),           Api::number(0), Api::number(0), Api::number(0)};
+
+private:
+    const Api::ControlMaker maker_ = [] { return std::make_unique<RotavueVisualControl>(); };
+    Api::ClipboardSteps clipboard_;
+};
+
+TEST_F(ReentrantBridge, MayBeReleasedBetweenAnyTwoCallsOfADraw) {
     const std::int64_t before = host.references();
     int released = 0;
     for (const std::int64_t n : places()) {
-        auto plugin = Api::VisualControlBridge::create({maker, clipboard, living})
-                          .offered<Api::IMeridaxPlugin>();
+        auto plugin = makePlugin();
         Api::IMeridaxPlugin& borrowed = *plugin;
-        borrowed.message(static_cast<std::uint32_t>(Api::MessageCode::Attach), &attach, nullptr);
+        send(borrowed, Api::MessageCode::Attach, attach);
         Interruption release(n, [&] { plugin = nullptr; });
         watch(release);
-        borrowed.message(static_cast<std::uint32_t>(Api::MessageCode::Draw), &frame, nullptr);
+        send(borrowed, Api::MessageCode::Draw, frame);
         host.gate.watch(nullptr, {});
         ASSERT_EQ(living.any(), !release.happened()) << "it ends with the message, at call " << n;
         if (release.happened()) ++released;
@@ -218,29 +234,18 @@ TEST_F(Reentrance, FrameDrawnInsideTheRedrawRequestShowsThePointer) {
     EXPECT_EQ(*(hovered + 1), R"(IHostCanvas.TextRect(60, 240, 84, 256, "-44", 256))");
 }
 
-TEST_F(Reentrance, FrameMayBeDrawnInsideTheMessageToAHostThatIsTooOld) {
-    const Api::ControlMaker maker = [] { return std::make_unique<RotavueVisualControl>(); };
-    Api::ClipboardSteps clipboard;
-    Api::LiveObjects living;
-    const Api::ListArguments attach{Api::object(host.app()), Api::object(host.control())};
-    const Api::ListArguments frame{
-        Api::object(host.canvas()), Api::number(0), Api::number(0), Api::number(300),
-        Api::number(300),           Api::number(0), Api::number(0), Api::number(0)};
+TEST_F(ReentrantBridge, DrawsInsideTheMessageToAHostThatIsTooOld) {
     host.description.host.version = {2, 99, 0};
-    const auto plugin =
-        Api::VisualControlBridge::create({maker, clipboard, living}).offered<Api::IMeridaxPlugin>();
-    const auto send = [&](Api::MessageCode code, const Api::ListArguments& list) {
-        plugin->message(static_cast<std::uint32_t>(code), &list, nullptr);
-    };
+    const auto plugin = makePlugin();
     Lines lines;
     Interruption modal(HostKit::operation("IHostApp.showMessage"), [&] {
-        lines = callsOf([&] { send(Api::MessageCode::Draw, frame); }, drawing());
+        lines = callsOf([&] { send(*plugin, Api::MessageCode::Draw, frame); }, drawing());
     });
     watch(modal);
-    send(Api::MessageCode::Attach, attach);
+    send(*plugin, Api::MessageCode::Attach, attach);
     host.gate.watch(nullptr, {});
     EXPECT_TRUE(modal.happened());
-    EXPECT_EQ(lines, callsOf([&] { send(Api::MessageCode::Draw, frame); }, drawing()));
+    EXPECT_EQ(lines, callsOf([&] { send(*plugin, Api::MessageCode::Draw, frame); }, drawing()));
     EXPECT_FALSE(lines.empty());
 }
 

@@ -204,5 +204,28 @@ TEST(Compensation, PicturesSayWhichForm) {
     EXPECT_EQ(compensationText(CompensationForm::Waveform), "run-out compensated: waveform");
 }
 
+TEST(Compensation, TakesRunOutOfAnotherRecordingOnlyByTheAnglesFromAMark) {
+    const std::string refusal =
+        "the run-out was taken from another recording, and without one pulse a turn (or a ramp) in "
+        "both nobody knows at which angles it belongs";
+    const auto refusedOf = [](const Recording& recording, const SlowRoll& slowRoll) {
+        return refusalOf([&] { checkCompensable(recording, slowRoll); });
+    };
+    Recording recording = still();
+    recording.file = "run.csv";
+    SlowRoll slowRoll = peaks();
+    slowRoll.file = "slow.csv";
+    EXPECT_NO_THROW(checkCompensable(recording, slowRoll));
+    slowRoll.hasMark = false;
+    EXPECT_EQ(refusedOf(recording, slowRoll), refusal);
+    slowRoll.file = recording.file;  // a stretch of the same one
+    EXPECT_NO_THROW(checkCompensable(recording, slowRoll));
+    recording.pulsesPerTurn = 3;
+    EXPECT_NO_THROW(checkCompensable(recording, slowRoll));
+    slowRoll.file = "slow.csv";
+    slowRoll.hasMark = true;
+    EXPECT_EQ(refusedOf(recording, slowRoll), refusal);
+}
+
 }  // namespace
 }  // namespace Rotavue::Workbench

@@ -83,6 +83,17 @@ TEST(OrbitSummary, WarnsOfASpeedThatRuns) {
     EXPECT_TRUE(summaryOf(recording, {9.5, 10.0}).notes.empty());
 }
 
+TEST(OrbitSummary, SaysWhereLagsCountFromNoMark) {
+    Recording recording = generate({.orders = {{1.0, {7, 25}, {7, 115}}}});
+    const std::vector<double> orders{1.0};
+    EXPECT_EQ(summarize(recording, ShaftTrack(recording), orders).notes,
+              std::vector<std::string>{});
+    recording.keyphasorKind = KeyphasorKind::Speed;
+    EXPECT_EQ(summarize(recording, ShaftTrack(recording), orders).notes,
+              std::vector<std::string>{"the lags count from no mark on the shaft: compare them "
+                                       "within this recording alone"});
+}
+
 TEST(OrbitSummary, RefusesAStretchWithoutSamples) {
     const Recording recording = generate({});
     EXPECT_EQ(refusalOf([&] {
