@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QIcon>
 #include <QPixmap>
 
 #include <clocale>
@@ -70,6 +71,7 @@ int runWindow(const WindowOrder& order) {
     QApplication::setApplicationName("rotavue");
     QApplication::setApplicationDisplayName("Rotavue");
     QApplication::setDesktopFileName("rotavue");
+    QApplication::setWindowIcon(QIcon(":/rotavue.svg"));
     if (order.resetSettings) appSettings()->clear();
     MainWindow window(std::make_shared<HostKit::Module>(HostKit::chooseModule(order.module)));
     if (!order.screenshot) window.restoreLayout();
