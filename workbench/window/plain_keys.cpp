@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTabBar>
 #include <QTextEdit>
 
 namespace Rotavue::Workbench {
@@ -30,9 +31,10 @@ bool isOfViews(int key) {
     return moves || digit || letter || key == Qt::Key_Space;
 }
 
-/// A button needs the space bar alone.
+/// A button needs the space bar alone, and a row of tabs the arrows.
 bool needsKey(const QObject* object, int key) {
     if (isAnyOf<QAbstractButton>(object)) return key == Qt::Key_Space;
+    if (isAnyOf<QTabBar>(object)) return key == Qt::Key_Left || key == Qt::Key_Right;
     if (isAnyOf<QAbstractItemView>(object)) return isOfViews(key);
     return isAnyOf<QLineEdit, QAbstractSpinBox, QComboBox, QTextEdit, QMenu>(object);
 }

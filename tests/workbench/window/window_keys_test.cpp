@@ -1,7 +1,9 @@
 #include "tests/workbench/window/window_fixture.h"
 #include "workbench/window/docks/time_plot.h"
 
+#include <QDockWidget>
 #include <QInputDialog>
+#include <QTabWidget>
 #include <QTreeWidget>
 
 namespace Rotavue::Workbench {
@@ -60,6 +62,18 @@ TEST_F(WindowKeysTest, ATreeMovesWithTheArrowsAndTheTimeStands) {
     press(tree, Qt::Key_Down);
     EXPECT_NE(tree.currentItem(), tree.topLevelItem(0));
     press(tree, Qt::Key_Home);
+    EXPECT_EQ(bench().cursor(), before);
+}
+
+TEST_F(WindowKeysTest, PagesOfPropertiesAreTurnedWithTheArrowsAndTheTimeStands) {
+    open();
+    const double before = bench().cursor();
+    auto* pages = window_.findChild<QDockWidget*>("propertyDock")->findChild<QTabWidget*>();
+    pages->tabBar()->setFocus();
+    press(*pages->tabBar(), Qt::Key_Right);
+    EXPECT_EQ(pages->currentIndex(), 1);
+    press(*pages->tabBar(), Qt::Key_Left);
+    EXPECT_EQ(pages->currentIndex(), 0);
     EXPECT_EQ(bench().cursor(), before);
 }
 
