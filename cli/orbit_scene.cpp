@@ -86,6 +86,7 @@ OrbitScene::OrbitScene(const RenderOptions& options) : show_(options.show) {
 std::vector<Recording> OrbitScene::readAll(const RenderOptions& options) {
     RunOutRemover runOut(options.compensation, options.recording);
     if (options.compensation) compensation_ = options.compensation->form;
+    rest_ = restText(options.shaftCenter, show_);
     std::vector<Recording> recordings;
     for (const std::string& file : options.recordings) {
         recordings.push_back(runOut.remove(readRecording(file, options.recording)));
@@ -101,7 +102,8 @@ PictureSubject OrbitScene::subject() const {
             .curves = show_,
             .coupling = coupling_,
             .span = span_,
-            .compensation = compensation_ ? compensationText(*compensation_) : ""};
+            .compensation = compensation_ ? compensationText(*compensation_) : "",
+            .rest = rest_};
 }
 
 void OrbitScene::note(const Recording& recording, const std::vector<std::string>& notes) {

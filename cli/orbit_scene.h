@@ -66,6 +66,7 @@ private:
     Workbench::Coupling coupling_ = Workbench::Coupling::Dc;
     Workbench::ShownSpan span_;
     std::optional<Workbench::CompensationForm> compensation_;
+    std::string rest_;  ///< as pictures say it
     bool hasSpeed_ = false;
     std::vector<Workbench::CurveRequest> show_;
     std::vector<std::string> names_;

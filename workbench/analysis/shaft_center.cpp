@@ -19,9 +19,13 @@ constexpr double LeastTurningPart = 0.5;   // of an interval
     throw AnalysisError("the shaft centre " + reason);
 }
 
-void check(const Recording& recording, const ShaftCenterOptions& options) {
+void checkCoupling(const Recording& recording) {
     if (recording.coupling == Coupling::Ac)
         refuse("needs the mean of the gaps, which AC coupling takes away");
+}
+
+void check(const Recording& recording, const ShaftCenterOptions& options) {
+    checkCoupling(recording);
     const double least = 1.0 / recording.sampleRate;
     if (options.interval >= least && options.interval <= LongestInterval) return;
     refuse("takes intervals from one sample, " + shortText(least) + " s, to 1e9 s, not " +
@@ -75,7 +79,20 @@ std::string leftOutNote(std::size_t count) {
            " left out because of gaps";
 }
 
+// Slow roll lifts the shaft little, so that this is told and not refused.
+std::string turningNote(const TimeSpan& rest, const WholeTurns& turns) {
+    return "shaft centre: the shaft turns at " + shortText(std::round(turns.speed())) +
+           " rpm between " + shortText(rest.from) + " and " + shortText(rest.to) +
+           " s, which is taken for its rest";
+}
+
 }  // namespace
+
+void checkRest(const Recording& recording, RestPosition rest,
+               const std::optional<TimeSpan>& restSpan) {
+    checkCoupling(recording);
+    shiftFor(recording, {.rest = rest, .restSpan = restSpan});
+}
 
 ShaftCenterHistory shaftCenterHistory(const Recording& recording, const ShaftTrack& track,
                                       const ShaftCenterOptions& options,
@@ -95,6 +112,9 @@ ShaftCenterHistory shaftCenterHistory(const Recording& recording, const ShaftTra
     if (history.positions.empty()) refuse("finds no interval with samples free of gaps");
     const std::size_t left = intervals.size() - history.positions.size();
     if (left > 0) history.notes.push_back(leftOutNote(left));
+    if (!options.restSpan) return history;
+    const WholeTurns turns = track.mostTurns(*options.restSpan);
+    if (turns.count() > 0) history.notes.push_back(turningNote(*options.restSpan, turns));
     return history;
 }
 

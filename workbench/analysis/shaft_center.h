@@ -38,10 +38,16 @@ struct ShaftCenterHistory {
     std::vector<std::string> notes;
 };
 
+/// Raises AnalysisError where a recording cannot tell where the shaft is against its place at rest:
+/// what `shaftCenterHistory` says of AC coupling, the clearance, the probes and the rest span.
+void checkRest(const Recording& recording, RestPosition rest,
+               const std::optional<TimeSpan>& restSpan = {});
+
 /// Averages the gap over one interval after the other, the last one shortened if need be (and left
 /// out below half an interval, unless it is the only one). Where whole turns make up half of an
 /// interval or more, it is cut down to them, so that vibration does not shift the mean. An interval
 /// with fewer than half of its samples free of gaps gives no position; a note counts them.
+/// Another note says that the shaft turns in the rest span.
 ///
 /// Throws AnalysisError if the recording has lost its mean by AC coupling, if the bottom of the
 /// clearance is wanted and no clearance height is given or the probes look along one line, if the

@@ -1,6 +1,7 @@
 #include "workbench/export/plane_picture.h"
 
 #include "workbench/scene/bearing_facts.h"
+#include "workbench/scene/fact_words.h"
 #include "workbench/scene/picture_facts.h"
 #include "workbench/scene/scheme_colors.h"
 
@@ -120,13 +121,15 @@ PictureHeader PlanePicture::header() const {
     std::optional<GraphScale> scale;
     if (alike_ && limit_ > 0.0) scale = scaleWith(ticksOf(settings_));
     const Recording& recording = plane_.shown().recording;
-    return pictureHeader({.machine = recording.machine,
-                          .name = plane_.name(),
-                          .curves = plane_.drawnCurves(),
-                          .coupling = recording.coupling,
-                          .span = plane_.span(),
-                          .compensation = plane_.compensation()},
-                         scale);
+    return pictureHeader(
+        {.machine = recording.machine,
+         .name = plane_.name(),
+         .curves = plane_.drawnCurves(),
+         .coupling = recording.coupling,
+         .span = plane_.span(),
+         .compensation = plane_.compensation(),
+         .rest = restText(plane_.curveOptions().shaftCenter, plane_.drawnCurves())},
+        scale);
 }
 
 void PlanePicture::draw(const Meridax::Host::Ref<Meridax::Host::IHostCanvas>& canvas,

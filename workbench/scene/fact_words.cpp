@@ -55,4 +55,14 @@ std::string shortNumber(double value, int digits) {
     return text;
 }
 
+std::string restText(const ShaftCenterChoice& choice, const std::vector<CurveRequest>& drawn) {
+    const bool shows = std::any_of(drawn.begin(), drawn.end(), [](const CurveRequest& curve) {
+        return curve.kind == CurveKind::ShaftCenter;
+    });
+    if (!shows || !choice.restSpan) return {};
+    const bool low = choice.rest == RestPosition::BottomOfClearance;
+    return "rest " + shortNumber(choice.restSpan->from) + " to " +
+           shortNumber(choice.restSpan->to) + " s " + (low ? "at the bottom" : "in the centre");
+}
+
 }  // namespace Rotavue::Workbench

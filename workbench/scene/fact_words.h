@@ -1,8 +1,11 @@
 #pragma once
 
 #include "workbench/recording/recording.h"
+#include "workbench/scene/curve_options.h"
+#include "workbench/scene/curve_request.h"
 
 #include <string>
+#include <vector>
 
 /// The words for the facts of a recording, the same in every output.
 namespace Rotavue::Workbench {
@@ -18,5 +21,9 @@ std::string placeText(double degreesClockwise);
 
 /// A number with at most that many significant digits, but no fewer than stand before its point.
 std::string shortNumber(double value, int digits = 4);
+
+/// From which stretch and for which point of the clearance the rest position of a shaft centre was
+/// taken: "rest 0 to 0.5 s at the bottom". Empty where none was, or no such curve is drawn.
+std::string restText(const ShaftCenterChoice& choice, const std::vector<CurveRequest>& drawn);
 
 }  // namespace Rotavue::Workbench

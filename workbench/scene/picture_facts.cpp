@@ -68,6 +68,7 @@ PictureHeader pictureHeader(const PictureSubject& subject, const std::optional<G
     header.facts.push_back(rotationText(machine));
     if (scale) header.facts.push_back(scaleText(*scale, machine.unit));
     if (!subject.compensation.empty()) header.facts.push_back(subject.compensation);
+    if (!subject.rest.empty()) header.facts.push_back(subject.rest);
     header.facts.push_back("at " + shortNumber(span.time) + " s");
     return header;
 }

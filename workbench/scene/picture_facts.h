@@ -20,6 +20,7 @@ struct PictureSubject {
     Coupling coupling = Coupling::Dc;
     ShownSpan span;
     std::string compensation = {};  ///< how pictures say it; empty: run-out is left in
+    std::string rest = {};          ///< likewise, `restText`
 };
 
 /// What engineers look for beside an orbit and the plug-in leaves to its host: machine and point,

@@ -66,6 +66,8 @@ QString factsOf(const Plane& plane) {
     if (machine.rotation) facts += QString::fromStdString(std::string(toText(*machine.rotation)));
     if (plane.shown().recording.coupling == Coupling::Ac) facts += OrbitTile::tr("AC");
     if (!plane.compensation().empty()) facts += QString::fromStdString(plane.compensation());
+    const std::string rest = restText(plane.curveOptions().shaftCenter, plane.drawnCurves());
+    if (!rest.empty()) facts += QString::fromStdString(rest);
     return facts.join(", ");
 }
 

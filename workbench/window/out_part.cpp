@@ -3,6 +3,7 @@
 #include "workbench/export/out_actions.h"
 #include "workbench/window/app_settings.h"
 #include "workbench/window/main_window.h"
+#include "workbench/window/run_out/rest_actions.h"
 #include "workbench/window/run_out/run_out_actions.h"
 
 #include <QMenu>
@@ -37,11 +38,26 @@ void addRunOut(MainWindow& window) {
     QObject::connect(&window.markedStretch(), &MarkedStretch::changed, actions, refresh);
 }
 
+void addRest(MainWindow& window) {
+    auto* actions = new RestActions(
+        window.bench(), [&window] { return window.currentPlane(); },
+        [&window] { return window.markedStretch().span(); }, &window);
+    QMenu* menu = window.editMenu().addMenu(MainWindow::tr("Shaft at r&est"));
+    menu->setToolTipsVisible(true);
+    menu->addActions({&actions->atBottom, &actions->atCentre});
+    menu->addSeparator();
+    menu->addAction(&actions->forget);
+    const auto refresh = [actions] { actions->refresh(); };
+    QObject::connect(&window.tiles(), &OrbitTiles::currentChanged, actions, refresh);
+    QObject::connect(&window.markedStretch(), &MarkedStretch::changed, actions, refresh);
+}
+
 }  // namespace
 
 void addOut(MainWindow& window) {
     addPictures(window);
     addRunOut(window);
+    addRest(window);
 }
 
 }  // namespace Rotavue::Workbench

@@ -154,6 +154,30 @@ TEST(ShaftCenter, RefusesWhatCannotBeHadInOneLine) {
     }
 }
 
+TEST(ShaftCenter, NotesAShaftThatTurnsInTheStretchOfItsRest) {
+    const Recording recording = generate({.firstSpeed = 900, .lastSpeed = 900});
+    const auto notes = historyOf(recording, {.restSpan = TimeSpan{0.1, 0.9}}).notes;
+    EXPECT_EQ(notes, std::vector<std::string>{"shaft centre: the shaft turns at 900 rpm between "
+                                              "0.1 and 0.9 s, which is taken for its rest"});
+    const Recording still = generate({.firstSpeed = 0, .lastSpeed = 0});
+    EXPECT_TRUE(historyOf(still, {.restSpan = TimeSpan{0.1, 0.9}}).notes.empty());
+}
+
+TEST(ShaftCenter, ARestPositionIsCheckedBeforeItIsTaken) {
+    Recording recording = generate({});
+    const auto bottom = RestPosition::BottomOfClearance;
+    EXPECT_NO_THROW(checkRest(recording, RestPosition::Centre, TimeSpan{0.0, 0.5}));
+    EXPECT_EQ(refusalOf([&] { checkRest(recording, bottom); }),
+              "the shaft centre at the bottom of the clearance needs the clearance's height");
+    EXPECT_EQ(refusalOf([&] {
+                  checkRest(recording, RestPosition::Centre, TimeSpan{5, 6});
+              }),
+              "the shaft centre finds no samples at rest between 5 and 6 s");
+    recording.coupling = Coupling::Ac;
+    EXPECT_EQ(refusalOf([&] { checkRest(recording, RestPosition::Centre); }),
+              "the shaft centre needs the mean of the gaps, which AC coupling takes away");
+}
+
 TEST(MeanPosition, NeedsHalfOfTheSamplesInPairs) {
     Recording recording;
     recording.sampleRate = 1.0;
