@@ -69,14 +69,12 @@ NumberSheet sheetOf(const Bench& bench) {
     return numberSheet(turns);
 }
 
-std::string headText(const NumberColumn& column, bool alone) {
-    return ((alone ? QString() : column.plane + ' ') + column.probe).toStdString();
-}
-
 ReportTable tableOf(const NumberSheet& sheet) {
-    ReportTable table{.head = {""}, .rows = {}};
-    for (const NumberColumn& column : sheet.columns)
-        table.head.push_back(headText(column, sheet.columns.size() == 2));
+    ReportTable table{.head = {""}, .rows = {}, .groups = {}};
+    for (std::size_t i = 0; i < sheet.columns.size(); ++i) {
+        table.head.push_back(sheet.columns[i].probe.toStdString());
+        if (i % 2 == 0) table.groups.push_back(sheet.columns[i].plane.toStdString());
+    }
     for (const NumberRow& row : sheet.rows) {
         table.rows.push_back({row.name.toStdString()});
         for (const QString& cell : row.cells)
@@ -112,15 +110,22 @@ void shareScale(const Bench& bench, Pictures& pictures) {
 
 }  // namespace
 
+std::vector<std::string> reportFacts(const Bench& bench) {
+    return {fileLine(bench), runOutLine(bench)};
+}
+
+ReportTable reportNumbers(const Bench& bench) {
+    return tableOf(sheetOf(bench));
+}
+
 std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameScale) {
     Pictures pictures;
     for (const auto& plane : bench.planes())
         pictures.push_back(std::make_unique<PlanePicture>(*plane, bench));
     if (sameScale) shareScale(bench, pictures);
     const NumberSheet sheet = sheetOf(bench);
-    ReportContent content{.title = titleOf(bench),
-                          .facts = {fileLine(bench), runOutLine(bench)},
-                          .numbers = tableOf(sheet)};
+    ReportContent content{
+        .title = titleOf(bench), .facts = reportFacts(bench), .numbers = tableOf(sheet)};
     for (const auto& picture : pictures) {
         PlanePicture* const plane = picture.get();
         content.orbits.push_back(

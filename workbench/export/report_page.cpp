@@ -17,20 +17,23 @@ namespace Rotavue::Workbench {
 namespace {
 
 constexpr int LeastOrbitSide = 160;
-constexpr int MostNotes = 8;
+constexpr std::size_t MostNoteLines = 10;
+constexpr int MostLines = 3;  // of a fact or a note
 
 /// Sizes that follow the page: those of A4 upright at 96 pixels an inch are the measure.
 struct Measures {
     explicit Measures(const PictureOrder& order)
         : unit(std::clamp(std::min(order.width, order.height) / 794.0, 0.6, 2.0)),
           margin(scaled(48)),
+          textHeight(scaled(12)),
           title(scaled(22)),
-          text(scaled(12)) {}
+          text(textHeight) {}
 
     int scaled(int pixels) const { return static_cast<int>(pixels * unit + 0.5); }
 
     double unit;
     int margin;
+    int textHeight;
     TextFace title;
     TextFace text;
 };
@@ -82,23 +85,31 @@ private:
               colors_.text);
         free_.setTop(free_.top() + measures_.title.lineHeight() * 5 / 4);
         for (const std::string& fact : content_.facts) {
-            const QString text = QString::fromStdString(fact);
-            write(measures_.text, measures_.text.shortened(text, free_.width()), free_.topLeft(),
-                  colors_.quiet);
-            free_.setTop(free_.top() + lineHeight());
+            for (const QString& line : linesOf(fact)) {
+                write(measures_.text, line, free_.topLeft(), colors_.quiet);
+                free_.setTop(free_.top() + lineHeight());
+            }
         }
         rule(free_.top() + lineHeight() / 4);
         free_.setTop(free_.top() + lineHeight());
     }
 
+    std::vector<QString> linesOf(const std::string& text) const {
+        return Workbench::linesOf(QString::fromStdString(text), measures_.textHeight, free_.width(),
+                                  MostLines);
+    }
+
     std::vector<QString> noteLines() const {
         std::vector<QString> lines;
-        for (const std::string& note : content_.notes)
-            lines.push_back(QString::fromStdString(note));
-        if (lines.size() <= MostNotes) return lines;
-        const auto more = static_cast<int>(lines.size()) - MostNotes + 1;
-        lines.resize(MostNotes - 1);
-        lines.push_back(QStringLiteral("... and %1 more notes").arg(more));
+        for (std::size_t i = 0; i < content_.notes.size(); ++i) {
+            const std::vector<QString> note = linesOf(content_.notes[i]);
+            if (lines.size() + note.size() >= MostNoteLines) {
+                lines.push_back(
+                    QStringLiteral("... and %1 more notes").arg(content_.notes.size() - i));
+                break;
+            }
+            lines.insert(lines.end(), note.begin(), note.end());
+        }
         return lines;
     }
 
@@ -114,32 +125,19 @@ private:
         }
     }
 
+    // On A4 a text is 9 points high, and never less than 7.5.
     void paintNumbers() {
-        const ReportTable& table = content_.numbers;
-        if (table.rows.empty()) return;
-        const int height = (static_cast<int>(table.rows.size()) + 1) * lineHeight();
-        int y = free_.bottom() - height;
-        free_.setBottom(y - lineHeight());
-        paintRow(table.head, y, colors_.quiet);
-        rule(y + lineHeight() - lineHeight() / 8);
-        for (const auto& row : table.rows) {
-            y += lineHeight();
-            paintRow(row, y, colors_.text);
-        }
-    }
-
-    /// The first column has twice the width of each other one.
-    void paintRow(const std::vector<std::string>& cells, int y, std::uint32_t color) {
-        const int width = free_.width() / (static_cast<int>(cells.size()) + 1);
-        int right = free_.x();
-        for (std::size_t i = 0; i < cells.size(); ++i) {
-            const int room = i == 0 ? 2 * width : width;
-            right += room;
-            const QString text = measures_.text.shortened(QString::fromStdString(cells[i]),
-                                                          room - measures_.scaled(6));
-            const int x = i == 0 ? free_.x() : right - measures_.text.width(text);
-            write(measures_.text, text, QPointF(x, y), color);
-        }
+        const TablePlaces table =
+            placesOf(content_.numbers, free_.width(), {measures_.textHeight, measures_.scaled(10)});
+        if (table.texts.empty()) return;
+        const QPoint corner(free_.x(), free_.bottom() - table.height);
+        free_.setBottom(corner.y() - lineHeight());
+        const TextFace face(table.textHeight);
+        for (const TableText& text : table.texts)
+            write(face, text.text, corner + text.corner,
+                  text.isHead ? colors_.quiet : colors_.text);
+        for (const int y : table.rules)
+            rule(corner.y() + y);
     }
 
     void paintOrbits() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/export/report_table.h"
 #include "workbench/paint/picture_studio.h"
 
 #include <functional>
@@ -15,12 +16,6 @@ struct ReportOrbit {
     std::function<void(Meridax::Host::Ref<Meridax::Host::IHostCanvas>, const PictureArea&)> draw;
 };
 
-/// Numbers in lines and columns; the first column is words, the others stand to the right.
-struct ReportTable {
-    std::vector<std::string> head = {};
-    std::vector<std::vector<std::string>> rows = {};
-};
-
 /// What stands on a report page, from the top down.
 struct ReportContent {
     std::string title;
@@ -30,9 +25,10 @@ struct ReportContent {
     std::vector<std::string> notes = {};  ///< what a person should know, a line each
 };
 
-/// One page in the order's size, always dark on light: it is printed. Texts are cut with an
-/// ellipsis where they do not fit, and notes are left out from the end, which the last line then
-/// says. Raises `std::runtime_error` where the page is too small for its orbits.
+/// One page in the order's size, always dark on light: it is printed. Facts and notes go on in
+/// further lines, and the numbers in further blocks, where they are too long; only what has no room
+/// then is cut with an ellipsis. Notes are left out from the end, which the last line then says.
+/// Raises `std::runtime_error` where the page is too small for its orbits.
 std::string paintReport(const ReportContent& content, const PictureOrder& order);
 
 }  // namespace Rotavue::Workbench
