@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "workbench/recording/degrees.h"
-#include "workbench/recording/value_memory.h"
+#include "workbench/recording/ranked_value.h"
 
 namespace Rotavue::Workbench {
 namespace {
@@ -22,33 +22,14 @@ struct Swing {
     double size() const { return high - low; }
 };
 
-std::vector<double> copyOf(std::span<const double> values) {
-    std::vector<double> copy;
-    reserveValues(copy, values.size());
-    copy.assign(values.begin(), values.end());
-    return copy;
-}
-
-using Place = std::vector<double>::iterator;
-
-Place placeOf(std::vector<double>& values, double part) {
+double quantile(std::span<const double> values, double part) {
     const double place = part * static_cast<double>(values.size() - 1);
-    return values.begin() + static_cast<std::ptrdiff_t>(std::lround(place));
-}
-
-// The quantile whose place is known to lie behind `from`: what is before it is smaller.
-double quantile(std::vector<double>& values, Place from, double part) {
-    const Place nth = placeOf(values, part);
-    std::nth_element(from, nth, values.end());
-    return *nth;
+    return valueOfRank(values, static_cast<std::size_t>(std::lround(place)));
 }
 
 Swing swingOf(std::span<const double> volts) {
     if (volts.empty()) return {};
-    std::vector<double> values = copyOf(volts);
-    const double low = quantile(values, values.begin(), LowQuantile);
-    const double high = quantile(values, placeOf(values, LowQuantile), HighQuantile);
-    const Swing inner{low, high};
+    const Swing inner{quantile(volts, LowQuantile), quantile(volts, HighQuantile)};
     const auto [least, most] = std::minmax_element(volts.begin(), volts.end());
     const Swing whole{*least, *most};
     return inner.size() < LeastQuantileSpan * whole.size() ? whole : inner;
@@ -86,24 +67,19 @@ std::vector<double> findPulses(std::span<const double> volts, const PulseRule& r
     return pulses;
 }
 
-std::vector<double> angleFromPulses(std::span<const double> pulses, std::size_t count,
-                                    int pulsesPerTurn) {
+void angleFromPulses(std::span<const double> pulses, int pulsesPerTurn, std::span<double> angle) {
     const auto perTurn = static_cast<std::size_t>(pulsesPerTurn);
     const double step = DegreesPerTurn / pulsesPerTurn;
-    std::vector<double> angle;
-    reserveValues(angle, count);
-    angle.resize(count);
     std::size_t i = 0;
     for (std::size_t k = 0; k + 1 < pulses.size(); ++k) {
         const bool last = k + 2 == pulses.size();
         const double period = pulses[k + 1] - pulses[k];
         const auto first = static_cast<double>(k % perTurn);
-        for (; i < count && (last || static_cast<double>(i) < pulses[k + 1]); ++i) {
+        for (; i < angle.size() && (last || static_cast<double>(i) < pulses[k + 1]); ++i) {
             const double part = (static_cast<double>(i) - pulses[k]) / period;
             angle[i] = wrappedDegrees((first + part) * step);
         }
     }
-    return angle;
 }
 
 double speedFromPulses(std::span<const double> pulses, double sampleRate, int pulsesPerTurn) {
@@ -136,8 +112,7 @@ KeyphasorKind kindFromValues(std::span<const double> values) {
     const auto [least, most] = std::minmax_element(values.begin(), values.end());
     const double span = *most - *least;
     if (span < 300.0 || span > 361.0) return KeyphasorKind::Volts;
-    std::vector<double> copy = copyOf(values);
-    const double middle = (quantile(copy, copy.begin(), 0.5) - *least) / span;
+    const double middle = (quantile(values, 0.5) - *least) / span;
     return middle >= 0.25 && middle <= 0.75 ? KeyphasorKind::Ramp : KeyphasorKind::Volts;
 }
 

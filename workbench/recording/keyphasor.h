@@ -28,12 +28,10 @@ PulseRule pulseRuleFor(std::span<const double> volts, const KeyphasorOptions& op
 /// sample before the crossing and the one behind it.
 std::vector<double> findPulses(std::span<const double> volts, const PulseRule& rule);
 
-/// The shaft's angle at each of `count` samples, in degrees from 0 to below 360: 0 at the first
-/// pulse, 360 / `pulsesPerTurn` further at each one after it, linear in between, and going on
-/// before the first and behind the last pulse with the neighbouring period. `pulses` holds two or
-/// more.
-std::vector<double> angleFromPulses(std::span<const double> pulses, std::size_t count,
-                                    int pulsesPerTurn);
+/// Writes the shaft's angle at each sample, in degrees from 0 to below 360: 0 at the first pulse,
+/// 360 / `pulsesPerTurn` further at each one after it, linear in between, and going on before the
+/// first and behind the last pulse with the neighbouring period. `pulses` holds two or more.
+void angleFromPulses(std::span<const double> pulses, int pulsesPerTurn, std::span<double> angle);
 
 /// The mean speed in rpm from the first to the last of two or more pulses.
 double speedFromPulses(std::span<const double> pulses, double sampleRate, int pulsesPerTurn);

@@ -198,14 +198,15 @@ void RecordingBuilder::takeKeyphasor() {
             break;
         case KeyphasorKind::Volts:
         case KeyphasorKind::None:
-            takePulses(values);
+            takePulses(std::move(values));
             break;
     }
     noteFastTurns();
     noteMissingMark();
 }
 
-void RecordingBuilder::takePulses(const std::vector<double>& volts) {
+// The angle takes the place of the volts: the memory of a large recording is what reading it costs.
+void RecordingBuilder::takePulses(std::vector<double> volts) {
     const PulseRule rule = pulseRuleFor(volts, options_.keyphasor);
     const std::vector<double> pulses = findPulses(volts, rule);
     if (pulses.size() < 2) {
@@ -217,7 +218,8 @@ void RecordingBuilder::takePulses(const std::vector<double>& volts) {
     }
     const int pulsesPerTurn = options_.keyphasor.pulsesPerTurn.value_or(1);
     recording_.pulsesPerTurn = pulsesPerTurn;
-    recording_.angle = angleFromPulses(pulses, volts.size(), pulsesPerTurn);
+    angleFromPulses(pulses, pulsesPerTurn, volts);
+    recording_.angle = std::move(volts);
     recording_.meanSpeed = speedFromPulses(pulses, recording_.sampleRate, pulsesPerTurn);
     for (const double pulse : pulses) {
         recording_.pulseTimes.push_back(pulse / recording_.sampleRate);

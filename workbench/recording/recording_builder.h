@@ -37,7 +37,7 @@ private:
     void noteGaps();
 
     void takeKeyphasor();
-    void takePulses(const std::vector<double>& volts);
+    void takePulses(std::vector<double> volts);
     void takeRamp(std::vector<double> degrees);
     void takeSpeed(std::vector<double> rpm);
     void noteFastTurns();

@@ -11,7 +11,6 @@
 
 #include "workbench/recording/input_file.h"
 #include "workbench/recording/number_field.h"
-#include "workbench/recording/value_memory.h"
 
 namespace Rotavue::Workbench {
 namespace {
@@ -158,7 +157,7 @@ std::vector<std::vector<double>> WavFile::read(std::span<const WantedColumn> wan
     const std::size_t expected = handle_->mostFrames(std::filesystem::file_size(file_));
     std::vector<std::vector<double>> columns(wanted.size());
     for (std::vector<double>& column : columns)
-        reserveValues(column, std::min(expected, MaxSampleCount));
+        column.reserve(std::min(expected, MaxSampleCount));
     std::vector<double> block(BlockLength * channelCount);
     handle_->rewind();
     std::size_t total = 0;
