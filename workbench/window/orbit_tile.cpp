@@ -89,8 +89,7 @@ OrbitTile::OrbitTile(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent
     setCurrent(false);
     tellFacts();
     tellNotes();
-    // After each frame, which the facts belong to.
-    connect(&view_, &OrbitView::drawn, this, &OrbitTile::tellFacts);
+    connect(&view_, &OrbitView::drawn, this, &OrbitTile::followFrame);
     connect(&bench_, &Bench::notesChanged, this, [this](const Plane* changed) {
         if (changed == &view_.plane()) tellNotes();
     });
@@ -126,7 +125,16 @@ void OrbitTile::setCurrent(bool current) {
                   QString::fromStdString(view_.plane().name()));
 }
 
+// The facts belong to the frame. While playing nobody reads those of each one, and another speed
+// lays the tile out anew.
+void OrbitTile::followFrame() {
+    constexpr int FramesBetween = 8;
+    const bool waits = bench_.playback().isPlaying() && ++framesSinceFacts_ < FramesBetween;
+    if (!waits) tellFacts();
+}
+
 void OrbitTile::tellFacts() {
+    framesSinceFacts_ = 0;
     const QString text = factsOf(view_.plane());
     if (text == facts_.toolTip()) return;
     facts_.setToolTip(text);

@@ -29,6 +29,7 @@ public:
 
 private:
     void layOut();
+    void followFrame();
     void tellFacts();
     void tellNotes();
 
@@ -38,6 +39,7 @@ private:
     QLabel facts_;
     QToolButton notesButton_;
     QLabel notes_;
+    int framesSinceFacts_ = 0;
 };
 
 /// "direct + 1X, 8 turns, 2998 rpm, X 45° R, Y 45° L, CCW": what a picture of the plane must say.

@@ -24,10 +24,10 @@ QString rateText(double rate) {
 StatusFacts::StatusFacts(Bench& bench, OrbitTiles& tiles, QStatusBar& bar)
     : bench_(bench),
       tiles_(tiles),
-      place_(new QLabel(&bar)),
-      speed_(new QLabel(&bar)),
-      rate_(new QLabel(&bar)),
-      dropped_(new QLabel(&bar)),
+      place_(new SteadyLabel(&bar)),
+      speed_(new SteadyLabel(&bar)),
+      rate_(new SteadyLabel(&bar)),
+      dropped_(new SteadyLabel(&bar)),
       scale_(new QToolButton(&bar)) {
     place_->setObjectName("place");
     place_->setToolTip(tr("Time of the newest sample, and the length of the recording"));
@@ -36,7 +36,7 @@ StatusFacts::StatusFacts(Bench& bench, OrbitTiles& tiles, QStatusBar& bar)
     dropped_->setToolTip(tr("Frames that came later than a thirtieth of a second"));
     scale_->setObjectName("scale");
     scale_->setAutoRaise(true);
-    for (QLabel* label : {place_, speed_, rate_, dropped_})
+    for (SteadyLabel* label : {place_, speed_, rate_, dropped_})
         bar.addPermanentWidget(label);
     bar.addPermanentWidget(scale_);
     connect(scale_, &QToolButton::clicked, this, &StatusFacts::makeEqual);
@@ -48,16 +48,16 @@ StatusFacts::StatusFacts(Bench& bench, OrbitTiles& tiles, QStatusBar& bar)
 
 void StatusFacts::tell() {
     Plane* plane = tiles_.current();
-    for (QLabel* label : {place_, speed_, rate_, dropped_})
+    for (SteadyLabel* label : {place_, speed_, rate_, dropped_})
         label->setVisible(plane != nullptr);
     scale_->setVisible(plane != nullptr);
     if (plane == nullptr) return;
-    place_->setText(
+    place_->tell(
         tr("%1 of %2 s").arg(bench_.cursor(), 0, 'f', 4).arg(bench_.duration(), 0, 'f', 4));
     const double speed = plane->span().speed;
-    speed_->setText(speed > 0.0 ? tr("%1 rpm").arg(number(speed)) : tr("no speed"));
-    rate_->setText(rateText(plane->shown().recording.sampleRate));
-    dropped_->setText(tr("%1 late").arg(bench_.playback().droppedFrames()));
+    speed_->tell(speed > 0.0 ? tr("%1 rpm").arg(number(speed)) : tr("no speed"));
+    rate_->tell(rateText(plane->shown().recording.sampleRate));
+    dropped_->tell(tr("%1 late").arg(bench_.playback().droppedFrames()));
     // The control's scale is known behind its frame.
     if (!bench_.playback().isPlaying()) {
         QMetaObject::invokeMethod(

@@ -2,8 +2,8 @@
 
 #include "workbench/bench/bench.h"
 #include "workbench/window/orbit_tiles.h"
+#include "workbench/window/steady_label.h"
 
-#include <QLabel>
 #include <QToolButton>
 
 class QStatusBar;
@@ -28,10 +28,10 @@ private:
 
     Bench& bench_;
     OrbitTiles& tiles_;
-    QLabel* place_;
-    QLabel* speed_;
-    QLabel* rate_;
-    QLabel* dropped_;
+    SteadyLabel* place_;
+    SteadyLabel* speed_;
+    SteadyLabel* rate_;
+    SteadyLabel* dropped_;
     QToolButton* scale_;
 };
 

@@ -39,6 +39,7 @@ double durationOf(const std::vector<PlotLane>& lanes) {
 }  // namespace
 
 TimePlot::TimePlot(QWidget* parent) : QWidget(parent), colors_(plotColors(palette())) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::CrossCursor);
     setToolTip(
