@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace Meridax::VisualControls::Rotavue {
 namespace {
 
@@ -52,6 +54,30 @@ TEST(RegistryFile, ValueMayChangeItsKind) {
     file.set(L"A", {L"Width", 400U});
     EXPECT_EQ(file.text(L"A", L"Width"), nullptr);
     EXPECT_NE(file.number(L"A", L"Width"), nullptr);
+}
+
+TEST(RegistryFile, NumberOfATextOrOfNothingIsNull) {
+    RegistryFile file = withKeys({L"A"});
+    file.set(L"A", {L"Name", L"400"});
+    EXPECT_EQ(file.number(L"A", L"Name"), nullptr);
+    EXPECT_EQ(file.number(L"A", L"Width"), nullptr);
+    EXPECT_EQ(file.number(L"B", L"Name"), nullptr);
+}
+
+TEST(RegistryFile, DiffersByEachOfItsParts) {
+    const auto holding = [](const wchar_t* path, RegistryValue value) {
+        RegistryFile file = withKeys({path});
+        file.set(path, std::move(value));
+        return file;
+    };
+    const RegistryFile file = holding(L"A", {L"N", 0U});
+    EXPECT_EQ(file, holding(L"A", {L"N", 0U}));
+    EXPECT_NE(file, RegistryFile());
+    EXPECT_NE(file, holding(L"B", {L"N", 0U}));
+    EXPECT_NE(file, holding(L"A", {L"M", 0U}));
+    EXPECT_NE(file, holding(L"A", {L"N", 1U}));
+    EXPECT_NE(file, holding(L"A", {L"N", L""}));
+    EXPECT_NE(holding(L"A", {L"N", L"x"}), holding(L"A", {L"N", L"y"}));
 }
 
 TEST(RegistryFile, ValueNeedsItsKey) {
