@@ -43,6 +43,7 @@ struct NearestSample {
     Point position;  ///< canvas pixels; the pointer's own place while nothing is found
     double distance = 0;
     bool found = false;
+    const void* search = nullptr;  ///< the one that told `info`; another frame's can come between
 };
 
 /// Everything that a frame needs besides the canvas and the curves. Lengths are canvas pixels,

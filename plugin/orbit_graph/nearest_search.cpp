@@ -13,6 +13,7 @@ NearestSearch::NearestSearch(NearestSample& nearest, const Point& pointer)
 
 void NearestSearch::beginCurve(const OrbitCurve& curve) {
     curve_ = &curve;
+    infoTold_ = false;
 }
 
 /// Squares that differ can have the same root; the earlier sample then stays.
@@ -23,11 +24,19 @@ bool NearestSearch::takeIfNearer(const Point& value, const Point& position, doub
     nearest_.position = position;
     nearest_.x = value.x;
     nearest_.y = value.y;
-    nearest_.info = curve_->info;
+    tellInfo();
     nearest_.kind = curve_->kind;
     nearest_.distance = distance;
     nearest_.found = true;
     return true;
+}
+
+/// Once for a curve, for its name may be long and each of its samples nearer than the last.
+void NearestSearch::tellInfo() {
+    if (infoTold_ && nearest_.search == this) return;
+    nearest_.info = curve_->info;
+    nearest_.search = this;
+    infoTold_ = true;
 }
 
 }  // namespace Meridax::VisualControls::Rotavue

@@ -25,11 +25,13 @@ public:
 
 private:
     bool takeIfNearer(const Point& value, const Point& position, double squared);
+    void tellInfo();
 
     NearestSample& nearest_;
     Point pointer_;
     double squaredDistance_ = std::numeric_limits<double>::infinity();
     const OrbitCurve* curve_ = nullptr;
+    bool infoTold_ = false;  ///< of that curve
 };
 
 }  // namespace Meridax::VisualControls::Rotavue

@@ -62,6 +62,35 @@ TEST(NearestSearch, TellsTheCurveOfItsMatch) {
     EXPECT_EQ(nearest.kind, OrbitKind::Reference);
 }
 
+TEST(NearestSearch, TakesTheNameOfACurveOnceHoweverManySamplesAreNearer) {
+    NearestSample nearest;
+    NearestSearch search(nearest, {0, 0});
+    const OrbitCurve curve = curveOf(OrbitKind::Raw, 1, L"curve", L"um");
+    search.beginCurve(curve);
+    search.offer({1, 1}, {9, 0});
+    nearest.info.name = L"mark";
+    EXPECT_TRUE(search.offer({2, 2}, {8, 0}));
+    EXPECT_EQ(nearest.info.name, L"mark");
+    search.beginCurve(curve);
+    EXPECT_TRUE(search.offer({3, 3}, {7, 0}));
+    EXPECT_EQ(nearest.info, curve.info);
+}
+
+TEST(NearestSearch, TakesTheNameAnewWhenAnotherFrameCameBetween) {
+    NearestSample nearest;
+    const OrbitCurve curve = curveOf(OrbitKind::Raw, 1, L"curve", L"um");
+    const OrbitCurve other = curveOf(OrbitKind::Raw, 2, L"other", L"mil");
+    NearestSearch search(nearest, {0, 0});
+    search.beginCurve(curve);
+    search.offer({1, 1}, {9, 0});
+    NearestSearch inner(nearest, {0, 0});
+    inner.beginCurve(other);
+    inner.offer({2, 2}, {8, 0});
+    EXPECT_EQ(nearest.info.name, L"other");
+    EXPECT_TRUE(search.offer({3, 3}, {7, 0}));
+    EXPECT_EQ(nearest.info, curve.info);
+}
+
 TEST(NearestSearch, PassesOverWhatHasNoDistance) {
     NearestSample nearest;
     NearestSearch search(nearest, {0, 0});
