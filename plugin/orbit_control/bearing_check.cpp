@@ -1,24 +1,30 @@
 #include "plugin/orbit_control/assignment.h"
 #include "plugin/orbit_control/rotavue_visual_control.h"
 
-#include <algorithm>
-#include <functional>
+#include <utility>
 
 namespace Meridax::VisualControls::Rotavue {
 
 bool RotavueVisualControl::checkBearingConfig() {
     pointAllowance_.renew();
     stampAllowance_.renew();
+    textAllowance_.renew();
     bearingConfigs_.clear();
-    forEachChannel(hostControl, [&](Host::IHostChannel& channel) {
-        bearingConfigs_.push_back(readBearingConfig(channel));
-    });
+    forEachChannel(hostControl,
+                   [&](Host::IHostChannel& channel) { noteBearing(readBearingConfig(channel)); });
     forEachGroup(hostControl, [&](Host::IHostChannelList& group) {
         if (!isOrbitGroupUsable(group)) return;
-        bearingConfigs_.push_back(readBearingConfig(*group.getItem(0)));
+        noteBearing(readBearingConfig(*group.getItem(0)));
     });
-    return std::ranges::adjacent_find(bearingConfigs_, std::ranges::not_equal_to{}) ==
-           bearingConfigs_.end();
+    return bearingConfigs_.size() < 2;
+}
+
+// The first, and the first that differs from it: one says as much as all that follow, each of which
+// may have a text of any length.
+void RotavueVisualControl::noteBearing(BearingConfig config) {
+    if (bearingConfigs_.size() == 2) return;
+    if (bearingConfigs_.empty() || config != bearingConfigs_.front())
+        bearingConfigs_.push_back(std::move(config));
 }
 
 void RotavueVisualControl::applyBearingConfig(Host::IHostChannel& channel) {

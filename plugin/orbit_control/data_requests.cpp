@@ -9,9 +9,11 @@
 namespace Meridax::VisualControls::Rotavue {
 
 // One request after the other goes out with the same list: filled before it, emptied after it. A
-// request that fails leaves the list as it is.
+// request that fails leaves the list as it is, but not for ever: a host that refuses all of them
+// doesn't fill it without end.
 void RotavueVisualControl::requestData(Host::DataPosition& first, Host::DataPosition& second) {
     if (!dataRequestList_) dataRequestList_ = hostApp->createChannelList();
+    if (unsent_ > MostAssigned) clearRequest();
     const DataWindow window = DataWindow::read(hostApp);
     forEachChannel(hostControl, [&](Host::IHostChannel& channel) {
         const OrbitKind kind = readOrbitType(channel);
@@ -27,7 +29,7 @@ void RotavueVisualControl::requestData(Host::DataPosition& first, Host::DataPosi
 }
 
 void RotavueVisualControl::requestWholeRange(Host::IHostChannel& channel) {
-    dataRequestList_->add(channel);
+    addToRequest(channel);
     const Host::DataPosition from = hostApp->getData()->getFirstPosition();
     const Host::DataPosition to = hostApp->getData()->getLastPosition();
     sendRequest(from, to);
@@ -38,7 +40,7 @@ void RotavueVisualControl::requestChannel(Host::IHostChannel& channel, DataWindo
     const double rate = channel.getSampleRate();
     if (rate == 0.0) return;
     window.cutSeconds(2.0 / rate);
-    dataRequestList_->add(channel);
+    addToRequest(channel);
     sendRequest(window.from, window.to);
 }
 
@@ -48,7 +50,7 @@ void RotavueVisualControl::requestGroup(Host::IHostChannelList& group, DataWindo
     window.cutSeconds(*span);
     const std::int32_t count = std::min(group.getCount(), MostAssigned);
     for (std::int32_t i = 0; i < count; ++i)
-        dataRequestList_->add(*group.getItem(i));
+        addToRequest(*group.getItem(i));
     sendRequest(window.from, window.to);
 }
 
@@ -64,7 +66,17 @@ std::optional<double> RotavueVisualControl::requestedSpan(Host::IHostChannelList
 
 void RotavueVisualControl::sendRequest(Host::DataPosition from, Host::DataPosition to) {
     hostControl->requestData(from, to, 0, true, *dataRequestList_);
+    clearRequest();
+}
+
+void RotavueVisualControl::addToRequest(Host::IHostChannel& channel) {
+    dataRequestList_->add(channel);
+    ++unsent_;
+}
+
+void RotavueVisualControl::clearRequest() {
     dataRequestList_->clear();
+    unsent_ = 0;
 }
 
 }  // namespace Meridax::VisualControls::Rotavue

@@ -53,7 +53,7 @@ OrbitCurve RotavueVisualControl::readSubSyncCurve(Host::IHostChannel& channel) {
     const std::int64_t count = std::max<std::int64_t>(std::min(held, shown), 0);
     OrbitCurve curve;
     foldExtents(readPoints(channel, {0, static_cast<std::int32_t>(count)}, curve.points));
-    curve.info = fillChannelInfo(channel);
+    curve.info = readInfo(channel);
     curve.kind = OrbitKind::Raw;
     return curve;
 }
@@ -73,7 +73,7 @@ OrbitCurve RotavueVisualControl::readReferenceCurve(Host::IHostChannel& channel)
     for (std::int32_t k = 0; k < count; ++k)
         curve.points.push_back(readArrayPoint(channel, frame, k));
     foldExtents(extentsOf(curve.points));
-    curve.info = fillChannelInfo(channel);
+    curve.info = readInfo(channel);
     curve.kind = OrbitKind::Reference;
     return curve;
 }
@@ -89,7 +89,7 @@ OrbitCurve RotavueVisualControl::readAverageCurve(Host::IHostChannel& channel) {
         curve.samples.push_back({point.x, point.y, k * axis.step + axis.start});
     }
     foldExtents(extentsOfSamples(curve.samples));
-    curve.info = fillChannelInfo(channel);
+    curve.info = readInfo(channel);
     curve.kind = OrbitKind::Average;
     return curve;
 }
@@ -98,7 +98,7 @@ OrbitCurve RotavueVisualControl::readHarmonicCurve(Host::IHostChannel& channel) 
     OrbitCurve curve;
     readPhasors(channel, curve.points);
     foldExtents(extentsOfPhasors(curve.points, sensorFrame()));
-    curve.info = fillChannelInfo(channel);
+    curve.info = readInfo(channel);
     curve.kind = OrbitKind::Harmonic;
     return curve;
 }
@@ -133,7 +133,7 @@ OrbitCurve RotavueVisualControl::readShaftCenterCurve(Host::IHostChannel& channe
     for (std::int32_t back = count - 1; back >= 0; --back)
         curve.samples[static_cast<std::size_t>(back)] = readShaftCenter(channel, frame, back);
     foldExtents(extentsOfSamples(curve.samples));
-    curve.info = fillChannelInfo(channel);
+    curve.info = readInfo(channel);
     curve.kind = OrbitKind::ShaftCenter;
     return curve;
 }

@@ -18,9 +18,20 @@ OrbitCurve RotavueVisualControl::readRawCurve(Host::IHostChannelList& group) {
         extents = readPoints(*channel, findHistoryWindow(tacho.get()), curve.points);
     }
     foldExtents(extents);
-    curve.info = fillChannelInfo(*channel);
+    curve.info = readInfo(*channel);
     curve.kind = OrbitKind::Raw;
     return curve;
+}
+
+// Names and units together take no more than the frame's allowance: a long one costs as much again
+// for each time that its channel is assigned.
+ChannelInfo RotavueVisualControl::readInfo(Host::IHostChannel& channel) {
+    ChannelInfo info = fillChannelInfo(channel);
+    for (std::wstring* text : {&info.unit, &info.name}) {
+        const auto length = static_cast<std::int64_t>(text->size());
+        text->resize(static_cast<std::size_t>(textAllowance_.take(length)));
+    }
+    return info;
 }
 
 Extents RotavueVisualControl::readPoints(Host::IHostChannel& channel, HistoryWindow window,

@@ -9,6 +9,9 @@ namespace Meridax::VisualControls::Rotavue {
 /// length of the history come from outside and may be anything; this keeps time and memory within
 /// bounds whatever they say. What lies beyond is not read: a curve ends early, a search ends
 /// without a find.
+///
+/// The characters of names and units are allowed for in the same way: some two thousand for each of
+/// as many curves as are walked through.
 class ReadAllowance {
 public:
     /// The longest time of the property panel, 10,000 ms, at a master rate of 1 MHz: a hundred

@@ -103,6 +103,7 @@ private:
 
     /// Begins a pass over all channels: false when their bearings differ.
     bool checkBearingConfig();
+    void noteBearing(BearingConfig config);
 
     /// Takes the channel's geometry over into control and graph, and sets the arrow's direction.
     void applyBearingConfig(Host::IHostChannel& channel);
@@ -155,6 +156,7 @@ private:
     OrbitCurve readAverageCurve(Host::IHostChannel& channel);
     OrbitCurve readHarmonicCurve(Host::IHostChannel& channel);
     OrbitCurve readShaftCenterCurve(Host::IHostChannel& channel);
+    ChannelInfo readInfo(Host::IHostChannel& channel);
 
     /// Reads the points of a window, newest first, and gives their extents.
     Extents readPoints(Host::IHostChannel& channel, HistoryWindow window,
@@ -182,6 +184,8 @@ private:
     void requestChannel(Host::IHostChannel& channel, DataWindow window);
     void requestGroup(Host::IHostChannelList& group, DataWindow window);
     std::optional<double> requestedSpan(Host::IHostChannelList& group);
+    void addToRequest(Host::IHostChannel& channel);
+    void clearRequest();
     void sendRequest(Host::DataPosition from, Host::DataPosition to);
 
     // ---- Property panel --------------------------------------------------------------------
@@ -213,9 +217,11 @@ private:
     Point lastPointer_;                                  ///< where a drag saw the pointer last
     OrbitGraph graph_;                                   ///< the drawing engine
     Host::Ref<Host::IHostChannelList> dataRequestList_;  ///< made on first need, then kept
-    std::vector<BearingConfig> bearingConfigs_;          ///< of the last check
+    std::int32_t unsent_ = 0;                            ///< channels in it from failed requests
+    std::vector<BearingConfig> bearingConfigs_;          ///< of the last check, the first two kinds
     ReadAllowance pointAllowance_;                       ///< for points and turns of a frame
     ReadAllowance stampAllowance_;                       ///< for time stamps of a frame
+    ReadAllowance textAllowance_;                        ///< for names and units of a frame
     RepeatedQuotient cursorQuotient_;                    ///< the cursor's sample by the master rate
     RepeatedQuotient spacingQuotient_;                   ///< 1 by a channel's rate
 };

@@ -50,6 +50,20 @@ TEST_F(BearingCheck, UnusableGroupsAreLeftOut) {
     EXPECT_EQ(key.bearingConfigs.size(), 1U);
 }
 
+TEST_F(BearingCheck, KeepsTheFirstAndTheFirstThatDiffersHoweverManyThereAre) {
+    const std::wstring text(1'000'000, L'C');
+    for (const char* id : {"a", "b", "c"})
+        assign(id, L"45").properties[L"Orbit Rotation Direction"] = text;
+    EXPECT_TRUE(key.checkBearingConfig());
+    EXPECT_EQ(key.bearingConfigs.size(), 1U);
+    assign("d", L"46");
+    assign("e", L"47");
+    EXPECT_FALSE(key.checkBearingConfig());
+    ASSERT_EQ(key.bearingConfigs.size(), 2U);
+    EXPECT_EQ(key.bearingConfigs[0].directionText, text);
+    EXPECT_EQ(key.bearingConfigs[1].xAngle, 46.0);
+}
+
 TEST_F(BearingCheck, StartsAnewEachTime) {
     assign("a", L"45");
     assign("b", L"46");

@@ -1,3 +1,4 @@
+#include "plugin/orbit_control/assignment.h"
 #include "tests/plugin/orbit_control/control_test.h"
 
 namespace Meridax::VisualControls::Rotavue {
@@ -143,6 +144,16 @@ TEST_F(DataRequests, RefusedRequestLeavesTheListAndTheResults) {
     EXPECT_EQ(key.dataRequestList->getCount(), 1);
     EXPECT_EQ(first, (Host::DataPosition{1, 2})) << "not zeroed yet";
     EXPECT_EQ(request(), sent("[0, 0]", "[99, 0]", R"(["c", "c"])"));
+}
+
+TEST_F(DataRequests, RefusedForEverDoNotFillTheListWithoutEnd) {
+    assignChannel("c", L"");
+    for (int i = 0; i < 3 * MostAssigned; ++i) {
+        host.fail(HostKit::operation("IHostVisualControl.requestData"));
+        EXPECT_THROW(control.requestData(first, second), Host::HostError);
+    }
+    EXPECT_LE(key.dataRequestList->getCount(), MostAssigned + 1);
+    EXPECT_GT(key.dataRequestList->getCount(), 0);
 }
 
 TEST_F(DataRequests, NullChannelInsideAGroupRaisesWhenItIsAdded) {

@@ -36,6 +36,18 @@ TEST_F(RawCurve, HoldsTheNewestSampleFirst) {
     EXPECT_EQ(key.dataExtents.range(), (Range{2.0, 4.0, -6.0, 8.0}));
 }
 
+TEST_F(RawCurve, NamesAndUnitsEndWhereTheAllowanceOfTheFrameIsUsedUp) {
+    channel("orbit").unit = std::wstring(3'000'000, L'u');
+    channel("orbit").name = std::wstring(5'000'000, L'n');
+    ASSERT_TRUE(key.checkBearingConfig());
+    EXPECT_EQ(read({"orbit"}).info.name.size(), 5'000'000U);
+    const OrbitCurve second = read({"orbit"});  // 2,000,000 characters are left
+    EXPECT_EQ(second.info.unit.size(), 2'000'000U);
+    EXPECT_EQ(second.info.name, L"");
+    ASSERT_TRUE(key.checkBearingConfig());
+    EXPECT_EQ(read({"orbit"}).info.name.size(), 5'000'000U) << "each frame has its own";
+}
+
 TEST_F(RawCurve, IsTurnedByTheBearingOfItsOwnChannel) {
     channel("orbit").properties = {{L"Orbit Y Angle", L"90"}};
     key.displayTime = 1.0;
