@@ -7,8 +7,6 @@
 #include "plugin/orbit_control/setting_values.h"
 #include "plugin/orbit_graph/number_format.h"
 
-#include <algorithm>
-
 namespace Meridax::VisualControls::Rotavue {
 namespace {
 
@@ -123,15 +121,11 @@ void ClipboardWriter::addShaftCenter(Host::IHostChannel& channel) {
     }
 }
 
-// How many of the wanted rows the text and the control's allowance still hold; a row takes a place
-// for each tab that it has, and so bounds the width as well as the length of the text.
+// How many of the wanted rows the control's allowance still holds; a row takes a place for each tab
+// that it has, and so bounds the width as well as the length of the text.
 std::int32_t ClipboardWriter::rowsFor(std::int64_t wanted) {
     const auto tabs = static_cast<std::int64_t>(columns_.size()) - 1;
-    const std::int64_t most = std::min(wanted, rowsLeft_);
-    const std::int32_t rows =
-        static_cast<std::int32_t>(control_.pointAllowance_.take(most * tabs) / tabs);
-    rowsLeft_ -= rows;
-    return rows;
+    return static_cast<std::int32_t>(control_.pointAllowance_.take(wanted * tabs) / tabs);
 }
 
 // The numbers fill the columns from the left; a column without one stays empty.

@@ -27,13 +27,10 @@ public:
 
     std::wstring takeText() { return std::move(text_); }
 
-    /// How many rows all sections have together at most: as many as a sheet of the usual
-    /// spreadsheets, and more than ten seconds at 100 kHz. Rows beyond are left out.
-    static constexpr std::int64_t MostRows = 1'048'576;
-
-    /// How long the text grows before rows and titles are left out: 32 characters for each of so
-    /// many rows. A number can have 300 digits, and a name a million characters.
-    static constexpr std::size_t MostCharacters = std::size_t{32} * MostRows;
+    /// How long the text grows before rows and titles are left out: some three million rows of
+    /// usual numbers, the longest time of the property panel at 300 kHz. A number can have 300
+    /// digits, and a name a million characters.
+    static constexpr std::size_t MostCharacters = std::size_t{1} << 26;
 
 private:
     bool full() const { return text_.size() >= MostCharacters; }
@@ -51,7 +48,6 @@ private:
 
     RotavueVisualControl& control_;
     std::deque<std::wstring> columns_{L"%.3f", L"%.3f"};  ///< the format of each column of a row
-    std::int64_t rowsLeft_ = MostRows;
     std::wstring text_;
 };
 

@@ -1,5 +1,6 @@
 #include "plugin/orbit_control/read_allowance.h"
 #include "plugin/orbit_graph/scales.h"
+#include "plugin/settings/clipboard_writer.h"
 #include "plugin/settings/panel_table.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +18,13 @@ TEST(PanelBounds, EveryNumberOfTicksIsDrawn) {
 TEST(PanelBounds, TheLongestTimeIsReadWholeAtOneMegahertz) {
     const auto time = std::get<FloatEdit>(widgetNamed(L"HistoryTime").form);  // milliseconds
     EXPECT_GE(static_cast<double>(ReadAllowance::Places), time.maximum / 1000.0 * 1e6);
+}
+
+TEST(PanelBounds, TheLongestTimeIsCopiedWholeAtThreeHundredKilohertz) {
+    const auto time = std::get<FloatEdit>(widgetNamed(L"HistoryTime").form);  // milliseconds
+    constexpr double RowLength = 22;  // "-1234.567\t-1234.567\r\n" has 21
+    EXPECT_GE(static_cast<double>(ClipboardWriter::MostCharacters),
+              time.maximum / 1000.0 * 3e5 * RowLength);
 }
 
 }  // namespace
