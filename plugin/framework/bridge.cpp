@@ -3,6 +3,9 @@
 #include "plugin/framework/host/host_error.h"
 #include "plugin/framework/message_table.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace Meridax::VisualControls::Api {
 
 namespace {
@@ -14,6 +17,33 @@ public:
     void putBoolean(bool /*value*/) override {}
     void putFourIntegers() override {}
     void setInteger(std::size_t /*index*/, std::int32_t /*value*/) override {}
+};
+
+/// Holds the host's two objects as a message finds them. The message may hand in others while calls
+/// on these are under way, in it or in one round it: what one inside another has found stays until
+/// the outermost ends.
+class HeldHost {
+public:
+    explicit HeldHost(BridgeParts& parts)
+        : parts_(parts), found_{parts.hostApp, parts.hostControl} {
+        if (parts_.depth > 0 && !isHeld()) parts_.heldInside.push_back(found_);
+        ++parts_.depth;
+    }
+    HeldHost(const HeldHost&) = delete;
+    HeldHost& operator=(const HeldHost&) = delete;
+    ~HeldHost() {
+        --parts_.depth;
+        // The last release of an object may send the next message.
+        if (parts_.depth == 0) const auto ended = std::exchange(parts_.heldInside, {});
+    }
+
+private:
+    bool isHeld() const {
+        return std::ranges::find(parts_.heldInside, found_) != parts_.heldInside.end();
+    }
+
+    BridgeParts& parts_;
+    const HostObjects found_;
 };
 
 template <class Interface>
@@ -34,15 +64,14 @@ VisualControlBridge::VisualControlBridge(const BridgeNeeds& needs, Host::IHostOb
     : live_(needs.liveObjects),
       identity_(*this),
       outer_(outer == nullptr ? identity_ : *outer),
-      parts_{needs.clipboard, {}, {}, needs.makeControl()} {
+      parts_{needs.clipboard, {}, {}, needs.makeControl(), {}} {
     if (parts_.control == nullptr) Host::raiseNullObject();
 }
 
 std::int32_t VisualControlBridge::message(std::uint32_t code, const MessageArguments* arguments,
                                           MessageResult* result) {
     const auto self = Host::Ref<IMeridaxPlugin>::share(this);
-    const Host::Ref<Host::IHostApp> app = parts_.hostApp;
-    const Host::Ref<Host::IHostVisualControl> control = parts_.hostControl;
+    const HeldHost held(parts_);
     DroppedResult dropped;
     return handlerOf(code)({parts_, arguments, result == nullptr ? dropped : *result});
 }

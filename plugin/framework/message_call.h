@@ -6,8 +6,17 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace Meridax::VisualControls::Api {
+
+/// The host as one message found it.
+struct HostObjects {
+    Host::Ref<Host::IHostApp> app;
+    Host::Ref<Host::IHostVisualControl> control;
+
+    bool operator==(const HostObjects&) const = default;
+};
 
 /// What a bridge holds. Destroyed from the last to the first: the control (which gives back its own
 /// host references), then `hostControl`, then `hostApp`.
@@ -16,6 +25,8 @@ struct BridgeParts {
     Host::Ref<Host::IHostApp> hostApp;                ///< null until message 2
     Host::Ref<Host::IHostVisualControl> hostControl;  ///< null until message 2
     std::unique_ptr<VisualControl> control;           ///< never null
+    std::vector<HostObjects> heldInside;  ///< what messages inside another found, until that ends
+    std::int32_t depth = 0;               ///< messages that are under way
 };
 
 /// One message on its way through a handler.

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 /// Message 2 and the version gate in it.
@@ -114,6 +115,32 @@ TEST_F(Attach, RetainsTheNewObjectBeforeItReleasesTheOldOne) {
     }
     EXPECT_EQ(before.count, 0);
     EXPECT_EQ(after.count, 2);
+    plugin = nullptr;
+}
+
+TEST_F(Attach, FromInsideAMessageKeepsWhatItReplacesUntilTheOutermostEnds) {
+    std::vector<std::string> log;
+    Host::CountedApp first("first", log);
+    Host::CountedApp second("second", log);
+    Host::CountedApp third("third", log);
+    const auto handIn = [&](Host::CountedApp& app) {
+        send(MessageCode::Attach, {object(Host::Ref<Host::IHostApp>::share(&app)), nullObject()});
+    };
+    handIn(first);
+    bool isInside = false;
+    record.during = [&] {
+        if (std::exchange(isInside, true)) return;
+        for (int i = 0; i < 3; ++i) {
+            handIn(second);
+            handIn(third);
+        }
+        EXPECT_GT(first.count, 0);
+        EXPECT_GT(second.count, 0) << "calls on it may be under way";
+    };
+    send(MessageCode::Close);
+    EXPECT_EQ(first.count, 0);
+    EXPECT_EQ(second.count, 0);
+    EXPECT_EQ(third.count, 2);
     plugin = nullptr;
 }
 
