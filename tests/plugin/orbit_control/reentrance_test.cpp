@@ -3,6 +3,7 @@
 #include "tests/plugin/framework/doubles/clipboard_steps.h"
 #include "tests/plugin/framework/doubles/list_arguments.h"
 #include "tests/plugin/orbit_control/full_frame.h"
+#include "tests/plugin/setup_document/entry_node.h"
 
 #include <functional>
 #include <map>
@@ -42,16 +43,18 @@ class Reentrance : public FullFrame {
 protected:
     void watch(Interruption& interruption) { host.gate.watch(&interruption, HostKit::allGroups()); }
 
-    /// A frame that is interrupted after its n-th call. It ends whole, or at an object that has
-    /// gone.
-    void drawInterrupted(std::int64_t n, const std::function<void()>& act) {
+    /// What is interrupted: a frame, where nothing else is said.
+    std::function<void()> run = [this] { draw(); };
+
+    /// A run that is interrupted after its n-th call. It ends whole, or at an object that has gone.
+    void runInterrupted(std::int64_t n, const std::function<void()>& act) {
         Interruption interruption(n, [&] {
             host.gate.watch(nullptr, {});
             act();
         });
         watch(interruption);
         try {
-            draw();
+            run();
         } catch (const Host::HostError& error) {
             EXPECT_EQ(error.status, 0x80004003U) << n;
         }
@@ -59,10 +62,10 @@ protected:
         EXPECT_TRUE(interruption.happened()) << n;
     }
 
-    /// The places in a frame where it is interrupted: between any two operations that follow each
+    /// The places in a run where it is interrupted: between any two operations that follow each
     /// other somewhere in it, and every sixty-fourth call besides.
     std::vector<std::int64_t> places() {
-        const Lines calls = callsOf([&] { draw(); });
+        const Lines calls = callsOf(run);
         const auto operationOf = [](const std::string& line) {
             return line.substr(0, line.find('('));
         };
@@ -76,15 +79,15 @@ protected:
         return found;
     }
 
-    /// Interrupts a frame at each of its places and mends the host again; then a frame is what it
+    /// Interrupts a run at each of its places and mends the host again; then a frame is what it
     /// was.
     void interruptEverywhere(const std::function<void()>& act, const std::function<void()>& mend) {
         const Lines whole = callsOf([&] { draw(); }, drawing());
         const std::int64_t held = host.references();
         const std::vector<std::int64_t> all = places();
-        ASSERT_GT(all.size(), 100U);
+        ASSERT_GT(all.size(), leastPlaces);
         for (const std::int64_t n : all) {
-            drawInterrupted(n, act);
+            runInterrupted(n, act);
             mend();
             ASSERT_EQ(host.references(), held) << "after call " << n;
         }
@@ -92,6 +95,43 @@ protected:
         EXPECT_EQ(callsOf([&] { draw(); }, drawing()), whole);
     }
 
+    /// One of each message but the draw. The setup that is saved is the one that is loaded.
+    void sendEveryOtherMessage() {
+        control.requestData(first, second);
+        control.onChannelsChanged(0);
+        key.graph.setManualLimits(1);
+        control.onMouseMove({}, 65, 245);
+        control.onMouseDown(0, {}, 65, 245);
+        control.onMouseUp(0, {}, 65, 245);
+        control.onMouseWheel({}, 65, 245, true);
+        control.onMouseLeave();
+        control.onMouseEnter();
+        control.buildProperties(host.panel());
+        control.fillProperties(host.panel());
+        control.readProperty(L"Nothing", nullptr);
+        control.onPropertyEvent(L"Nothing", nullptr, 0);
+        control.acceptsChannel(host.channel("orbit"));
+        control.acceptsGroup(host.group(0));
+        control.onGroupChanged(host.group(0));
+        EXPECT_TRUE(control.canCopyToClipboard());
+        EXPECT_FALSE(control.clipboardText().empty());
+        Tests::EntryNode setup;
+        setup.writing = true;
+        control.persistSetup(setup);
+        setup.writing = false;
+        control.persistSetup(setup);
+        control.onClose();
+    }
+
+    /// What the messages have changed.
+    void takeMessagesBack() {
+        control.onMouseMove({}, 0, 0);
+        key.graph.setManualLimits(0);
+        key.propertyRoot = nullptr;
+        key.dataRequestList = nullptr;
+    }
+
+    std::size_t leastPlaces = 100;
     Host::DataPosition first;
     Host::DataPosition second;
 };
@@ -143,24 +183,51 @@ TEST_F(Reentrance, DataMayGoBetweenAnyTwoCallsOfADraw) {
 TEST_F(Reentrance, EveryOtherMessageMayComeBetweenAnyTwoCallsOfADraw) {
     host.description.assigned.slots = {{1}};
     host.description.host.editText = {true, L"2"};
-    const auto messages = [&] {
-        control.requestData(first, second);
-        control.onChannelsChanged(0);
-        key.graph.setManualLimits(1);
-        control.onMouseMove({}, 65, 245);
-        control.onMouseUp(0, {}, 65, 245);
-        control.onMouseLeave();
+    interruptEverywhere([&] { sendEveryOtherMessage(); }, [&] { takeMessagesBack(); });
+}
+
+TEST_F(Reentrance, EveryMessageMayComeBetweenAnyTwoCallsOfACopy) {
+    host.description.assigned.slots = {{1}};
+    host.description.host.editText = {true, L"2"};
+    run = [this] { control.clipboardText(); };
+    leastPlaces = 50;
+    const std::wstring text = control.clipboardText();
+    interruptEverywhere(
+        [&] {
+            sendEveryOtherMessage();
+            draw();
+        },
+        [&] { takeMessagesBack(); });
+    EXPECT_EQ(control.clipboardText(), text);
+}
+
+TEST_F(Reentrance, EveryMessageMayComeBetweenAnyTwoCallsOfADataRequest) {
+    host.description.assigned.slots = {{1}};
+    host.description.host.editText = {true, L"2"};
+    run = [this] { control.requestData(first, second); };
+    leastPlaces = 10;
+    interruptEverywhere(
+        [&] {
+            sendEveryOtherMessage();
+            draw();
+        },
+        [&] { takeMessagesBack(); });
+}
+
+TEST_F(Reentrance, EveryMessageMayComeBetweenAnyTwoCallsOfThePanel) {
+    host.description.assigned.slots = {{1}};
+    host.description.host.editText = {true, L"2"};
+    run = [this] {
         control.buildProperties(host.panel());
         control.fillProperties(host.panel());
-        control.acceptsChannel(host.channel("orbit"));
     };
-    interruptEverywhere(messages, [&] {
-        control.onMouseMove({}, 0, 0);
-        key.graph.setManualLimits(0);
-        key.propertyRoot = nullptr;
-        key.dataRequestList = nullptr;
-        control.onMouseEnter();
-    });
+    leastPlaces = 20;
+    interruptEverywhere(
+        [&] {
+            sendEveryOtherMessage();
+            draw();
+        },
+        [&] { takeMessagesBack(); });
 }
 
 TEST_F(Reentrance, AnotherHostMayBeHandedInBetweenAnyTwoCallsOfADraw) {
