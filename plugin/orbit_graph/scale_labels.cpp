@@ -73,7 +73,8 @@ void OrbitGraph::drawScaleLabels(const CanvasRef& canvas) const {
         drawXTick(canvas, state_, xTicks.next(), xColor);
         drawYTick(canvas, state_, yTicks.next(), yColor);
     }
-    for (const AxisLimitLabel& label : state_.limitLabels)
+    const auto labels = state_.limitLabels;  // Another frame may come between two of them.
+    for (const AxisLimitLabel& label : labels)
         drawLimitLabel(canvas, state_, label, format);
 }
 
