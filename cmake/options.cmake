@@ -30,9 +30,10 @@ if(WIN32)
     target_compile_options(rotavue_options INTERFACE -Wno-non-virtual-dtor)
 endif()
 if(ROTAVUE_SANITIZE)
+    # A number out of the range of the integer that it becomes is no part of gcc's "undefined".
     target_compile_options(
         rotavue_options
-        INTERFACE -fsanitize=address,undefined
+        INTERFACE -fsanitize=address,undefined,float-cast-overflow
                   -fno-sanitize-recover=all
                   -fno-omit-frame-pointer
     )
