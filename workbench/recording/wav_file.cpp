@@ -10,6 +10,7 @@
 #include <string>
 
 #include "workbench/recording/input_file.h"
+#include "workbench/recording/memory_ahead.h"
 #include "workbench/recording/number_field.h"
 
 namespace Rotavue::Workbench {
@@ -158,6 +159,7 @@ std::vector<std::vector<double>> WavFile::read(std::span<const WantedColumn> wan
     std::vector<std::vector<double>> columns(wanted.size());
     for (std::vector<double>& column : columns)
         column.reserve(std::min(expected, MaxSampleCount));
+    const MemoryAhead memory(columns);
     std::vector<double> block(BlockLength * channelCount);
     handle_->rewind();
     std::size_t total = 0;
