@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <filesystem>
 #include <stdexcept>
 #include <utility>
 
@@ -224,9 +225,22 @@ void ExportDialog::showPreview() try {
     say(QString::fromUtf8(error.what()));
 }
 
+/// By another name, too: through a link, say.
+bool ExportDialog::isSource(const QString& path) const {
+    return std::any_of(subject_.sources.begin(), subject_.sources.end(), [&](const QString& one) {
+        std::error_code none;
+        return std::filesystem::equivalent(one.toStdString(), path.toStdString(), none);
+    });
+}
+
 /// Whether the place is free, or the user has been told that it is not and means it.
 bool ExportDialog::mayWrite() {
     const QString path = file.text();
+    if (isSource(path)) {
+        say(tr("%1 is what the picture is made from, and is never replaced.")
+                .arg(QFileInfo(path).fileName()));
+        return false;
+    }
     if (!QFileInfo::exists(path) || mayReplace_ == path) return true;
     mayReplace_ = path;
     save.setText(tr("&Replace"));

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -29,19 +30,21 @@ using OpenMemory = std::function<std::unique_ptr<QSettings>()>;
 
 /// What is exported, and how a dialog speaks of it.
 struct ExportSubject {
-    QString title;           ///< of the dialog
-    QString key;             ///< under which the settings are remembered
-    QString folder;          ///< where the file goes until there is something to remember
-    QString name;            ///< of the file, without its ending
-    ExportSettings usual;    ///< until there is something to remember
-    bool planes = false;     ///< there are several, that could share one scale
-    PicturePainter painter;  ///< must not outlive what it paints
-    OpenMemory memory = {};  ///< of the dialog
+    QString title;             ///< of the dialog
+    QString key;               ///< under which the settings are remembered
+    QString folder;            ///< where the file goes until there is something to remember
+    QString name;              ///< of the file, without its ending
+    ExportSettings usual;      ///< until there is something to remember
+    bool planes = false;       ///< there are several, that could share one scale
+    PicturePainter painter;    ///< must not outlive what it paints
+    OpenMemory memory = {};    ///< of the dialog
+    QStringList sources = {};  ///< files that no picture may replace: what it is made from
 };
 
 /// Asks how a picture is to be saved, shows it as it will be, and saves it. A file that is there is
-/// replaced only after a second press of the button, which says so; the file is written beside its
-/// place and renamed, so that nobody meets half of one.
+/// replaced only after a second press of the button, which says so, and never if the picture is
+/// made from it; the file is written beside its place and renamed, so that nobody meets half of
+/// one.
 class ExportDialog : public QDialog {
 public:
     explicit ExportDialog(ExportSubject subject, QWidget* parent = nullptr);
@@ -77,6 +80,7 @@ private:
     void changeEnding();
     void saveFile();
     bool mayWrite();
+    bool isSource(const QString& path) const;
     void say(const QString& line);
 
     ExportSubject subject_;

@@ -5,11 +5,13 @@
 
 #include <QAction>
 #include <QObject>
+#include <QStringList>
 #include <QWidget>
 
 #include <array>
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace Rotavue::Workbench {
 
@@ -23,6 +25,9 @@ public:
     /// Dialogs belong to `window`; `tell` hears of what has been done, in one line.
     OutActions(Bench& bench, CurrentPlane current, Tell tell, OpenMemory memory, QWidget& window);
 
+    /// Further files that nothing may replace, beside recordings and what belongs to them.
+    void keepAlso(std::function<QStringList()> files) { kept_ = std::move(files); }
+
     QAction copyNumbers;    ///< what the control itself copies, by message
     QAction copyPicture;    ///< as the last export had it, but as pixels
     QAction exportPicture;  ///< asks how and where
@@ -33,6 +38,7 @@ private:
         return {&copyNumbers, &copyPicture, &exportPicture, &exportReport};
     }
     void refresh();
+    QStringList sources() const;
     std::shared_ptr<Plane> current() const;
     void putNumbers();
     void putPicture();
@@ -49,6 +55,7 @@ private:
     Tell tell_;
     OpenMemory memory_;
     QWidget& window_;
+    std::function<QStringList()> kept_ = [] { return QStringList(); };
 };
 
 }  // namespace Rotavue::Workbench

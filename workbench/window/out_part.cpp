@@ -1,6 +1,7 @@
 #include "workbench/window/out_part.h"
 
 #include "workbench/export/out_actions.h"
+#include "workbench/files/file_actions.h"
 #include "workbench/window/app_settings.h"
 #include "workbench/window/main_window.h"
 #include "workbench/window/run_out/rest_actions.h"
@@ -19,6 +20,10 @@ void addPictures(MainWindow& window) {
         [&window](const QString& line) { window.statusBar()->showMessage(line); }, appSettings,
         window);
     out->setParent(&window);
+    out->keepAlso([&window] {
+        const auto* files = window.findChild<FileActions*>();
+        return files != nullptr ? QStringList(files->viewFile()) : QStringList();
+    });
     window.editMenu().addActions({&out->copyNumbers, &out->copyPicture});
     window.tiles().addAction(&out->copyNumbers);
     window.fileMenu().addSeparator();

@@ -207,5 +207,26 @@ TEST_F(ExportDialogTest, EscapeSavesNothing) {
     EXPECT_TRUE(names().empty());
 }
 
+// However often the button is pressed, and by whatever name.
+TEST_F(ExportDialogTest, WhatThePictureIsMadeFromIsNeverReplaced) {
+    writeOld("pump.png");
+    ASSERT_TRUE(QFile::link(at("pump.png"), at("link.png")));
+    ExportSubject made = subject();
+    made.sources = {at("gone.csv"), at("pump.png")};
+    ExportDialog dialog(std::move(made));
+    for (const char* name : {"pump.png", "link.png"}) {
+        dialog.file.setText(at(name));
+        for (int i = 0; i < 3; ++i)
+            press(dialog);
+        EXPECT_EQ(dialog.message.text(),
+                  QString(name) + " is what the picture is made from, and is never replaced.");
+        EXPECT_EQ(dialog.savedFile(), "");
+    }
+    EXPECT_EQ(read("pump.png"), "old");
+    dialog.file.setText(at("other.png"));
+    press(dialog);
+    EXPECT_EQ(dialog.savedFile(), at("other.png"));
+}
+
 }  // namespace
 }  // namespace Rotavue::Workbench

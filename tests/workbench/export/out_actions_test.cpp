@@ -7,6 +7,8 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QTest>
@@ -138,6 +140,24 @@ TEST_F(OutActionsTest, LooksAsItShould) {
     QTest::mouseClick(&report.save, Qt::LeftButton);
     if (report.savedFile().isEmpty()) QTest::mouseClick(&report.save, Qt::LeftButton);
     EXPECT_FALSE(report.savedFile().isEmpty()) << report.message.text().toStdString();
+}
+
+TEST_F(OutActionsTest, RecordingMachineFileAndViewAreNeverReplaced) {
+    Recording recording = rotor();
+    recording.file = at("pump.csv").toStdString();
+    current_ = &add(std::move(recording));
+    out_.keepAlso([this] { return QStringList(at("pump.rotavue")); });
+    ExportDialog& dialog = opened(out_.exportPicture);
+    for (const char* name : {"pump.csv", "pump.machine.json", "pump.rotavue"}) {
+        QFile file(at(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("kept");
+        file.close();
+        for (int i = 0; i < 2; ++i)
+            save(dialog, name);
+        EXPECT_EQ(QFileInfo(file).size(), 4) << name;
+        EXPECT_TRUE(dialog.message.text().endsWith("is never replaced.")) << name;
+    }
 }
 
 }  // namespace
