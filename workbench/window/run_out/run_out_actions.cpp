@@ -3,7 +3,9 @@
 #include "workbench/files/usable.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeySequence>
+#include <QWidget>
 
 #include <algorithm>
 #include <exception>
@@ -136,9 +138,17 @@ void RunOutActions::takeMarked() {
 }
 
 void RunOutActions::askForFile() {
-    const QString file = QFileDialog::getOpenFileName(
-        nullptr, tr("Recording of slow roll"), {}, tr("Recordings (*.csv *.txt *.wav);;All (*)"));
-    if (!file.isEmpty()) takeFrom(file.toStdString());
+    const Plane* const plane = current_();
+    if (plane == nullptr) return;
+    const QString beside =
+        QFileInfo(QString::fromStdString(plane->original().recording.file.string())).absolutePath();
+    const QString file =
+        QFileDialog::getOpenFileName(qobject_cast<QWidget*>(parent()), tr("Recording of slow roll"),
+                                     folder_.isEmpty() ? beside : folder_,
+                                     tr("Recordings (*.csv *.txt *.tsv *.wav);;All files (*)"));
+    if (file.isEmpty()) return;
+    folder_ = QFileInfo(file).absolutePath();
+    takeFrom(file.toStdString());
 }
 
 void RunOutActions::takeFrom(const std::filesystem::path& slowRoll) {

@@ -72,6 +72,7 @@ private:
     CurrentPlane current_;
     MarkedStretch marked_;
     QActionGroup forms_;
+    QString folder_;  ///< of the last recording of slow roll; empty: beside the plane's
     OfPlane<std::shared_ptr<const RunOut>> known_;  ///< what was taken off last
     OfPlane<std::unique_ptr<LatestJob>> jobs_;      ///< of each plane, the newest counts
 };

@@ -2,10 +2,16 @@
 
 #include "tests/workbench/bench/bench_fixture.h"
 
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -205,6 +211,47 @@ TEST_F(RunOutActionsTest, RecordingThatCannotBeReadIsReportedAndNothingChanges) 
     ASSERT_TRUE(reports.wait());
     EXPECT_TRUE(reports[0][0].toString().startsWith("rotor: missing.csv: "));
     EXPECT_EQ(plane_->compensation(), "");
+}
+
+/// What the file dialog that opens next looks like; it is closed with that file or with none.
+struct DialogSeen {
+    QWidget* parent = nullptr;
+    QString folder;
+    QStringList filters;
+
+    explicit DialogSeen(QAction& opener, const QString& file = {}) {
+        QTimer::singleShot(0, [this, file] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            parent = dialog->parentWidget();
+            folder = dialog->directory().absolutePath();
+            filters = dialog->nameFilters();
+            if (file.isEmpty()) return dialog->reject();
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
+            dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->click();
+        });
+        opener.trigger();
+    }
+};
+
+TEST_F(RunOutActionsTest, SlowRollIsAskedForInFrontOfTheWindowAndBesideTheRecording) {
+    const QTemporaryDir recordings;
+    const QTemporaryDir others;
+    QFile slow(others.filePath("slow.tsv"));
+    ASSERT_TRUE(slow.open(QIODevice::WriteOnly));
+    slow.write("t\tx\ty\n0\t1\t2\n");
+    slow.close();
+    Recording recording = rotor();
+    recording.file = recordings.filePath("pump.csv").toStdString();
+    plane_ = &add(std::move(recording));
+    QWidget window;
+    RunOutActions actions{bench_, [this] { return plane_; }, [this] { return marked_; }, &window};
+    const DialogSeen first(actions.takeFile, slow.fileName());
+    EXPECT_EQ(first.parent, &window);
+    EXPECT_EQ(first.folder, recordings.path());
+    EXPECT_TRUE(first.filters.join(' ').contains("*.tsv"));
+    const DialogSeen second(actions.takeFile);
+    EXPECT_EQ(second.folder, others.path());
 }
 
 }  // namespace
