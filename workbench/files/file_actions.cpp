@@ -1,6 +1,7 @@
 #include "workbench/files/file_actions.h"
 
 #include <QAction>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -121,6 +122,7 @@ void FileActions::fillRecent() {
 }
 
 void FileActions::setViewFile(const QString& file) {
+    name_.clear();
     viewFile_ = QFileInfo(file).absoluteFilePath();
     recent_.add(viewFile_);
     Q_EMIT viewFileChanged(viewFile_);
@@ -130,8 +132,26 @@ void FileActions::setViewFile(const QString& file) {
 void FileActions::newView() {
     if (!mayLoseChanges()) return;
     showView(bench_, {}, {});
+    leaveViewFile();
+}
+
+void FileActions::leaveViewFile() {
+    name_.clear();
     viewFile_.clear();
     Q_EMIT viewFileChanged(viewFile_);
+}
+
+// The file that it was once saved in, if any, stays as it is: which of both counts is for the user
+// to say.
+void FileActions::nameRecovered() {
+    constexpr qsizetype Longest = 80;
+    leaveViewFile();
+    QStringList planes;
+    for (const auto& plane : bench_.planes())
+        planes += QString::fromStdString(plane->name());
+    name_ = tr("Recovered %1").arg(planes.join(QStringLiteral(", "))).left(Longest);
+    name_.replace(u'/', u'-');
+    Q_EMIT viewNamed(name_);
 }
 
 void FileActions::askForFiles() {
@@ -209,6 +229,7 @@ void FileActions::showPendingView() {
     }
     if (!pending.isUnsaved) return setViewFile(pending.file);
     bench_.undoStack().resetClean();
+    nameRecovered();
     endUnsaved(pending.isComplete);
 }
 
@@ -289,7 +310,9 @@ bool FileActions::saveOrAsk() {
 }
 
 void FileActions::saveAs() {
-    const QString start = viewFile_.isEmpty() ? recent_.folder() : viewFile_;
+    const QString fresh =
+        name_.isEmpty() ? recent_.folder() : QDir(recent_.folder()).filePath(name_ + ViewSuffix);
+    const QString start = viewFile_.isEmpty() ? fresh : viewFile_;
     QString file =
         QFileDialog::getSaveFileName(&window_, tr("Save view as"), start, tr("Views (*.rotavue)"));
     if (file.isEmpty()) return;

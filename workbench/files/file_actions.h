@@ -72,12 +72,17 @@ public:
 Q_SIGNALS:
     void viewFileChanged(const QString& file);
 
+    /// The view has a name, and no file of that name yet.
+    void viewNamed(const QString& name);
+
 private:
     void makeMenu(QMenu& menu);
     QAction* makeAction(const QString& name, const QString& text, const QKeySequence& key,
                         void (FileActions::*slot)());
     void fillRecent();
     void setViewFile(const QString& file);
+    void leaveViewFile();
+    void nameRecovered();
 
     void newView();
     void askForFiles();
@@ -113,6 +118,7 @@ private:
     RecentFiles recent_;
     RecordingOpener opener_;
     QString viewFile_;
+    QString name_;  ///< under which a view without a file is offered to be saved
     std::optional<PendingView> pending_;
     int changes_ = 0;  ///< of the bench, so far
     std::optional<Settings> first_;

@@ -22,6 +22,14 @@ std::unique_ptr<QLockFile> lockFor(const QString& file) {
     return lock;
 }
 
+/// What a process left that was killed while it wrote. For the owner of the lock.
+void removeParts(const QString& file) {
+    const QFileInfo info(file);
+    QDir folder = info.dir();
+    for (const QString& part : folder.entryList({info.fileName() + ".part*"}, QDir::Files))
+        folder.remove(part);
+}
+
 }  // namespace
 
 UnsavedViews::UnsavedViews(QString folder) : folder_(std::move(folder)) {}
@@ -39,6 +47,7 @@ std::vector<UnsavedViews::Left> UnsavedViews::takeLeft() const {
 }
 
 void UnsavedViews::drop(Left left) {
+    removeParts(left.file);
     QFile::remove(left.file);
 }
 
@@ -51,6 +60,7 @@ void UnsavedViews::claimFile() {
         auto lock = lockFor(file);
         // A view that a crash left stays until a user has been asked about it.
         if (!lock->tryLock(0) || QFileInfo::exists(file)) continue;
+        removeParts(file);
         file_ = file;
         lock_ = std::move(lock);
     }

@@ -21,6 +21,7 @@ void addFiles(MainWindow& window) {
     window.addBar(files->offers());
     window.addCloseCheck([files] { return files->mayLoseChanges(); });
     QObject::connect(files, &FileActions::viewFileChanged, &window, &MainWindow::setViewName);
+    QObject::connect(files, &FileActions::viewNamed, &window, &MainWindow::setViewName);
 }
 
 }  // namespace Rotavue::Workbench

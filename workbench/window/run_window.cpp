@@ -1,11 +1,13 @@
 #include "workbench/window/window_order.h"
 
+#include "workbench/analysis/replace_file.h"
 #include "workbench/files/file_actions.h"
 #include "workbench/window/app_settings.h"
 #include "workbench/window/main_window.h"
 #include "workbench/window/open_at_once.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QIcon>
@@ -51,10 +53,11 @@ void saveScreenshot(MainWindow& window, const std::string& file) {
     QElapsedTimer clock;
     for (clock.start(); clock.elapsed() < Enough;)
         QApplication::processEvents(QEventLoop::AllEvents, 50);
-    const QPixmap picture = window.grab();
-    if (!picture.save(QString::fromStdString(file), "PNG")) {
-        throw std::runtime_error(file + ": cannot be written");
-    }
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    if (!window.grab().save(&bytes, "PNG")) throw std::runtime_error(file + ": no picture");
+    if (const std::error_code fault = replaceFile(file, bytes.data().toStdString()))
+        throw std::runtime_error(file + ": cannot be written: " + fault.message());
 }
 
 }  // namespace
