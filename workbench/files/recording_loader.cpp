@@ -38,10 +38,8 @@ std::shared_ptr<const PlaneSource> compensatedPlane(const LoadRequest& request,
 
 std::shared_ptr<const PlaneSource> loadPlane(const LoadRequest& request,
                                              const ReadingWatch& watch) {
-    RecordingOptions options = request.options;
-    if (request.isComplete) options.machineFile = "";
     Recording recording =
-        readRecording(request.file, options, stretchOf(watch, 0.0, PartOfReading));
+        readRecording(request.file, request.options, stretchOf(watch, 0.0, PartOfReading));
     auto source = preparePlane(std::move(recording), request.options);
     if (request.runOut)
         source =

@@ -22,7 +22,6 @@ struct LoadRequest {
     RecordingOptions options = {};
     bool isOfView = false;                    ///< wanted for a view, which is shown as a whole
     std::optional<RunOutSource> runOut = {};  ///< to be taken off
-    bool isComplete = false;                  ///< the options tell all: no machine file counts
     bool isToBeKept = false;  ///< the options become the machine file, once it has been read so
 
     /// The recording that is read anew, whose place it takes; null for a further one.

@@ -115,8 +115,7 @@ void RecordingOpener::takeAnswer(const Waiting& waiting, const std::string& shap
         memory_.remember(shape, {ofItsShape(told), !dialog.isUsedWithoutAsking()});
     LoadRequest request = waiting.request;
     request.options = told;
-    request.options.machineFile.reset();
-    request.isComplete = true;
+    request.options.machineFile = "";  // what was left open there is open
     request.isToBeKept = dialog.isKeptBeside();
     loader_.load(std::move(request));
 }

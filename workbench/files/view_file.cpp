@@ -64,6 +64,7 @@ public:
 private:
     ViewPlane planeOf(const JsonPlace& place) const;
     Path pathOf(const JsonPlace& place) const;
+    Path namedMachineFile(const JsonPlace& place) const;
     CurveRequest curveOf(const JsonPlace& place) const;
     ShaftCenterChoice shaftCenterOf(const JsonPlace& place) const;
     RunOutSource compensationOf(const JsonPlace& place) const;
@@ -101,12 +102,14 @@ View ViewReader::read() const {
 }
 
 ViewPlane ViewReader::planeOf(const JsonPlace& place) const {
-    place.checkMembers(
-        {"recording", "options", "curves", "speed", "shaftCentre", "setup", "compensation"});
+    place.checkMembers({"recording", "machineFile", "options", "curves", "speed", "shaftCentre",
+                        "setup", "compensation"});
     ViewPlane plane;
     plane.recording = pathOf(place.at("recording"));
     if (const auto options = place.find("options"))
         plane.options = readMachineText(file_, options->value().dump());
+    if (const auto file = place.find("machineFile"))
+        plane.options.machineFile = namedMachineFile(*file);
     for (const JsonPlace& curve : place.at("curves").list(0, MostCurves))
         plane.curves.push_back(curveOf(curve));
     plane.curveOptions.reference = plane.options;
@@ -123,6 +126,11 @@ Path ViewReader::pathOf(const JsonPlace& place) const {
     const std::string text = place.text(LongestText);
     if (text.empty()) place.refuse("the name of a file");
     return (folder_ / Path(text)).lexically_normal();
+}
+
+// An empty name stays one: there is no machine file.
+Path ViewReader::namedMachineFile(const JsonPlace& place) const {
+    return place.text(LongestText).empty() ? Path() : pathOf(place);
 }
 
 CurveRequest ViewReader::curveOf(const JsonPlace& place) const {
@@ -199,6 +207,8 @@ Json ViewWriter::planeOf(const ViewPlane& plane) const {
                  {"setup", plane.setup}};
     const Json options = Json::parse(machineText(plane.options));
     if (!options.empty()) json["options"] = options;
+    if (const auto& file = plane.options.machineFile)
+        json["machineFile"] = file->empty() ? "" : pathText(*file, folder_);
     json["curves"] = Json::array();
     for (const CurveRequest& curve : plane.curves)
         json["curves"].push_back(curveOf(curve));

@@ -16,7 +16,7 @@ namespace Rotavue::Workbench {
 /// One plane of a view.
 struct ViewPlane {
     std::filesystem::path recording;
-    RecordingOptions options;  ///< beyond its machine file
+    RecordingOptions options;  ///< beyond its machine file; which that is, is kept as well
     std::vector<CurveRequest> curves;
     CurveOptions curveOptions;                 ///< `reference` is not kept: it follows `options`
     std::map<std::string, std::string> setup;  ///< the control's settings as it saved them

@@ -211,5 +211,36 @@ TEST_F(RecordingQuestionsTest, WithoutAPlaneThereIsNothingToAskOf) {
     EXPECT_TRUE(action("openFurtherPlane").isEnabled());
 }
 
+// What is left open for the second plane is told of the first one by the machine file.
+TEST_F(RecordingQuestionsTest, ViewLaysNoMachineFileUnderWhatWasToldInFull) {
+    write("r.machine.json", R"({"point": "Bearing 1", "rotation": "CCW",
+        "x": {"column": "P1.X", "rest": 3}, "y": {"column": "P1.Y"}})");
+    open(write("r.csv", table("t,P1.X,P1.Y,P2.X,P2.Y", 4)));
+    ImportDialog* dialog = ask("openFurtherPlane");
+    choose(dialog, "/rotation", "not known");
+    type(dialog, "/x/rest", "");
+    accept(dialog);
+    ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_EQ(bench_.planes().size(), 2U);
+        EXPECT_EQ(bench_.planes()[0]->name(), "Bearing 1");
+        EXPECT_EQ(bench_.planes()[1]->name(), "r");
+        EXPECT_EQ(recording(1).machine.rotation, std::nullopt);
+        EXPECT_EQ(recording(1).x[0], 2.0);  // what the fourth column begins with, from no rest
+        open(at("v.rotavue"));
+    }
+}
+
+TEST_F(RecordingQuestionsTest, WhatWasToldAndNotKeptIsTheBeginningOfTheNextQuestion) {
+    write("r.machine.json", R"({"rotation": "CCW"})");
+    open(write("r.csv", table("t,x,y", 2)));
+    ImportDialog* dialog = ask("correctRecording");
+    choose(dialog, "/rotation", "not known");
+    dialog->findChild<QCheckBox*>("keepBeside")->setChecked(false);
+    accept(dialog);
+    EXPECT_EQ(ask("correctRecording")->findChild<QComboBox*>("/rotation")->currentText(),
+              "not known");
+}
+
 }  // namespace
 }  // namespace Rotavue::Workbench

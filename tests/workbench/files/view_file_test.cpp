@@ -62,6 +62,18 @@ TEST_F(ViewFileTest, ReadsBackAllThatItWrites) {
     EXPECT_EQ(plane.compensation->slowRoll, at("slow.csv"));
 }
 
+TEST_F(ViewFileTest, KeepsWhichMachineFileCounts) {
+    using File = std::optional<std::filesystem::path>;
+    for (const File& file : {File{}, File{""}, File{at("data/other.json")}}) {
+        View view = full();
+        view.planes[0].options.machineFile = file;
+        writeView(at("v.rotavue"), view);
+        const ViewPlane plane = readView(at("v.rotavue")).planes[0];
+        EXPECT_EQ(plane.options.machineFile, file);
+        EXPECT_EQ(plane.curveOptions.reference.machineFile, file);
+    }
+}
+
 TEST_F(ViewFileTest, ItsFolderMayMoveWithItsRecordings) {
     writeView(at("v.rotavue"), full());
     std::filesystem::create_directory(at("moved"));
