@@ -67,6 +67,19 @@ void Bench::take(std::size_t place) {
     if (cursor_ > duration()) setCursor(duration());
 }
 
+Bench::CursorMove Bench::takeWithCursor(std::size_t place) {
+    const double from = cursor_;
+    take(place);
+    return {from, cursor_};
+}
+
+void Bench::insertWithCursor(std::size_t place, const std::shared_ptr<Plane>& plane,
+                             const CursorMove& moved) {
+    const bool hasStayed = cursor_ == moved.to;
+    insert(place, plane);
+    if (hasStayed && cursor_ != moved.from) setCursor(moved.from);
+}
+
 std::shared_ptr<Plane> Bench::makePlane(std::shared_ptr<const PlaneSource> source,
                                         const PlaneSetup& setup) const {
     return std::make_shared<Plane>(std::move(source), *module_, setup, scheme_ == LightNumber);
@@ -75,9 +88,13 @@ std::shared_ptr<Plane> Bench::makePlane(std::shared_ptr<const PlaneSource> sourc
 Plane& Bench::addPlane(std::shared_ptr<const PlaneSource> source, const PlaneSetup& setup) {
     const auto plane = makePlane(std::move(source), setup);
     const std::size_t place = planes_.size();
+    const auto moved = std::make_shared<std::optional<CursorMove>>();
     undo_.push(new ChangeCommand(
         tr("opening %1").arg(QString::fromStdString(plane->name())),
-        [this, place, plane] { insert(place, plane); }, [this, place] { take(place); }));
+        [this, place, plane, moved] {
+            *moved ? insertWithCursor(place, plane, **moved) : insert(place, plane);
+        },
+        [this, place, moved] { *moved = takeWithCursor(place); }));
     return *plane;
 }
 
@@ -87,6 +104,7 @@ void Bench::showPlanes(std::vector<std::shared_ptr<Plane>> planes, double cursor
     const auto gone = std::exchange(planes_, std::move(planes));
     cursor_ = std::clamp(cursor, 0.0, duration());
     placePlanes();
+    watchWork();
     Q_EMIT planesChanged();
     Q_EMIT cursorMoved(cursor_);
     undo_.clear();
@@ -127,9 +145,11 @@ void Bench::replace(std::size_t place, const std::shared_ptr<Plane>& plane) {
 void Bench::removePlane(Plane& plane) {
     const std::size_t place = placeOf(plane);
     const std::shared_ptr<Plane> kept = shared(plane);
+    const auto moved = std::make_shared<CursorMove>();
     undo_.push(new ChangeCommand(
-        tr("closing %1").arg(QString::fromStdString(plane.name())), [this, place] { take(place); },
-        [this, place, kept] { insert(place, kept); }));
+        tr("closing %1").arg(QString::fromStdString(plane.name())),
+        [this, place, moved] { *moved = takeWithCursor(place); },
+        [this, place, kept, moved] { insertWithCursor(place, kept, *moved); }));
 }
 
 void Bench::change(Plane& plane, const QString& what, std::function<void(Plane&)> make,

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -151,6 +152,17 @@ private:
 
     void insert(std::size_t place, std::shared_ptr<Plane> plane);
     void take(std::size_t place);
+
+    /// Where the cursor stood before a plane was taken away, and where that has put it.
+    struct CursorMove {
+        double from = 0.0;
+        double to = 0.0;
+    };
+    CursorMove takeWithCursor(std::size_t place);
+
+    /// A plane that comes back brings the cursor back, unless it has been moved meanwhile.
+    void insertWithCursor(std::size_t place, const std::shared_ptr<Plane>& plane,
+                          const CursorMove& moved);
     void replace(std::size_t place, const std::shared_ptr<Plane>& plane);
     std::size_t placeOf(const Plane& plane) const;
     std::shared_ptr<Plane> shared(const Plane& plane) const;

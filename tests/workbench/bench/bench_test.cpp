@@ -49,6 +49,28 @@ TEST_F(BenchTest, PlanesComeAndGoAndComeBack) {
     EXPECT_EQ(changed.count(), 6);
 }
 
+TEST_F(BenchTest, PlaneThatComesBackBringsTheCursorBack) {
+    add();
+    bench_.setCursor(0.25);
+    bench_.removePlane(*bench_.planes()[0]);
+    EXPECT_EQ(bench_.cursor(), 0.0);
+    bench_.undoStack().undo();
+    EXPECT_EQ(bench_.cursor(), 0.25);
+    bench_.undoStack().undo();  // the opening
+    bench_.undoStack().redo();
+    EXPECT_EQ(bench_.cursor(), 0.25);
+}
+
+TEST_F(BenchTest, CursorThatWasMovedMeanwhileStaysWhereItIs) {
+    add();
+    Plane& longer = add(rotor(2.0));
+    bench_.setCursor(1.5);
+    bench_.removePlane(longer);  // to the end of the other one
+    bench_.setCursor(0.25);
+    bench_.undoStack().undo();
+    EXPECT_EQ(bench_.cursor(), 0.25);
+}
+
 TEST_F(BenchTest, RecordingThatIsReadAnewTakesThePlaceOfItsPlane) {
     Plane& first = add();
     Plane& second = add();

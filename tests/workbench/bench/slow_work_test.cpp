@@ -42,6 +42,18 @@ TEST_F(SlowWork, ACurveThatTakesLongComesWhenItIsMade) {
     EXPECT_TRUE(plane.control().accepts("curve2"));
 }
 
+TEST_F(SlowWork, ComesByItselfToPlanesThatAreShownInThePlaceOfOthers) {
+    int none = 0;
+    const QCoreApplication application(none, nullptr);
+    Bench bench(module_);
+    const auto plane =
+        bench.makePlane(preparePlane(rotor(Long)), {.curves = {{}, {.kind = CurveKind::SubSync}}});
+    bench.showPlanes({plane}, 1.0);
+    QSignalSpy changes(&bench, &Bench::curvesChanged);
+    ASSERT_TRUE(changes.wait());
+    EXPECT_TRUE(isShown(*plane));
+}
+
 TEST_F(SlowWork, TellsWhatIsMadeOfWhichPlane) {
     addLong();
     const QSignalSpy words(&bench_, &Bench::worked);
