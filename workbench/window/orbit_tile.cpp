@@ -154,8 +154,9 @@ void OrbitTile::tellNotes() {
     notes_.setVisible(!lines.isEmpty() && notesButton_.isChecked());
 }
 
+// Without notes there is nothing to open, now or when some come.
 void OrbitTile::toggleNotes() {
-    notesButton_.toggle();
+    if (!notesButton_.isHidden()) notesButton_.toggle();
 }
 
 }  // namespace Rotavue::Workbench

@@ -56,6 +56,16 @@ TEST_F(OrbitTileTest, CurveThatCannotBeDrawnIsNotNamedButNoted) {
     EXPECT_FALSE(notes().isVisible());
 }
 
+TEST_F(OrbitTileTest, NotesThatComeLaterDoNotOpenByTheKeyOfBefore) {
+    OrbitView& view = open();
+    ASSERT_TRUE(notes().text().isEmpty()) << notes().text().toStdString();
+    QTest::keyClick(&window_, Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+    bench().setCurves(view.plane(),
+                      {{.kind = CurveKind::Reference, .orders = {}, .file = "/nowhere.json"}});
+    EXPECT_FALSE(notes().text().isEmpty());
+    EXPECT_FALSE(notes().isVisible());
+}
+
 TEST_F(OrbitTileTest, NotesGoWithTheCurveThatTheyAreAbout) {
     const PlaneSetup missing{
         .curves = {{}, {.kind = CurveKind::Reference, .orders = {}, .file = "/nowhere.json"}}};

@@ -48,11 +48,15 @@ TimePlot::TimePlot(QWidget* parent) : QWidget(parent), colors_(plotColors(palett
            "Ctrl+Left, Ctrl+Right: turn over. Double click or 0: show everything."));
 }
 
+// While a long recording is read through there is no lane: what was looked at waits for what comes.
 void TimePlot::setLanes(std::vector<PlotLane> lanes) {
     lanes_ = std::move(lanes);
-    duration_ = lanes_.empty() ? 0.0 : durationOf(lanes_);
     markStart_.reset();
+    const PlotRange lookedAt = time_;
+    const double duration = lanes_.empty() ? duration_ : durationOf(lanes_);
+    const bool isAsLong = std::exchange(duration_, duration) == duration;
     resetView();
+    if (isAsLong) showTime(lookedAt);
 }
 
 void TimePlot::setDots(std::vector<double> times) {

@@ -46,7 +46,8 @@ class TimePlot final : public QWidget {
 public:
     explicit TimePlot(QWidget* parent = nullptr);
 
-    /// Shows these, all from the first sample to the last of the longest.
+    /// Shows these, all from the first sample to the last of the longest. Where they last as long
+    /// as those before, the same recording in another form, say, the time stays that is looked at.
     void setLanes(std::vector<PlotLane> lanes);
 
     /// The moments that get a dot on every lane, rising, in s.

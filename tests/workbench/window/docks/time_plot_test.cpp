@@ -71,6 +71,21 @@ TEST_F(TimePlotTest, ShowsTheWholeRecordingFirst) {
     EXPECT_GT(plot.valueRange(1).from, -20.0);  // -15 and some room
 }
 
+TEST_F(TimePlotTest, LanesThatLastAsLongAreShownAtTheSameTime) {
+    turnWheel(at(3.0), 4, Qt::ShiftModifier);
+    const PlotRange lookedAt = plot.timeRange();
+    ASSERT_LT(lookedAt.length(), 9.0);
+    show();
+    EXPECT_EQ(plot.timeRange(), lookedAt);
+    plot.setLanes({});  // a long recording is being read through
+    show();
+    EXPECT_EQ(plot.timeRange(), lookedAt);
+    x.resize(5'001);
+    y.resize(5'001);
+    show();
+    EXPECT_EQ(plot.timeRange(), (PlotRange{0.0, 5.0}));
+}
+
 TEST_F(TimePlotTest, DragMovesTheCursor) {
     QTest::mousePress(&plot, Qt::LeftButton, {}, at(2.0));
     QTest::mouseMove(&plot, at(7.0));
