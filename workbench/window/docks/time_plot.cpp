@@ -50,13 +50,12 @@ TimePlot::TimePlot(QWidget* parent) : QWidget(parent), colors_(plotColors(palett
 
 // While a long recording is read through there is no lane: what was looked at waits for what comes.
 void TimePlot::setLanes(std::vector<PlotLane> lanes) {
+    if (!lanes_.empty()) lookedAt_ = {duration_, time_};
     lanes_ = std::move(lanes);
+    duration_ = lanes_.empty() ? 0.0 : durationOf(lanes_);
     markStart_.reset();
-    const PlotRange lookedAt = time_;
-    const double duration = lanes_.empty() ? duration_ : durationOf(lanes_);
-    const bool isAsLong = std::exchange(duration_, duration) == duration;
     resetView();
-    if (isAsLong) showTime(lookedAt);
+    if (!lanes_.empty() && duration_ == lookedAt_.duration) showTime(lookedAt_.time);
 }
 
 void TimePlot::setDots(std::vector<double> times) {

@@ -119,6 +119,10 @@ private:
     std::optional<TimeSpan> mark_;
     std::optional<double> markStart_;  ///< while a stretch is being dragged
     PlotRange time_;
+    struct {
+        double duration = 0.0;
+        PlotRange time;
+    } lookedAt_;  ///< of the lanes before
     QPixmap traces_;
     PlotColors colors_;
 };
