@@ -23,11 +23,12 @@ std::string described(const Json& value) {
     return value.is_array() ? "a list" : "an object";
 }
 
-/// The low 64 bits of a whole number that stands as a floating-point one.
+/// The low 64 bits of a whole number that stands as a floating-point one. They are taken from its
+/// magnitude: a small negative number has no neighbour below two to the 64th power.
 std::int64_t cutWhole(double number) {
     constexpr double TwoTo64 = 18446744073709551616.0;
-    const double rest = std::fmod(number, TwoTo64);
-    return static_cast<std::int64_t>(static_cast<std::uint64_t>(rest < 0 ? rest + TwoTo64 : rest));
+    const auto magnitude = static_cast<std::uint64_t>(std::fmod(std::abs(number), TwoTo64));
+    return static_cast<std::int64_t>(number < 0 ? 0 - magnitude : magnitude);
 }
 
 /// The number where it lies within the bounds; a value outside them where it does not.
