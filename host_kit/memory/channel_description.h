@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host_kit/memory/component_values.h"
+#include "host_kit/memory/time_stamps.h"
 
 #include <cstdint>
 #include <map>
@@ -40,7 +41,7 @@ struct ChannelDescription {
     std::int32_t rateDivider = 1;
     double sampleRate = 0.0;  ///< Hz, the channel's own
     Scale scale;
-    std::vector<double> timestamps;                                                     ///< seconds
+    TimeStamps timestamps;
     std::optional<std::vector<AxisDescription>> axes = std::vector<AxisDescription>{};  ///< or null
     std::map<std::wstring, std::wstring> properties;
     ComponentValues values;  ///< by linear index = sample * arraySize + element

@@ -8,14 +8,6 @@ namespace Rotavue::HostKit {
 
 namespace {
 
-/// The greatest index whose time stamp is not above that time; 0 when there is none.
-std::int32_t lastNotAbove(const std::vector<double>& timestamps, double seconds) {
-    const auto found = std::find_if(timestamps.rbegin(), timestamps.rend(),
-                                    [seconds](double stamp) { return !(stamp > seconds); });
-    if (found == timestamps.rend()) return 0;
-    return static_cast<std::int32_t>(timestamps.rend() - found - 1);
-}
-
 /// floor(seconds * rate + 0.5), held inside the samples; 0 for no number at all.
 std::int32_t nearestSample(double seconds, double rate, std::int32_t count) {
     const double nearest = std::floor(seconds * rate + 0.5);
@@ -52,12 +44,7 @@ std::wstring MemoryChannel::getName() {
 
 double MemoryChannel::getTimestamp(std::int32_t index) {
     return call(
-        operation("IHostChannel.getTimestamp"),
-        [&] {
-            const auto position = static_cast<std::uint32_t>(index);
-            const std::vector<double>& stamps = described_.timestamps;
-            return position < stamps.size() ? stamps[position] : 0.0;
-        },
+        operation("IHostChannel.getTimestamp"), [&] { return described_.timestamps.at(index); },
         index);
 }
 
@@ -116,7 +103,7 @@ Host::Ref<Host::IHostProperties> MemoryChannel::getProperties() {
 }
 
 std::int32_t MemoryChannel::sampleAt(double seconds) const {
-    if (described_.asynchronous) return lastNotAbove(described_.timestamps, seconds);
+    if (described_.asynchronous) return described_.timestamps.lastNotAbove(seconds);
     return nearestSample(seconds, described_.sampleRate, described_.sampleCount);
 }
 

@@ -94,8 +94,8 @@ void readInto(const Field& field, std::optional<std::int32_t>& value) {
     value = field.integer();
 }
 
-void readInto(const Field& field, std::vector<double>& value) {
-    value = field.numbers();
+void readInto(const Field& field, TimeStamps& stamps) {
+    stamps = field.numbers();
 }
 
 void readInto(const Field& field, Host::HostVersion& version) {

@@ -19,7 +19,7 @@ void readInto(const Field& field, std::uint32_t& color);
 void readInto(const Field& field, double& value);
 void readInto(const Field& field, std::wstring& value);
 void readInto(const Field& field, std::optional<std::int32_t>& value);
-void readInto(const Field& field, std::vector<double>& value);
+void readInto(const Field& field, TimeStamps& stamps);
 void readInto(const Field& field, Host::HostVersion& version);
 void readInto(const Field& field, Host::DataPosition& position);
 void readInto(const Field& field, EditAnswer& answer);

@@ -158,7 +158,8 @@ TEST_F(OrbitPictureTest, ShaftCenterReachesFromTheFirstSampleToTheNewestShown) {
     options.at = 1.4;
     OrbitScene& scene = paint("shaft-center");
     // The third interval, of 0.4 s, is more than half of one.
-    const std::vector<double>& times = scene.host().description.channels["derived1"].timestamps;
+    const std::vector<double>& times =
+        scene.host().description.channels["derived1"].timestamps.list();
     ASSERT_EQ(times.size(), 3U);
     EXPECT_LT(times.back(), 1.4);
 }

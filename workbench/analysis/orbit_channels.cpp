@@ -126,12 +126,14 @@ ChannelDescription shaftCenterChannel(const ShaftCenterHistory& history, const R
     channel.asynchronous = true;
     channel.sampleRate = 0.0;
     std::vector<double>& values = channel.values[PlainComponent];
+    std::vector<double> stamps;
     for (const ShaftCenterPosition& position : history.positions) {
-        channel.timestamps.push_back(position.time);
+        stamps.push_back(position.time);
         for (const double value :
              {position.y, position.x, position.speed, history.startTime + position.time})
             values.push_back(value);
     }
+    channel.timestamps = std::move(stamps);
     return channel;
 }
 

@@ -96,7 +96,7 @@ void setClock(HostDescription& host, double sampleRate, std::size_t position) {
 // stamps are there once the clock has gone beyond them.
 std::size_t countUpTo(const ChannelDescription& channel, double sampleRate, std::size_t position) {
     if (!channel.asynchronous) return position + 1;
-    const auto& stamps = channel.timestamps;
+    const std::vector<double>& stamps = channel.timestamps.list();
     const double now = static_cast<double>(position) / sampleRate;
     return static_cast<std::size_t>(std::lower_bound(stamps.begin(), stamps.end(), now) -
                                     stamps.begin());

@@ -56,7 +56,7 @@ TEST_F(ReadHost, TakesEveryMemberOfAChannel) {
     EXPECT_EQ(numbers, (std::vector<std::int32_t>{2, 3, 1, 4, 5, 6, 7, 8}));
     EXPECT_EQ(a.sampleRate, 9.5);
     EXPECT_EQ(a.scale.factor * 10 + a.scale.offset, 23.0);
-    EXPECT_EQ(a.timestamps, (std::vector<double>{0.0, 1.5}));
+    EXPECT_EQ(a.timestamps.list(), (std::vector<double>{0.0, 1.5}));
     ASSERT_EQ(a.axes->size(), 1U);
     EXPECT_EQ(a.axes->front().step, 0.5);
     EXPECT_EQ(a.properties.at(L"p"), L"q");

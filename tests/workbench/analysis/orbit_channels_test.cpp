@@ -143,7 +143,7 @@ TEST(OrbitChannels, ShaftCenterHoldsTheYProbeFirstWithTimeStamps) {
     EXPECT_EQ(channel.arraySize, 4);
     EXPECT_EQ(channel.sampleCount, 2);
     EXPECT_EQ(channel.sampleRate, 0.0);
-    EXPECT_EQ(channel.timestamps, (std::vector<double>{0.5, 1.5}));
+    EXPECT_EQ(channel.timestamps.list(), (std::vector<double>{0.5, 1.5}));
     EXPECT_EQ(channel.values[0], (std::vector<double>{2, 1, 1500, 100.5, 4, 3, 1600, 101.5}));
 }
 
