@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <sstream>
 #include <string_view>
 
@@ -24,22 +25,44 @@ std::string elementText(const char* name) {
     return '<' + std::string(name) + '>';
 }
 
+// The line of each offset in a text, from 1. It counts on from the offset before, so that offsets
+// in their order cost one walk through the text, however many they are.
+class LineCounter {
+public:
+    explicit LineCounter(std::string_view text) : text_(text) {}
+
+    std::size_t lineOf(std::ptrdiff_t offset) {
+        const auto end = std::clamp<std::ptrdiff_t>(offset, 0, std::ssize(text_));
+        if (end < counted_) *this = LineCounter(text_);
+        line_ += static_cast<std::size_t>(
+            std::count(text_.begin() + counted_, text_.begin() + end, '\n'));
+        counted_ = end;
+        return line_;
+    }
+
+private:
+    std::string_view text_;
+    std::ptrdiff_t counted_ = 0;
+    std::size_t line_ = 1;
+};
+
 class SetupReader {
 public:
     explicit SetupReader(const std::filesystem::path& file)
-        : file_(file), bytes_(readSmallFile(file, LargestFile)) {}
+        : file_(file), bytes_(readSmallFile(file, LargestFile)), lines_(bytes_) {}
 
     SetupEntries read();
 
 private:
     void parse();
-    pugi::xml_node root() const;
-    SetupEntry entryOf(const pugi::xml_node& node) const;
-    FilePlace placeOf(std::ptrdiff_t offset) const;
-    [[noreturn]] void refuse(const pugi::xml_node& node, std::string_view allowed) const;
+    pugi::xml_node root();
+    SetupEntry entryOf(const pugi::xml_node& node);
+    FilePlace placeOf(std::ptrdiff_t offset) { return {file_, lines_.lineOf(offset)}; }
+    [[noreturn]] void refuse(const pugi::xml_node& node, std::string_view allowed);
 
     std::filesystem::path file_;
     std::string bytes_;
+    LineCounter lines_;
     pugi::xml_document document_;
 };
 
@@ -63,7 +86,7 @@ void SetupReader::parse() {
                          "no XML (" + std::string(result.description()) + ")", "a setup as XML");
 }
 
-pugi::xml_node SetupReader::root() const {
+pugi::xml_node SetupReader::root() {
     const std::string allowed = "one element " + elementText(RootName);
     for (const pugi::xml_node& node : document_.children()) {
         const bool first = node == document_.first_child();
@@ -74,23 +97,15 @@ pugi::xml_node SetupReader::root() const {
     return document_.first_child();
 }
 
-SetupEntry SetupReader::entryOf(const pugi::xml_node& node) const {
+SetupEntry SetupReader::entryOf(const pugi::xml_node& node) {
     if (node.type() != pugi::node_element) refuse(node, "elements named after settings");
     if (node.first_attribute()) refuse(node, elementText(node.name()) + " without attributes");
     for (const pugi::xml_node& inner : node.children())
         if (inner.type() == pugi::node_element) refuse(inner, "text alone in a setting");
-    return {node.name(), node.text().get(), placeOf(node.offset_debug()).line};
+    return {node.name(), node.text().get(), lines_.lineOf(node.offset_debug())};
 }
 
-FilePlace SetupReader::placeOf(std::ptrdiff_t offset) const {
-    const auto length = std::clamp<std::size_t>(offset < 0 ? 0 : static_cast<std::size_t>(offset),
-                                                0, bytes_.size());
-    const std::string_view before = std::string_view(bytes_).substr(0, length);
-    const auto lines = std::count(before.begin(), before.end(), '\n');
-    return {file_, static_cast<std::size_t>(lines) + 1};
-}
-
-void SetupReader::refuse(const pugi::xml_node& node, std::string_view allowed) const {
+void SetupReader::refuse(const pugi::xml_node& node, std::string_view allowed) {
     const bool element = node.type() == pugi::node_element;
     const std::string found = element ? elementText(node.name()) : inQuotes(node.value());
     throw RecordingError(placeOf(node.offset_debug()), found, allowed);

@@ -42,6 +42,20 @@ TEST_F(SetupFileTest, PassesOverCommentsAndBlanksAroundTexts) {
     EXPECT_EQ(read[1].text, "6");
 }
 
+TEST_F(SetupFileTest, KnowsTheLineOfEachOfManyEntries) {
+    // To count from the start of the file for each one would take several minutes.
+    constexpr std::size_t Count = 800'000;
+    std::string text = "<setup>";
+    for (std::size_t i = 0; i < Count; ++i)
+        text += i % 4 == 0 ? "\n<a/>" : "<a/>";
+    const SetupEntries read = readSetupFile(write("f", text + "</setup>"));
+    ASSERT_EQ(read.size(), Count);
+    std::size_t missed = 0;
+    for (std::size_t i = 0; i < Count; ++i)
+        if (read[i].line != 2 + i / 4) ++missed;
+    EXPECT_EQ(missed, 0U);
+}
+
 TEST_F(SetupFileTest, NamesTheLineOfWhatIsBuiltOtherwise) {
     struct Case {
         const char* text;
