@@ -9,16 +9,18 @@
 #include "workbench/analysis/replace_file.h"
 #include "workbench/analysis/short_text.h"
 #include "workbench/recording/input_file.h"
+#include "workbench/recording/json_text.h"
 #include "workbench/recording/recording_error.h"
 
 namespace Rotavue::Workbench {
 namespace {
 
-using Json = nlohmann::ordered_json;
+using Json = nlohmann::json;
 
 constexpr const char* Format = "rotavue reference orbit 1";
 constexpr std::size_t LargestFile = 16u << 20;
 constexpr double LargestNumber = 1e12;
+constexpr JsonBounds Bounds = {2, 64};  // a reference has less than 20 parts
 
 // Faults of files are told in one form, here and where recordings are read.
 [[noreturn]] void refuse(const std::filesystem::path& file, const std::string& found,
@@ -46,11 +48,9 @@ public:
 private:
     Json parse() const {
         try {
-            return Json::parse(readSmallFile(file_, LargestFile));
+            return parseJson(file_, readSmallFile(file_, LargestFile), Bounds);
         } catch (const RecordingError& error) {
             throw AnalysisError(error.what());
-        } catch (const Json::exception&) {
-            refuse(file_, "no JSON");
         }
     }
 
@@ -109,7 +109,8 @@ private:
     Json json_;
 };
 
-Json jsonOf(const ReferenceOrbit& reference) {
+// The members in the order in which a reader looks for them.
+nlohmann::ordered_json jsonOf(const ReferenceOrbit& reference) {
     const AveragedOrbit& orbit = reference.orbit;
     return {{"format", Format},
             {"unit", orbit.unit},

@@ -22,13 +22,6 @@ std::string countText(std::size_t least, std::size_t most) {
     return std::to_string(least) + " to " + std::to_string(most);
 }
 
-FilePlace placeOf(const std::filesystem::path& file, std::string_view text, std::size_t byte) {
-    const std::string_view before = text.substr(0, byte);
-    const auto lines = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-    const std::size_t lineStart = lines > 0 ? before.rfind('\n') + 1 : 0;
-    return {file, lines + 1, before.size() - lineStart + 1};
-}
-
 }  // namespace
 
 double JsonPlace::number(double least, double most) const {
@@ -106,24 +99,6 @@ void JsonPlace::refuse(std::string_view allowed) const {
 
 JsonPlace JsonPlace::inner(const Json& value, std::string_view name) const {
     return {*file_, value, pointer_ + '/' + std::string(name)};
-}
-
-Json parseJson(const std::filesystem::path& file, std::string_view text, int deepest) {
-    const auto checkDepth = [&](int depth, Json::parse_event_t, Json&) {
-        if (depth <= deepest) return true;
-        throw RecordingError({file}, "values nested deeper than any view nests them",
-                             std::to_string(deepest) + " levels");
-    };
-    try {
-        return Json::parse(text, checkDepth);
-    } catch (const Json::parse_error& error) {
-        const std::size_t byte = error.byte > 0 ? error.byte - 1 : 0;
-        const std::string found =
-            byte < text.size() ? inQuotes(text.substr(byte, 1)) : "the end of the file";
-        throw RecordingError(placeOf(file, text, byte), found, "a JSON object");
-    } catch (const Json::exception&) {
-        throw RecordingError({file}, "a number beyond all bounds", "a JSON object");
-    }
 }
 
 }  // namespace Rotavue::Workbench

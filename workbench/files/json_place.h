@@ -54,8 +54,4 @@ private:
     std::string pointer_;
 };
 
-/// The JSON of a text. Throws RecordingError that names line and column for a text that is none, or
-/// one that nests deeper than `deepest`.
-nlohmann::json parseJson(const std::filesystem::path& file, std::string_view text, int deepest);
-
 }  // namespace Rotavue::Workbench

@@ -8,6 +8,7 @@
 #include "workbench/analysis/replace_file.h"
 #include "workbench/files/json_place.h"
 #include "workbench/recording/input_file.h"
+#include "workbench/recording/json_text.h"
 #include "workbench/recording/machine_file.h"
 #include "workbench/recording/recording_error.h"
 #include "workbench/setup/setup_rules.h"
@@ -20,7 +21,7 @@ using Path = std::filesystem::path;
 
 constexpr int Version = 1;
 constexpr std::size_t LargestFile = 4U << 20U;
-constexpr int DeepestLevel = 8;
+constexpr JsonBounds Bounds = {8, 100'000};  // a view full of planes has less than half of them
 constexpr std::size_t MostPlanes = 64;
 constexpr std::size_t MostCurves = 64;
 constexpr std::size_t MostOrders = 64;
@@ -90,7 +91,7 @@ std::map<std::string, std::string> setupOf(const JsonPlace& place) {
 }
 
 View ViewReader::read() const {
-    const Json json = parseJson(file_, readSmallFile(file_, LargestFile), DeepestLevel);
+    const Json json = parseJson(file_, readSmallFile(file_, LargestFile), Bounds);
     const JsonPlace top(file_, json);
     top.checkMembers({"rotavueView", "cursor", "planes"});
     top.at("rotavueView").number(Version, Version);

@@ -104,6 +104,13 @@ TEST_F(ReferenceFile, LeavesNothingBehindWhenItCannotBeWritten) {
     EXPECT_TRUE(replaceFile(folder_ / "none" / "deep.json", "text"));
 }
 
+std::string manyMembers(int count) {
+    std::string text = "{\"a\": 0";
+    for (int i = 0; i < count; ++i)
+        text += ", \"" + std::to_string(i) + "\": 0";
+    return text + '}';
+}
+
 TEST_F(ReferenceFile, IsRefusedInOneLineWhenItIsNoReference) {
     saveReference(smallReference(), file());
     const std::string good = read();
@@ -115,15 +122,16 @@ TEST_F(ReferenceFile, IsRefusedInOneLineWhenItIsNoReference) {
         std::string text;
         const char* line;
     } cases[] = {
-        {"", "found no JSON, allowed: a reference orbit"},
-        {"{\"format\": ", "found no JSON"},
-        {std::string(100'000, '['), "found no JSON"},
+        {"", ":1:1: found the end of the file, allowed: a JSON object"},
+        {"{\"format\":\n x", ":2:2: found \"x\", allowed: a JSON object"},
+        {std::string(100'000, '['), "found values nested too deep, allowed: 2 levels"},
+        {manyMembers(40'000), "found too many lists, objects and texts, allowed: at most 64"},
         {"[]", "found no member \"format\" of \"rotavue reference orbit 1\""},
         {"{}", "found no member \"format\""},
         {with("orbit 1", "orbit 2"), "found no member \"format\""},
         {with("\"unit\"", "\"Unit\""), "found no member \"unit\""},
         {with("300.5", "\"fast\""), "\"speed_rpm\", allowed: a number from 0 to 1000000000000"},
-        {with("45.0", "1e999"), "found no JSON"},
+        {with("45.0", "1e999"), "found a number beyond all bounds"},
         {with("\"averages\": 25", "\"averages\": 2.5"), "\"averages\", allowed: a whole number"},
         {with("\"revolutions\": 2", "\"revolutions\": 3"), "\"x\", allowed: a list of 6 numbers"},
         {with("-2.5", "null"), "\"x\", allowed: a list of 4 numbers"},

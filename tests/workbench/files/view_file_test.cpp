@@ -145,9 +145,21 @@ TEST_F(ViewFileTest, NamesThePlaceOfWhatIsWrongInAPlane) {
 
 TEST_F(ViewFileTest, DeepNestingEndsInALine) {
     const std::string deep(1'000'000, '[');
-    EXPECT_EQ(faultOf(deep),
-              "v.rotavue: found values nested deeper than any view nests them, "
-              "allowed: 8 levels");
+    EXPECT_EQ(faultOf(deep), "v.rotavue: found values nested too deep, allowed: 8 levels");
+}
+
+// 45,000 objects in one list, and as many as a file may have room for.
+TEST_F(ViewFileTest, LongListsEndInALine) {
+    const auto objects = [](std::size_t count) {
+        std::string text = R"({"planes":[{})";
+        for (std::size_t i = 1; i < count; ++i)
+            text += ",{}";
+        return text + R"(],"rotavueView":1})";
+    };
+    EXPECT_EQ(faultOf(objects(45'000)),
+              "v.rotavue: found a list of 45000 at /planes, allowed: a list of 0 to 64");
+    EXPECT_EQ(faultOf(objects(1'398'000)),
+              "v.rotavue: found too many lists, objects and texts, allowed: at most 100000");
 }
 
 TEST_F(ViewFileTest, AnyBytesEndInAViewOrALine) {
