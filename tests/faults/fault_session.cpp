@@ -1,18 +1,43 @@
 #include "tests/faults/fault_session.h"
 
 #include <algorithm>
+#include <ostream>
 #include <sstream>
+#include <stdexcept>
 
 namespace Rotavue::HostKit {
 
 namespace {
 
-std::string withClosingSteps(const std::string& text) {
-    Json session = Json::parse(text);
-    session["steps"].push_back(
-        Json::parse(R"({"message": 2, "args": [{"object": "app"}, {"object": "control"}]})"));
-    session["steps"].push_back(
-        Json::parse(R"({"message": 42, "args": [{"object": "canvas"}, 0, 0, 400, 300, 0, 0, 1]})"));
+const Json Attach =
+    Json::parse(R"({"message": 2, "args": [{"object": "app"}, {"object": "control"}]})");
+const Json Draw =
+    Json::parse(R"({"message": 42, "args": [{"object": "canvas"}, 0, 0, 400, 300, 0, 0, 1]})");
+
+/// Back to the host as it is without a description, and a measurement that is.
+const Json Defaults = Json::parse(
+    R"({"patch": {"nulls": null, "host": null, "canvas": null, "panel": null, "assigned": null}})");
+const Json SoundMeasurement = Json::parse(R"({"patch": {
+    "host": {"sampleRate": 8.0, "blockSize": 8, "acquiredSampleCount": 8, "currentPosition": [1, 0]},
+    "channels": {
+        "sound orbit": {"sampleCount": 8, "sampleCounter": 8, "sampleRate": 8.0,
+            "values": {"4": [0, 1, 2, 1, 0, -1, -2, -1], "5": [2, 1, 0, -1, -2, -1, 0, 1]}},
+        "sound tacho": {"sampleCount": 8, "sampleCounter": 8, "sampleRate": 8.0,
+            "values": {"0": [0, 0.5]}}},
+    "assigned": {"groups": [{"channels": ["sound orbit", "sound tacho"]}]}}})");
+
+std::size_t plannedFaultsOf(const Json& session) {
+    const Json& steps = session["steps"];
+    return static_cast<std::size_t>(std::count_if(
+        steps.begin(), steps.end(), [](const Json& step) { return step.contains("fail"); }));
+}
+
+std::string withClosingSteps(Json session) {
+    const std::size_t planned = plannedFaultsOf(session);
+    Json& steps = session["steps"];
+    steps.insert(steps.end(), {Attach, Draw, Defaults, SoundMeasurement});
+    for (std::size_t i = 0; i <= planned; ++i)
+        steps.insert(steps.end(), {Attach, Draw});
     return session.dump();
 }
 
@@ -31,6 +56,10 @@ LogLines toLines(const std::string& log) {
 
 }  // namespace
 
+LogLines ReadyLog::lines() const {
+    return toLines({pbase(), pptr()});
+}
+
 LogLine::LogLine(const std::string& text) {
     const Json json = Json::parse(text);
     call = json.value("call", "");
@@ -42,8 +71,10 @@ LogLine::LogLine(const std::string& text) {
 }
 
 FaultSession::FaultSession(const std::filesystem::path& file)
-    : session_(withClosingSteps(readText(file))),
-      hasOwnFault_(readText(file).find("\"fail\"") != std::string::npos) {}
+    : FaultSession(Json::parse(readText(file))) {}
+
+FaultSession::FaultSession(const Json& json)
+    : session_(withClosingSteps(json)), triedSteps_(json["steps"].size() + 2) {}
 
 LogLines FaultSession::play(const std::function<void(MemoryHost&)>& prepare) const {
     std::ostringstream log;
@@ -53,10 +84,10 @@ LogLines FaultSession::play(const std::function<void(MemoryHost&)>& prepare) con
     return toLines(log.str());
 }
 
-LogLines FaultSession::playQuietly() const {
-    std::ostringstream log;
-    Player(session_, builtModule(), log, {CallGroups(), nullptr}).play();
-    return toLines(log.str());
+void FaultSession::playQuietly(ReadyLog& log) const {
+    std::ostream stream(&log);
+    Player(session_, builtModule(), stream, {CallGroups(), nullptr}).play();
+    if (stream.bad()) throw std::length_error("a longer log than there is room for");
 }
 
 std::size_t endOfMessage(const LogLines& log, std::size_t place) {
@@ -65,10 +96,16 @@ std::size_t endOfMessage(const LogLines& log, std::size_t place) {
     return place;
 }
 
-bool closingFrameWorks(const LogLines& log) {
-    if (log.size() < 2) return false;
-    const LogLine draw(log[log.size() - 2]);
-    return draw.message == 42 && draw.error.empty();
+std::size_t FaultSession::triedPart(const LogLines& log) const {
+    const std::string last = "{\"step\": " + std::to_string(triedSteps_ - 1) + ',';
+    const auto end = std::find_if(log.begin(), log.end(),
+                                  [&](const std::string& line) { return line.starts_with(last); });
+    return static_cast<std::size_t>(end - log.begin());
+}
+
+std::string closingError(const LogLines& log) {
+    const LogLine draw(log.at(log.size() - 2));
+    return draw.message == 42 ? draw.error : "no frame";
 }
 
 bool nothingHeld(const LogLines& log) {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <streambuf>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,17 @@ namespace Rotavue::HostKit {
 
 /// The lines of a log.
 using LogLines = std::vector<std::string>;
+
+/// Takes a log without a further allocation: a stream that fails in one goes on without a word.
+class ReadyLog : public std::streambuf {
+public:
+    ReadyLog() { setp(text_.data(), text_.data() + text_.size()); }
+
+    LogLines lines() const;
+
+private:
+    std::vector<char> text_ = std::vector<char>(std::size_t{64} << 10);
+};
 
 /// A line of a log, as far as a fault can change it.
 struct LogLine {
@@ -25,8 +37,11 @@ struct LogLine {
     std::string error;           ///< what the message raised, as the log spells it
 };
 
-/// One session of the folder with two more steps at its end, which attach the control and draw a
-/// whole frame: what a host does when it goes on after an error.
+/// One session of the folder with more steps at its end. The first two attach the control and draw
+/// a whole frame: what a host does when it goes on after an error. Then the host becomes a sound
+/// one with a measurement of its own, and attaches and draws once more, and once again for each
+/// fault that the session plans itself: those that it did not reach come true before the last
+/// frame.
 class FaultSession {
 public:
     explicit FaultSession(const std::filesystem::path& file);
@@ -35,23 +50,24 @@ public:
     LogLines play(const std::function<void(MemoryHost&)>& prepare = {}) const;
 
     /// The same with a log that tells of no calls.
-    LogLines playQuietly() const;
+    void playQuietly(ReadyLog& log) const;
 
-    /// True for a session that plans faults of its own: one that was not reached may come true in
-    /// the closing frame.
-    bool hasOwnFault() const { return hasOwnFault_; }
+    /// How many lines of a log come before the host becomes a sound one.
+    std::size_t triedPart(const LogLines& log) const;
 
 private:
+    explicit FaultSession(const Json& json);
+
     Session session_;
-    bool hasOwnFault_;
+    std::size_t triedSteps_;
 };
 
 /// The place of the line that tells how the message ended in whose course the line at `place`
 /// stands.
 std::size_t endOfMessage(const LogLines& log, std::size_t place);
 
-/// True for a log whose closing frame raised nothing.
-bool closingFrameWorks(const LogLines& log);
+/// What the last frame of a log raised; empty for a frame that was drawn.
+std::string closingError(const LogLines& log);
 
 /// True for a log at whose end nothing was held of the host.
 bool nothingHeld(const LogLines& log);
