@@ -26,6 +26,7 @@ constexpr std::int64_t UsualMessages = 100'000;
 constexpr std::int64_t UsualMessages = 1'000'000;
 #endif
 constexpr std::int64_t Stretch = 1000;
+constexpr std::int64_t PlannedAtOnce = 16;
 
 /// As many as `tools/soak` asks for.
 std::int64_t messageCount() {
@@ -52,12 +53,19 @@ protected:
         describeChannel("harmonic", L"Harmonic", 1, 4).array = true;
         describeChannel("reference", L"Reference", 1, 16).array = true;
         describeChannel("sub", L"SubSync", 64, 1);
-        describeChannel("center", L"ShaftCenter", 40, 2).array = true;
+        describeChannel("center", L"", 40, 2).array = true;
         host_.description.host.sampleRate = 1000.0;
         host_.description.host.currentPosition = {2, 0};
         host_.description.assigned.slots = {{0}};
-        send(MessageCode::Attach, {host_.app(), host_.control()});
+        host_.description.host.editText = {true, L"12.5"};
+        attach();
+        send(MessageCode::BuildProperties, {host_.panel()});
+        for (std::int64_t i = 0; i < PlannedAtOnce; ++i)
+            host_.gate.fail({{}, 1, Host::Status::Unspecified, {}});
+        settle();
     }
+
+    void attach() { send(MessageCode::Attach, {host_.app(), host_.control()}); }
 
     ChannelDescription& describeChannel(const std::string& id, const wchar_t* type,
                                         std::int32_t samples, std::int32_t elements) {
@@ -108,6 +116,7 @@ protected:
     void changeSetup() {
         host_.description.setup = {{L"graphType", std::to_wstring(below(2))},
                                    {L"historyType", std::to_wstring(below(2))},
+                                   {L"useManualMagnitudeLimits", below(2) == 0 ? L"True" : L""},
                                    {L"tickCount", std::to_wstring(below(21))},
                                    {L"displayTime", std::to_wstring(below(200))}};
         send(MessageCode::Setup, {host_.document(), host_.node(), 0});
@@ -116,52 +125,117 @@ protected:
     void point() {
         const std::int32_t x = below(420) - 10;
         const std::int32_t y = below(320) - 10;
+        if (below(8) == 0) send(MessageCode::PointerEntered, {});
         send(MessageCode::PointerMoved, {0, x, y});
+        if (below(32) == 0) send(MessageCode::PointerLeft, {});
+        if (below(16) == 0) send(MessageCode::WheelForward, {0, x, y});
+        if (below(16) == 0) send(MessageCode::WheelBackward, {0, x, y});
         if (below(4) == 0) send(MessageCode::ButtonPressed, {0, 0, x, y});
         if (below(4) == 0) send(MessageCode::ButtonReleased, {0, 0, x, y});
     }
 
+    void save() {
+        send(MessageCode::Setup, {host_.document(), host_.node(), 0xFFFF});
+        const auto limit = host_.description.setup.find(L"maxXValue");
+        if (limit != host_.description.setup.end() && limit->second.starts_with(L"12.5")) ++edits_;
+    }
+
+    void usePanel() {
+        static const std::vector<std::wstring> Names{L"TickCount", L"GraphType", L"HistoryTime"};
+        const std::wstring& name = Names[static_cast<std::size_t>(below(3))];
+        send(MessageCode::FillProperties, {host_.panel()});
+        host_.setWidget(name, std::int64_t{below(21)});
+        send(MessageCode::ReadProperty, {name, host_.widget(name)});
+        send(MessageCode::PropertyEvent, {name, host_.widget(name), 0});
+        if (below(16) == 0) send(MessageCode::BuildProperties, {host_.panel()});
+    }
+
+    void ask() {
+        send(MessageCode::DataWindow, {});
+        send(MessageCode::CanCopy, {});
+        send(MessageCode::ChannelCheck, {host_.channel("orbit")});
+        if (!host_.description.assigned.groups.empty())
+            send(MessageCode::GroupCheck, {host_.group(0)});
+    }
+
+    /// A frame with a call that fails; one that is not reached waits for the next frame.
+    void drawAndFail() {
+        host_.gate.fail({{}, 1 + below(60), Host::Status::Unspecified, {}});
+        draw(400, 300);
+    }
+
     void step() {
-        switch (below(16)) {
+        switch (below(20)) {
             case 0:
                 return changeChannels();
             case 1:
                 return changeSetup();
             case 2:
-                return send(MessageCode::Setup, {host_.document(), host_.node(), 0xFFFF});
+                return save();
             case 3:
                 return send(MessageCode::Copy, {});
             case 4:
-                return send(MessageCode::DataWindow, {});
+                return ask();
             case 5:
+                return usePanel();
             case 6:
+                return below(4) == 0 ? attach() : drawAndFail();
+            case 7:
+            case 8:
                 return draw(400 - below(200), 300 - below(200));
             default:
                 return point();
         }
     }
 
+    /// Draws until no failure waits any more.
+    void settle() {
+        for (std::int64_t before = -1; before != errors_;) {
+            before = errors_;
+            attach();
+            draw(400, 300);
+        }
+    }
+
+    struct Living {
+        std::int64_t allocations = 0;
+        std::int64_t bytes = 0;
+        friend std::ostream& operator<<(std::ostream& out, const Living& living) {
+            return out << living.allocations << " allocations of " << living.bytes << " bytes";
+        }
+    };
+
+    /// The heap gives some pieces a few bytes more than others of the same size; a list that grew
+    /// by one number in a thousand steps would take more.
+    static void expectFlat(const Living& now, const Living& first) {
+        EXPECT_EQ(now.allocations, first.allocations);
+        EXPECT_LE(std::abs(now.bytes - first.bytes), 4096);
+    }
+
     /// What is taken of the heap in a state that is always the same.
-    std::int64_t livingAtRest() {
+    Living livingAtRest() {
         host_.description.assigned = {{}, {}, {{0}}};
         host_.description.setup.clear();
+        settle();
         send(MessageCode::ChannelsChanged, {0});
+        send(MessageCode::PointerLeft, {});
         send(MessageCode::Setup, {host_.document(), host_.node(), 0});
         draw(400, 300);
-        return MemoryMeter::living();
+        return {MemoryMeter::living(), MemoryMeter::livingBytes()};
     }
 
     std::mt19937 random_{8};
     MemoryHost host_;
     MessageAnswer answer_;
     std::int64_t errors_ = 0;
+    std::int64_t edits_ = 0;  ///< savings of a limit that was edited
     Host::Ref<Meridax::VisualControls::Api::IMeridaxPlugin> control_ = builtModule()->makeControl();
 };
 
 TEST_F(Soak, MemoryIsFlatFromTheThousandthMessageToTheLast) {
     const std::int64_t messages = messageCount();
     ASSERT_GT(messages, Stretch);
-    std::int64_t living = 0;
+    Living living;
     std::int64_t resident = 0;
     for (std::int64_t sent = 0; sent < messages; ++sent) {
         if (sent == Stretch) {
@@ -169,14 +243,17 @@ TEST_F(Soak, MemoryIsFlatFromTheThousandthMessageToTheLast) {
             resident = residentKilobytes();
         }
         if (sent > Stretch && sent % (10 * Stretch) == 0) {
-            ASSERT_EQ(livingAtRest(), living) << "after " << sent << " messages";
+            expectFlat(livingAtRest(), living);
+            ASSERT_FALSE(HasFailure()) << "after " << sent << " steps";
         }
         step();
     }
-    EXPECT_EQ(livingAtRest(), living);
-    std::cout << living << " allocations and " << resident << " kB after " << Stretch
-              << " messages, " << MemoryMeter::living() << " and " << residentKilobytes()
-              << " kB after " << messages << "\n";
+    expectFlat(livingAtRest(), living);
+    std::cout << living << " and " << resident << " kB after " << Stretch << " steps, "
+              << livingAtRest() << " and " << residentKilobytes() << " kB after " << messages
+              << ", " << errors_ << " errors, " << edits_ << " savings of an edited limit\n";
+    EXPECT_GT(errors_, messages / 100) << "calls fail";
+    EXPECT_GT(edits_, 0);
     EXPECT_LT(errors_, messages / 10) << "most messages do something";
     control_ = nullptr;
     EXPECT_EQ(host_.references(), 0);

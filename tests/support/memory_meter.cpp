@@ -1,5 +1,7 @@
 #include "tests/support/memory_meter.h"
 
+#include <malloc.h>
+
 #include <cstddef>
 #include <cstdlib>
 #include <limits>
@@ -12,21 +14,29 @@ namespace {
 constexpr std::int64_t Never = std::numeric_limits<std::int64_t>::max();
 
 std::int64_t livingNow = 0;
+std::int64_t bytesNow = 0;
 std::int64_t triedSoFar = 0;
 std::int64_t firstFailure = Never;  // both by the number of the allocation
 std::int64_t lastFailure = Never;
+
+std::int64_t sizeOf(void* memory) noexcept {
+    return static_cast<std::int64_t>(::malloc_usable_size(memory));
+}
 
 void* allocate(std::size_t size) noexcept {
     ++triedSoFar;
     if (triedSoFar >= firstFailure && triedSoFar <= lastFailure) return nullptr;
     void* const memory = std::malloc(size == 0 ? 1 : size);
-    if (memory != nullptr) ++livingNow;
+    if (memory == nullptr) return nullptr;
+    ++livingNow;
+    bytesNow += sizeOf(memory);
     return memory;
 }
 
 void release(void* memory) noexcept {
     if (memory == nullptr) return;
     --livingNow;
+    bytesNow -= sizeOf(memory);
     std::free(memory);
 }
 
@@ -34,6 +44,10 @@ void release(void* memory) noexcept {
 
 std::int64_t living() noexcept {
     return livingNow;
+}
+
+std::int64_t livingBytes() noexcept {
+    return bytesNow;
 }
 
 std::int64_t tried() noexcept {

@@ -9,6 +9,9 @@ namespace Meridax::Tests::MemoryMeter {
 /// Allocations that live now.
 std::int64_t living() noexcept;
 
+/// The bytes that they hold.
+std::int64_t livingBytes() noexcept;
+
 /// Allocations that were tried since the program started.
 std::int64_t tried() noexcept;
 
