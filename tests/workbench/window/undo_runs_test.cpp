@@ -6,6 +6,9 @@
 #include <QTabWidget>
 #include <QWheelEvent>
 
+#include <functional>
+#include <initializer_list>
+
 namespace Rotavue::Workbench {
 namespace {
 
@@ -30,76 +33,70 @@ protected:
         }
     }
 
-    int steps() { return bench().undoStack().count(); }
-    void undo() { action("undo").trigger(); }
+    static void keys(QSpinBox& box, std::initializer_list<Qt::Key> pressed) {
+        for (const Qt::Key key : pressed)
+            QTest::keyClick(&box, key);
+    }
+
+    int steps() { return bench().undoStack().index(); }
+    void undo() { bench().undoStack().undo(); }
 };
 
-TEST_F(UndoRunsTest, AnArrowThatIsHeldIsOneStep) {
-    open();
-    QSpinBox& box = ticks();
-    const int before = steps();
-    for (int i = 0; i < 4; ++i)
-        QTest::keyClick(&box, Qt::Key_Up);
-    EXPECT_EQ(box.value(), 9);
-    EXPECT_EQ(steps(), before + 1);
-    bench().undoStack().undo();
-    EXPECT_EQ(box.value(), 5);
-}
-
-TEST_F(UndoRunsTest, ClicksOfTheWheelAreOneStep) {
-    open();
-    QSpinBox& box = ticks();
-    const int before = steps();
-    turnWheel(box, 3);
-    EXPECT_EQ(box.value(), 8);
-    EXPECT_EQ(steps(), before + 1);
-}
-
-TEST_F(UndoRunsTest, TypedDigitsAreOneStep) {
-    open();
-    QSpinBox& box = ticks();
-    const int before = steps();
-    box.selectAll();
-    QTest::keyClicks(&box, "12");
-    QTest::keyClick(&box, Qt::Key_Return);
-    EXPECT_EQ(steps(), before + 1);
-    bench().undoStack().undo();
-    EXPECT_EQ(box.value(), 5);
-}
-
-TEST_F(UndoRunsTest, UpAndDownAgainIsNothingToUndo) {
-    open();
-    QSpinBox& box = ticks();
-    const int before = steps();
-    QTest::keyClick(&box, Qt::Key_Up);
-    QTest::keyClick(&box, Qt::Key_Down);
-    EXPECT_EQ(steps(), before);
-}
-
-TEST_F(UndoRunsTest, LeavingTheBoxEndsTheRun) {
+TEST_F(UndoRunsTest, WhatIsDoneInOneGoIsOneStep) {
     OrbitView& view = open();
-    QSpinBox& box = ticks();
-    const int before = steps();
-    QTest::keyClick(&box, Qt::Key_Up);
-    view.setFocus();
-    box.setFocus();
-    QTest::keyClick(&box, Qt::Key_Up);
-    EXPECT_EQ(steps(), before + 2);
-    bench().undoStack().undo();
-    EXPECT_EQ(box.value(), 6);
-}
-
-TEST_F(UndoRunsTest, AfterAnUndoANewRunBegins) {
-    open();
-    QSpinBox& box = ticks();
-    const int before = steps();
-    QTest::keyClick(&box, Qt::Key_Up);
-    bench().undoStack().undo();
-    QTest::keyClick(&box, Qt::Key_Up);
-    QTest::keyClick(&box, Qt::Key_Up);
-    EXPECT_EQ(steps(), before + 1);
-    bench().undoStack().undo();
-    EXPECT_EQ(box.value(), 5);
+    const struct {
+        const char* name;
+        std::function<void(QSpinBox&)> act;
+        int steps;   ///< of undo, for what was done
+        int value;   ///< in the end
+        int undone;  ///< after one step back
+    } cases[] = {
+        {"an arrow that is held",
+         [](QSpinBox& box) {
+             keys(box, {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up});
+         },
+         1, 9, 5},
+        {"clicks of the wheel", [](QSpinBox& box) { turnWheel(box, 3); }, 1, 8, 5},
+        {"typed digits",
+         [](QSpinBox& box) {
+             box.selectAll();
+             QTest::keyClicks(&box, "12");
+             keys(box, {Qt::Key_Return});
+         },
+         1, 12, 5},
+        {"up and down again",
+         [](QSpinBox& box) {
+             keys(box, {Qt::Key_Up, Qt::Key_Down});
+         },
+         0, 5, 5},
+        {"leaving the box between",
+         [&](QSpinBox& box) {
+             keys(box, {Qt::Key_Up});
+             view.setFocus();
+             box.setFocus();
+             keys(box, {Qt::Key_Up});
+         },
+         2, 7, 6},
+        {"after an undo",
+         [this](QSpinBox& box) {
+             keys(box, {Qt::Key_Up});
+             undo();
+             keys(box, {Qt::Key_Up, Qt::Key_Up});
+         },
+         1, 7, 5},
+    };
+    for (const auto& one : cases) {
+        QSpinBox& box = ticks();
+        const int before = steps();
+        one.act(box);
+        EXPECT_EQ(box.value(), one.value) << one.name;
+        EXPECT_EQ(steps(), before + one.steps) << one.name;
+        if (one.steps > 0) undo();
+        EXPECT_EQ(box.value(), one.undone) << one.name;
+        while (steps() > 0 && box.value() != 5)
+            undo();
+        view.setFocus();
+    }
 }
 
 // Two runs of the same box on two planes would otherwise become one.
