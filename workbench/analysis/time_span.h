@@ -11,6 +11,8 @@ struct TimeSpan {
 
     double length() const { return to - from; }
     bool contains(double time) const { return time >= from && time <= to; }
+
+    bool operator==(const TimeSpan&) const = default;
 };
 
 }  // namespace Rotavue::Workbench

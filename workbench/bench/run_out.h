@@ -16,6 +16,8 @@ struct RunOutSource {
     CompensationForm form = CompensationForm::Vector;
     TimeSpan span = {};                                  ///< of slow roll
     std::optional<std::filesystem::path> slowRoll = {};  ///< unset: the recording itself
+
+    bool operator==(const RunOutSource&) const = default;
 };
 
 /// Run-out that is taken off. Whoever shows what is left has all that it takes to save it, to take

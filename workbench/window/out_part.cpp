@@ -34,6 +34,7 @@ void addRunOut(MainWindow& window) {
     auto* actions = new RunOutActions(
         window.bench(), [&window] { return window.currentPlane(); },
         [&window] { return window.markedStretch().span(); }, &window);
+    window.addBar(*actions->makeBar(&window));
     QMenu* menu = window.editMenu().addMenu(MainWindow::tr("&Run-out"));
     menu->addActions({&actions->take, &actions->takeFile});
     menu->addSeparator();

@@ -13,6 +13,13 @@
 
 namespace Rotavue::Workbench {
 
+namespace {
+
+constexpr int TickLength = 100;  // ms
+constexpr int ShownAfter = 500;  // ms
+
+}  // namespace
+
 std::optional<CompensationForm> compensationOf(const Plane& plane) {
     const auto& runOut = plane.shown().runOut;
     return runOut ? std::optional(runOut->source.form) : std::nullopt;
@@ -51,9 +58,42 @@ RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch m
     connect(&none, &QAction::triggered, this, [this] { choose(std::nullopt); });
     connect(&vector, &QAction::triggered, this, [this] { choose(CompensationForm::Vector); });
     connect(&waveform, &QAction::triggered, this, [this] { choose(CompensationForm::Waveform); });
+    tick_.setInterval(TickLength);
+    connect(&tick_, &QTimer::timeout, this, [this] {
+        if (!bar_ || !progress_) return;
+        bar_->tell(tr("Taking run-out off"), progress_->part);
+        if (clock_.elapsed() >= ShownAfter) bar_->show();
+    });
     connect(&bench_, &Bench::curvesChanged, this, [this] { refresh(); });
     connect(&bench_, &Bench::planesChanged, this, [this] { refresh(); });
     refresh();
+}
+
+RunOutActions::~RunOutActions() {
+    for (auto& entry : works_)
+        entry.second.progress->cancelled = true;
+}
+
+ProgressRow* RunOutActions::makeBar(QWidget* parent) {
+    bar_ = new ProgressRow(QStringLiteral("runOut"), tr("Leave the plane as it is"), parent);
+    connect(bar_, &ProgressRow::cancelled, this, [this] {
+        if (progress_) progress_->cancelled = true;
+        endProgress();
+    });
+    return bar_;
+}
+
+std::shared_ptr<RunOutActions::Progress> RunOutActions::beginProgress() {
+    progress_ = std::make_shared<Progress>();
+    clock_.start();
+    tick_.start();
+    return progress_;
+}
+
+void RunOutActions::endProgress() {
+    progress_ = nullptr;
+    tick_.stop();
+    if (bar_) bar_->hide();
 }
 
 std::shared_ptr<Plane> RunOutActions::shared(const Plane* plane) const {
@@ -84,9 +124,17 @@ CompensationForm RunOutActions::formFor(const Plane& plane) const {
     return compensationOf(plane).value_or(CompensationForm::Vector);
 }
 
-RunOutActions::Result RunOutActions::resultOf(const Source& original, const Maker& make) {
+RunOutActions::Result RunOutActions::resultOf(const Source& original, const Maker& make,
+                                              Progress& progress) {
+    const ReadingWatch watch = [&progress](double part) {
+        progress.part = part;
+        return !progress.cancelled;
+    };
     try {
-        return {.left = make(original)};
+        Source left = make(original, watch);
+        return progress.cancelled ? Result{} : Result{.left = std::move(left)};
+    } catch (const ReadingCancelled&) {
+        return {};
     } catch (const std::exception& error) {
         return {.left = nullptr, .failure = error.what()};
     }
@@ -95,27 +143,59 @@ RunOutActions::Result RunOutActions::resultOf(const Source& original, const Make
 void RunOutActions::start(Plane& plane, Maker make) {
     forgetGone();
     const std::weak_ptr<Plane> place = shared(&plane);
-    std::unique_ptr<LatestJob>& job = jobs_[place];
-    if (!job) job = std::make_unique<LatestJob>();
+    Work& work = works_[place];
+    work.progress = beginProgress();
     // The plane itself belongs to this thread; what the worker reads outlives it there.
-    job->start([this, place, make = std::move(make),
-                original = plane.sharedOriginal()]() -> LatestJob::Deliver {
-        const Result result = resultOf(original, make);
-        return [this, place, original, result] { deliver(place.lock(), original, result); };
+    work.job->start([this, place, make = std::move(make), progress = work.progress,
+                     original = plane.sharedOriginal()]() -> LatestJob::Deliver {
+        const Result result = resultOf(original, make, *progress);
+        return [this, place, original, result, progress] {
+            if (progress == progress_) endProgress();
+            if (!progress->cancelled) deliver(place.lock(), original, result);
+        };
     });
 }
 
 void RunOutActions::find(Plane& plane, const RunOutSource& source) {
-    start(plane, [source](const Source& original) {
-        return withoutRunOut(original, source, findRunOut(*original, source));
+    start(plane, [source](const Source& original, const ReadingWatch& watch) {
+        return withoutRunOut(original, source, findRunOut(*original, source, watch));
     });
+}
+
+/// Shows what was made before in the same way, where a step of undo or the plane still has it: the
+/// samples are as many as the recording's, and each copy of them would stay in the undo.
+bool RunOutActions::showMade(Plane& plane, const RunOutSource& source) {
+    const auto made = made_.find(shared(&plane));
+    if (made == made_.end()) return false;
+    for (const auto& one : made->second) {
+        const Source left = one.lock();
+        if (!left || left->runOut->source != source) continue;
+        if (left->runOut->original != plane.sharedOriginal()) continue;
+        cancel(plane);
+        if (plane.sharedShown() != left) bench_.showCompensated(plane, left);
+        return true;
+    }
+    return false;
+}
+
+/// What is still being made for a plane is no longer wanted.
+void RunOutActions::cancel(const Plane& plane) {
+    const auto found = works_.find(shared(&plane));
+    if (found == works_.end() || !found->second.job->isRunning()) return;
+    const Work& work = found->second;
+    work.job->forget();
+    work.progress->cancelled = true;
+    if (work.progress == progress_) endProgress();
 }
 
 /// The job of a plane that is gone may still run: it goes later.
 void RunOutActions::forgetGone() {
+    std::erase_if(made_, [](const auto& entry) { return entry.first.expired(); });
+    for (auto& entry : made_)
+        std::erase_if(entry.second, [](const auto& one) { return one.expired(); });
     std::erase_if(known_, [](const auto& entry) { return entry.first.expired(); });
-    std::erase_if(jobs_, [](const auto& entry) {
-        return entry.first.expired() && !entry.second->isRunning();
+    std::erase_if(works_, [](const auto& entry) {
+        return entry.first.expired() && !entry.second.job->isRunning();
     });
 }
 
@@ -123,6 +203,7 @@ void RunOutActions::deliver(const std::shared_ptr<Plane>& plane, const Source& o
                             const Result& result) {
     if (!plane || !bench_.has(*plane) || plane->sharedOriginal() != original) return;
     if (result.left) {
+        made_[plane].push_back(result.left);
         bench_.showCompensated(*plane, result.left);
     } else {
         bench_.report(QString::fromStdString(plane->name() + ": " + result.failure));
@@ -134,7 +215,8 @@ void RunOutActions::takeMarked() {
     Plane* const plane = current_();
     const auto stretch = marked_();
     if (plane == nullptr || !stretch) return;
-    find(*plane, {.form = formFor(*plane), .span = *stretch});
+    const RunOutSource source{.form = formFor(*plane), .span = *stretch};
+    if (!showMade(*plane, source)) find(*plane, source);
 }
 
 void RunOutActions::askForFile() {
@@ -159,18 +241,22 @@ void RunOutActions::takeFrom(const std::filesystem::path& slowRoll) {
 
 void RunOutActions::choose(std::optional<CompensationForm> form) {
     Plane* const plane = current_();
-    if (plane == nullptr || form == compensationOf(*plane)) return;
+    if (plane == nullptr) return;
+    if (!form) cancel(*plane);
+    if (form == compensationOf(*plane)) return;
     if (!form) {
         bench_.showOriginal(*plane);
         return;
     }
     const auto known = known_.find(shared(plane));
     if (known == known_.end()) return;
-    start(*plane, [form = *form, runOut = known->second](const Source& original) {
-        RunOutSource source = runOut->source;
-        source.form = form;
-        return withoutRunOut(original, std::move(source), runOut->slowRoll);
-    });
+    RunOutSource source = known->second->source;
+    source.form = *form;
+    if (showMade(*plane, source)) return;
+    start(*plane,
+          [source, runOut = known->second](const Source& original, const ReadingWatch& /*watch*/) {
+              return withoutRunOut(original, source, runOut->slowRoll);
+          });
 }
 
 }  // namespace Rotavue::Workbench

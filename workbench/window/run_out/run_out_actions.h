@@ -2,18 +2,24 @@
 
 #include "workbench/bench/bench.h"
 #include "workbench/bench/run_out.h"
+#include "workbench/files/progress_row.h"
 #include "workbench/window/docks/latest_job.h"
 
 #include <QAction>
 #include <QActionGroup>
+#include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
+#include <QTimer>
 
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Rotavue::Workbench {
 
@@ -36,6 +42,12 @@ public:
     QAction vector;    ///< takes 1X and 2X away
     QAction waveform;  ///< takes all of it away
 
+    ~RunOutActions() override;
+
+    /// A line with the progress of what takes long, and a button that cancels it; shown from half a
+    /// second on. The caller owns it.
+    ProgressRow* makeBar(QWidget* parent);
+
     /// To be called when another plane or another stretch has become the current one.
     void refresh();
 
@@ -46,23 +58,38 @@ private:
     using Source = std::shared_ptr<const PlaneSource>;
 
     /// Makes what is left of an original, off the window's thread.
-    using Maker = std::function<Source(const Source& original)>;
+    using Maker = std::function<Source(const Source& original, const ReadingWatch& watch)>;
 
     struct Result {
-        Source left;  ///< null where it failed
-        std::string failure = {};
+        Source left;               ///< null where it failed
+        std::string failure = {};  ///< empty where it was cancelled
+    };
+
+    /// What the worker and the window's thread tell each other.
+    struct Progress {
+        std::atomic<double> part{0.0};
+        std::atomic<bool> cancelled{false};
+    };
+
+    struct Work {
+        std::unique_ptr<LatestJob> job = std::make_unique<LatestJob>();
+        std::shared_ptr<Progress> progress = {};  ///< of what was begun last
     };
 
     /// By the plane itself, not by its place in memory: that may be a later plane's.
     template <class Value>
     using OfPlane = std::map<std::weak_ptr<Plane>, Value, std::owner_less<>>;
 
-    static Result resultOf(const Source& original, const Maker& make);
+    static Result resultOf(const Source& original, const Maker& make, Progress& progress);
     std::shared_ptr<Plane> shared(const Plane* plane) const;
     CompensationForm formFor(const Plane& plane) const;
     void start(Plane& plane, Maker make);
     void find(Plane& plane, const RunOutSource& source);
     void deliver(const std::shared_ptr<Plane>& plane, const Source& original, const Result& result);
+    bool showMade(Plane& plane, const RunOutSource& source);
+    std::shared_ptr<Progress> beginProgress();
+    void endProgress();
+    void cancel(const Plane& plane);
     void forgetGone();
     void takeMarked();
     void askForFile();
@@ -74,7 +101,12 @@ private:
     QActionGroup forms_;
     QString folder_;  ///< of the last recording of slow roll; empty: beside the plane's
     OfPlane<std::shared_ptr<const RunOut>> known_;  ///< what was taken off last
-    OfPlane<std::unique_ptr<LatestJob>> jobs_;      ///< of each plane, the newest counts
+    OfPlane<Work> works_;                           ///< of each plane, the newest counts
+    OfPlane<std::vector<std::weak_ptr<const PlaneSource>>> made_;  ///< what undo may still hold
+    QPointer<ProgressRow> bar_;
+    QTimer tick_;
+    QElapsedTimer clock_;
+    std::shared_ptr<Progress> progress_;  ///< what the bar tells of; null: nothing
 };
 
 /// How a plane is compensated; empty where it is not.

@@ -98,6 +98,47 @@ TEST_F(RunOutActionsTest, FormIsChosenAndRunOutLetBackIn) {
     EXPECT_TRUE(becomes(WaveformWords));
 }
 
+TEST_F(RunOutActionsTest, WhatWasMadeBeforeIsShownAgainAndNotMadeAnew) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    const auto vector = plane_->sharedShown();
+    actions_.waveform.trigger();
+    ASSERT_TRUE(becomes(WaveformWords));
+    const auto waveform = plane_->sharedShown();
+    actions_.vector.trigger();
+    EXPECT_EQ(plane_->sharedShown(), vector);
+    actions_.waveform.trigger();
+    EXPECT_EQ(plane_->sharedShown(), waveform);
+    actions_.none.trigger();
+    const int steps = bench_.undoStack().count();
+    takeFrom({0.1, 0.5});
+    EXPECT_EQ(plane_->sharedShown(), vector);
+    takeFrom({0.1, 0.5});
+    EXPECT_EQ(bench_.undoStack().count(), steps + 1) << "it is shown already";
+}
+
+TEST_F(RunOutActionsTest, LeavingItInWinsOverWhatIsStillBeingTaken) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    takeFrom({0.1, 0.7});
+    actions_.none.trigger();
+    QTest::qWait(300);
+    EXPECT_EQ(plane_->compensation(), "");
+    EXPECT_EQ(plane_->sharedShown(), plane_->sharedOriginal());
+}
+
+TEST_F(RunOutActionsTest, WhatIsCancelledLeavesThePlaneAsItIsWithoutAWord) {
+    ProgressRow* const bar = actions_.makeBar(nullptr);
+    QSignalSpy reports(&bench_, &Bench::troubled);
+    takeFrom({0.1, 0.5});
+    bar->findChild<QPushButton*>("runOutCancel")->click();
+    QTest::qWait(300);
+    EXPECT_EQ(plane_->compensation(), "");
+    EXPECT_EQ(reports.count(), 0);
+    EXPECT_TRUE(bar->isHidden());
+    delete bar;
+}
+
 TEST_F(RunOutActionsTest, WhatDoubtsTheRunOutIsANoteOfThePlane) {
     takeFrom({0.1, 0.5});
     ASSERT_TRUE(becomes(VectorWords));
