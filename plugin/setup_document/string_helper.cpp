@@ -91,6 +91,7 @@ std::int32_t textToInt(const std::string& text) {
 
 std::string doubleToText(double value) {
     std::ostringstream stream;
+    stream.exceptions(std::ios_base::badbit);  // Without memory it would cut the text in silence.
     stream.setf(std::ios_base::fixed, std::ios_base::floatfield);
     stream.precision(15);
     stream << value;
