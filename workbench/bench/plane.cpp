@@ -251,6 +251,7 @@ void Plane::placeHost() {
 
 void Plane::showMoment(double seconds, HostState state) {
     position_ = shown_->sampleAt(seconds);
+    hasEnded_ = seconds * shown_->recording.sampleRate >= static_cast<double>(position_) + 1.0;
     state_ = state;
     refreshShownTurns();
     placeHost();
@@ -296,6 +297,11 @@ bool Plane::readBack() {
 
 std::vector<std::string> Plane::notes() const {
     std::vector<std::string> notes = shown_->notes;
+    if (!shown_->recording.machine.rotation)
+        notes.emplace_back(
+            "the rotation is not given; the arrow of the picture points clockwise all the same");
+    if (!shown_->recording.hasTacho())
+        notes.emplace_back("there is no keyphasor; the picture has its badge T all the same");
     for (const auto& ofCurve : notesOfCurves_)
         notes.insert(notes.end(), ofCurve.begin(), ofCurve.end());
     return notes;

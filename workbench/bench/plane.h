@@ -90,6 +90,9 @@ public:
     double time() const;                                ///< of that sample, s after the first one
     HostState state() const { return state_; }
 
+    /// Whether the cursor stands behind the last sample, which is the newest one then.
+    bool hasEnded() const { return hasEnded_; }
+
     /// What the settings make of the moment: turns or milliseconds, how many, the mean speed.
     ShownSpan span() const;
 
@@ -153,6 +156,7 @@ private:
     CurveOptions options_;
     bool light_;
     std::size_t position_;
+    bool hasEnded_ = false;
     HostState state_ = HostState::Stored;
     TimeSpan stretch_{0.0, 0.0};  ///< that the curves of the shown turns are made of
     Settings settings_;

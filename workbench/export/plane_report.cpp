@@ -65,7 +65,8 @@ NumberSheet sheetOf(const Bench& bench) {
         turns.push_back({.plane = QString::fromStdString(plane->name()),
                          .recording = recordingOf(*plane),
                          .track = trackOf(*plane),
-                         .span = stretchOf(plane->span(), plane->shown().track)});
+                         .span = stretchOf(plane->span(), plane->shown().track),
+                         .isAnyShown = isAnyShown(plane->span())});
     return numberSheet(turns);
 }
 

@@ -47,6 +47,13 @@ std::string placeText(double degreesClockwise) {
     return shortNumber(360.0 - degreesClockwise) + degree + " L";
 }
 
+std::string timeText(double seconds) {
+    constexpr int LongestText = 400;  // the largest number has 309 digits before its point
+    char text[LongestText];
+    std::snprintf(text, sizeof text, "%.4f", seconds);
+    return text;
+}
+
 std::string shortNumber(double value, int digits) {
     const double magnitude = std::abs(value);
     const int before = magnitude >= 1.0 ? static_cast<int>(std::log10(magnitude)) + 1 : 1;

@@ -19,6 +19,9 @@ double turnsIn(const Recording& recording);
 /// A probe's place as the field says it: "45\u00b0 R" is right of the top, "45\u00b0 L" left of it.
 std::string placeText(double degreesClockwise);
 
+/// A time in s, to a tenth of a millisecond wherever it is told.
+std::string timeText(double seconds);
+
 /// A number with at most that many significant digits, but no fewer than stand before its point.
 std::string shortNumber(double value, int digits = 4);
 

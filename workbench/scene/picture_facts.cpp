@@ -39,6 +39,7 @@ std::string amountText(const PictureSubject& subject) {
         return shortNumber(span.byTurns ? SubSyncMilliseconds : span.milliseconds) + " ms";
     }
     if (!span.byTurns) return shortNumber(span.milliseconds) + " ms";
+    if (!isAnyShown(span)) return "no whole turn";
     return std::to_string(span.turnsThere) + (span.turnsThere == 1 ? " turn" : " turns");
 }
 
@@ -69,7 +70,7 @@ PictureHeader pictureHeader(const PictureSubject& subject, const std::optional<G
     if (scale) header.facts.push_back(scaleText(*scale, machine.unit));
     if (!subject.compensation.empty()) header.facts.push_back(subject.compensation);
     if (!subject.rest.empty()) header.facts.push_back(subject.rest);
-    header.facts.push_back("at " + shortNumber(span.time) + " s");
+    header.facts.push_back("at " + timeText(span.time) + " s");
     return header;
 }
 

@@ -15,6 +15,11 @@ struct ShownSpan {
     double speed = 0.0;         ///< rpm, the mean over the span; 0: not known
 };
 
+/// By turns, a control draws nothing of its raw curves until a whole turn is there.
+inline bool isAnyShown(const ShownSpan& span) {
+    return !span.byTurns || span.turnsThere > 0;
+}
+
 /// The same as a stretch of one recording, for what is computed from whole turns: by turns it
 /// begins and ends with a passing of the keyphasor, as many turns apart as there are. Where no turn
 /// is to be had it reaches back to the first sample.

@@ -31,6 +31,7 @@ QString amountText(const Plane& plane) {
     if (!span.byTurns) {
         return QString::fromStdString(shortNumber(span.milliseconds)) + OrbitTile::tr(" ms");
     }
+    if (!isAnyShown(span)) return OrbitTile::tr("no whole turn before the cursor");
     return span.turnsThere == 1 ? OrbitTile::tr("1 turn")
                                 : OrbitTile::tr("%1 turns").arg(span.turnsThere);
 }
@@ -63,11 +64,14 @@ QString factsOf(const Plane& plane) {
     QStringList facts{curvesText(plane), amountText(plane)};
     if (speed > 0.0) facts += speedText(speed);
     facts += placesText(machine);
-    if (machine.rotation) facts += QString::fromStdString(std::string(toText(*machine.rotation)));
+    facts += machine.rotation ? QString::fromStdString(std::string(toText(*machine.rotation)))
+                              : OrbitTile::tr("rotation not given");
     if (plane.shown().recording.coupling == Coupling::Ac) facts += OrbitTile::tr("AC");
     if (!plane.compensation().empty()) facts += QString::fromStdString(plane.compensation());
     const std::string rest = restText(plane.curveOptions().shaftCenter, plane.drawnCurves());
     if (!rest.empty()) facts += QString::fromStdString(rest);
+    if (plane.hasEnded())
+        facts += OrbitTile::tr("ended at %1 s").arg(QString::fromStdString(timeText(plane.time())));
     return facts.join(", ");
 }
 
@@ -121,7 +125,7 @@ void OrbitTile::setCurrent(bool current) {
     QFont font = name_.font();
     font.setBold(true);
     name_.setFont(font);
-    name_.setText((current ? QString::fromUtf8("\u25b8 ") : QString()) +
+    name_.setName((current ? QString::fromUtf8("\u25b8 ") : QString()) +
                   QString::fromStdString(view_.plane().name()));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/bench/bench.h"
+#include "workbench/window/docks/elided_label.h"
 #include "workbench/window/orbit_view.h"
 
 #include <QFrame>
@@ -35,7 +36,7 @@ private:
 
     Bench& bench_;
     OrbitView view_;
-    QLabel name_;
+    ElidedLabel name_;
     QLabel facts_;
     QToolButton notesButton_;
     QLabel notes_;

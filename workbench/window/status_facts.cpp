@@ -19,6 +19,21 @@ QString rateText(double rate) {
                        : StatusFacts::tr("%1 kHz").arg(number(rate / Kilo, 5));
 }
 
+/// In its own recording, which may have ended before the cursor.
+QString placeText(const Plane& plane) {
+    const Recording& recording = plane.shown().recording;
+    const double last = static_cast<double>(recording.sampleCount() - 1) / recording.sampleRate;
+    return StatusFacts::tr("%1 of %2 s")
+        .arg(QString::fromStdString(timeText(plane.time())),
+             QString::fromStdString(timeText(last)));
+}
+
+QString speedText(const ShownSpan& span) {
+    if (!isAnyShown(span)) return StatusFacts::tr("no whole turn");
+    return span.speed > 0.0 ? StatusFacts::tr("%1 rpm").arg(number(span.speed))
+                            : StatusFacts::tr("no speed");
+}
+
 }  // namespace
 
 StatusFacts::StatusFacts(Bench& bench, OrbitTiles& tiles, QStatusBar& bar)
@@ -30,7 +45,9 @@ StatusFacts::StatusFacts(Bench& bench, OrbitTiles& tiles, QStatusBar& bar)
       dropped_(new SteadyLabel(&bar)),
       scale_(new QToolButton(&bar)) {
     place_->setObjectName("place");
-    place_->setToolTip(tr("Time of the newest sample, and the length of the recording"));
+    place_->setToolTip(
+        tr("Time of the newest sample that the current plane shows, and of its last one"));
+    speed_->setObjectName("speed");
     speed_->setToolTip(tr("Speed of the shaft, the mean over what is shown"));
     rate_->setToolTip(tr("Samples per second"));
     dropped_->setToolTip(tr("Frames that came later than a thirtieth of a second"));
@@ -52,10 +69,8 @@ void StatusFacts::tell() {
         label->setVisible(plane != nullptr);
     scale_->setVisible(plane != nullptr);
     if (plane == nullptr) return;
-    place_->tell(
-        tr("%1 of %2 s").arg(bench_.cursor(), 0, 'f', 4).arg(bench_.duration(), 0, 'f', 4));
-    const double speed = plane->span().speed;
-    speed_->tell(speed > 0.0 ? tr("%1 rpm").arg(number(speed)) : tr("no speed"));
+    place_->tell(placeText(*plane));
+    speed_->tell(speedText(plane->span()));
     rate_->tell(rateText(plane->shown().recording.sampleRate));
     dropped_->tell(tr("%1 late").arg(bench_.playback().droppedFrames()));
     // The control's scale is known behind its frame.

@@ -31,13 +31,18 @@ TimeSlider::TimeSlider(Bench& bench, QWidget* parent) : QWidget(parent), bench_(
     readSpeed();
 }
 
+void TimeSlider::setCurrent(const Plane* plane) {
+    current_ = plane;
+    readSpeed();
+}
+
 void TimeSlider::readSpeed() {
     speed_.clear();
     fastest_ = 0.0;
     const auto turning =
         std::find_if(bench_.planes().begin(), bench_.planes().end(),
-                     [](const auto& plane) { return plane->original().recording.hasTacho(); });
-    if (turning != bench_.planes().end()) {
+                     [this](const auto& plane) { return plane.get() == current_; });
+    if (turning != bench_.planes().end() && (*turning)->original().recording.hasTacho()) {
         const ShaftTrack& track = (*turning)->original().track;
         for (int i = 0; i <= SpeedPoints; ++i) {
             const double time = bench_.duration() * i / SpeedPoints;

@@ -15,6 +15,12 @@ class TimeSlider : public QWidget {
 public:
     explicit TimeSlider(Bench& bench, QWidget* parent = nullptr);
 
+    /// The plane whose speed stands behind the time; null for none.
+    void setCurrent(const Plane* plane);
+
+    /// The highest speed of the trace in rpm; 0: there is no trace.
+    double fastest() const { return fastest_; }
+
     QSize sizeHint() const override { return {400, 44}; }
     QSize minimumSizeHint() const override { return {120, 36}; }
 
@@ -31,6 +37,7 @@ private:
     QPolygonF traceIn(const QRectF& area) const;
 
     Bench& bench_;
+    const Plane* current_ = nullptr;
     QPolygonF speed_;  ///< s and rpm
     double fastest_ = 0.0;
 };

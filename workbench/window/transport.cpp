@@ -41,6 +41,7 @@ Transport::Transport(Bench& bench, OrbitTiles& tiles, QWidget* parent)
     layOut();
     Playback& playback = bench_.playback();
     connect(&playback, &Playback::playingChanged, this, &Transport::showPlaying);
+    connect(&tiles_, &OrbitTiles::currentChanged, &slider_, &TimeSlider::setCurrent);
     connect(&playback, &Playback::loopsChanged, loop_, &QAction::setChecked);
     connect(&playback, &Playback::speedChanged, this, &Transport::showSpeed);
 }

@@ -1,6 +1,7 @@
 #include "workbench/window/orbit_tile.h"
 
 #include "tests/workbench/window/window_fixture.h"
+#include "workbench/window/time_slider.h"
 
 #include <QFontMetrics>
 #include <QLabel>
@@ -74,6 +75,57 @@ TEST_F(OrbitTileTest, NotesGoWithTheCurveThatTheyAreAbout) {
     EXPECT_FALSE(notes().text().contains("/nowhere.json"));
     bench().undoStack().undo();
     EXPECT_TRUE(notes().text().contains("/nowhere.json"));
+}
+
+TEST_F(OrbitTileTest, SaysWhereNoWholeTurnIsThere) {
+    open();
+    bench().setCursor(0.001);  // a turn takes 20 ms
+    EXPECT_TRUE(factsOver(0).text().startsWith("direct, no whole turn before the cursor"))
+        << factsOver(0).text().toStdString();
+    EXPECT_EQ(window_.findChild<QLabel*>("speed")->text(), "no whole turn");
+}
+
+TEST_F(OrbitTileTest, RecordingThatHasEndedSaysWhenAndTellsItsOwnTime) {
+    Recording shorter = rotor("Bearing 2");
+    for (std::vector<double>* values : {&shorter.x, &shorter.y, &shorter.angle})
+        values->resize(5000);  // half a second at 10 kHz
+    open();
+    open(std::move(shorter));
+    bench().setCursor(0.4999);
+    EXPECT_FALSE(factsOver(1).text().contains("ended"));
+    bench().setCursor(1.5);
+    EXPECT_FALSE(factsOver(0).text().contains("ended"));
+    EXPECT_TRUE(factsOver(1).text().endsWith("ended at 0.4999 s"));
+    EXPECT_EQ(window_.findChild<QLabel*>("place")->text(), "0.4999 of 0.4999 s");
+}
+
+TEST_F(OrbitTileTest, RotationThatIsNotGivenIsSaidWhereTheArrowIsDrawn) {
+    Recording recording = rotor();
+    recording.machine.rotation.reset();
+    open(std::move(recording));
+    EXPECT_TRUE(factsOver(0).text().endsWith("rotation not given"));
+    EXPECT_TRUE(notes().text().contains("the arrow of the picture points clockwise all the same"));
+}
+
+TEST_F(OrbitTileTest, LongNameTakesNoRoomFromTheWindow) {
+    open(rotor(std::string(79, 'n')));
+    settle();
+    EXPECT_EQ(window_.width(), 1280);
+    EXPECT_LE(window_.minimumSizeHint().width(), 1280);
+    bool isToldInFull = false;
+    for (const QLabel* label : window_.tiles().tiles()[0]->findChildren<QLabel*>())
+        isToldInFull = isToldInFull || label->toolTip() == QString(79, 'n');
+    EXPECT_TRUE(isToldInFull);
+}
+
+TEST_F(OrbitTileTest, SpeedBehindTheTimeIsThatOfTheCurrentPlane) {
+    const auto* slider = window_.findChild<TimeSlider*>("timeSlider");
+    OrbitView& turning = open();
+    EXPECT_NEAR(slider->fastest(), 3000.0, 1.0);
+    open(withoutKeyphasor(rotor("Bearing 2")));
+    EXPECT_EQ(slider->fastest(), 0.0);
+    window_.tiles().setCurrent(&turning.plane());
+    EXPECT_NEAR(slider->fastest(), 3000.0, 1.0);
 }
 
 }  // namespace

@@ -13,7 +13,8 @@ ShownTurns shownTurns(const Plane& plane) {
     return {.plane = QString::fromStdString(plane.name()),
             .recording = {source, &source->recording},
             .track = {source, &source->track},
-            .span = stretchOf(plane.span(), source->track)};
+            .span = stretchOf(plane.span(), source->track),
+            .isAnyShown = isAnyShown(plane.span())};
 }
 
 QString warning(const Plane& plane, const AxisLimits& limits) {

@@ -61,16 +61,31 @@ CellPair amplitude(const PlaneSummary& summary, double order) {
                          found->vectors.y.amplitude * factor);
 }
 
+/// Whether an amplitude is nothing to the digits in which it is shown.
+bool isNothing(const PlaneSummary& summary, double amplitude) {
+    const double peakPeak = amplitude * scaleFactor(AmplitudeScale::PeakPeak);
+    return displacementText(peakPeak, summary->unit).toDouble() == 0.0;
+}
+
+/// What is not there has no lag; the fit gives that of its rounding.
+QString lagOf(const PlaneSummary& summary, const FieldVector& vector) {
+    if (isNothing(summary, vector.amplitude)) return QStringLiteral("-");
+    return lagText(vector.phaseLag);
+}
+
 CellPair lag(const PlaneSummary& summary, double order) {
     const OrderSummary* found = orderOf(summary, order);
     if (found == nullptr) return nothingEach();
-    return {lagText(found->vectors.x.phaseLag), lagText(found->vectors.y.phaseLag)};
+    return {lagOf(summary, found->vectors.x), lagOf(summary, found->vectors.y)};
 }
 
 CellPair sense(const PlaneSummary& summary, double order) {
     const OrderSummary* found = orderOf(summary, order);
-    if (found == nullptr) return {};
-    const std::string text(toText(found->ellipse.precession));
+    if (found == nullptr || isNothing(summary, found->ellipse.semiMajor)) return {};
+    Precession precession = found->ellipse.precession;
+    const bool isLine = isNothing(summary, found->ellipse.semiMinor);
+    if (isLine && precession != Precession::Unknown) precession = Precession::Straight;
+    const std::string text(toText(precession));
     return {tr(text.c_str()), {}};
 }
 
@@ -97,6 +112,10 @@ PlaneSummary summaryOf(const ShownTurns& plane, std::vector<QString>& notes) {
     const auto note = [&](const std::string& text) {
         notes.push_back(plane.plane + ": " + QString::fromStdString(text));
     };
+    if (!plane.isAnyShown) {
+        note("no whole turn of the shaft before the cursor, the orbit shows nothing");
+        return {};
+    }
     try {
         OrbitSummary summary = summarize(*plane.recording, *plane.track, Orders, plane.span);
         for (const std::string& text : summary.notes)

@@ -17,6 +17,7 @@ struct ShownTurns {
     std::shared_ptr<const Recording> recording;
     std::shared_ptr<const ShaftTrack> track;
     TimeSpan span;
+    bool isAnyShown = true;  ///< false: by turns, and there is no whole one
 };
 
 /// One quantity. A plane has two cells, X and Y; where the second one is empty the first is that of

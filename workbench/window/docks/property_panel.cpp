@@ -1,18 +1,17 @@
 #include "workbench/window/docks/property_panel.h"
 
 #include "host_kit/memory/call.h"
+#include "workbench/window/docks/elided_label.h"
 #include "workbench/window/docks/host_panel.h"
 
-#include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace Rotavue::Workbench {
 
 PropertyPanel::PropertyPanel(QWidget* parent)
-    : QWidget(parent), title_(new QLabel), tabs_(new QTabWidget) {
+    : QWidget(parent), title_(new ElidedLabel), tabs_(new QTabWidget) {
     setObjectName("PropertyPanel");
-    title_->setTextFormat(Qt::PlainText);
     tabs_->setDocumentMode(true);
     auto* rows = new QVBoxLayout(this);
     rows->addWidget(title_);
@@ -25,7 +24,7 @@ PropertyPanel::~PropertyPanel() = default;
 void PropertyPanel::show(const QString& controlName, PanelMessages messages) {
     const QString front = tabs_->currentWidget() ? tabs_->currentWidget()->objectName() : QString();
     clear();
-    title_->setText(controlName);
+    title_->setName(controlName);
     tabs_->setVisible(true);
     messages_ = std::move(messages);
     panel_ = Host::Ref<HostPanel>::share(
@@ -38,7 +37,7 @@ void PropertyPanel::show(const QString& controlName, PanelMessages messages) {
 }
 
 void PropertyPanel::clear() {
-    title_->setText(tr("Nothing is open"));
+    title_->setName(tr("Nothing is open"));
     tabs_->setVisible(false);
     while (tabs_->count() > 0)
         removePage(*tabs_, 0);

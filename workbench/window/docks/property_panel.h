@@ -9,11 +9,11 @@
 
 #include <functional>
 
-class QLabel;
 class QTabWidget;
 
 namespace Rotavue::Workbench {
 
+class ElidedLabel;
 class HostPanel;
 
 namespace Host = Meridax::Host;
@@ -60,7 +60,7 @@ private:
     void guard(const std::function<void()>& messages);
     const QWidget* editorOf(const Host::Ref<Host::IHostPropertyControl>& widget) const;
 
-    QLabel* title_;
+    ElidedLabel* title_;
     QTabWidget* tabs_;
     PanelMessages messages_;
     Host::Ref<HostPanel> panel_;

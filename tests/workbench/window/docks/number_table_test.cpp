@@ -78,6 +78,29 @@ TEST(NumberSheet, SaysWhyNumbersAreMissing) {
     EXPECT_TRUE(sheet.notes[0].startsWith("B: "));
 }
 
+// The fit finds some rounding for an order that isn't there, with a lag and a sense of its own.
+TEST(NumberSheet, OrderThatIsNotThereHasNeitherLagNorSense) {
+    Recording recording = generate({.orders = {{1.0, {40, 0}, {20, 90}}}});
+    recording.machine.rotation = Rotation::CounterClockwise;
+    const auto shared = std::make_shared<const Recording>(std::move(recording));
+    const ShownTurns turns{"B", shared, std::make_shared<const ShaftTrack>(*shared), {0.2, 0.6}};
+    const NumberSheet sheet = numberSheet({turns});
+    EXPECT_EQ(rowOf(sheet, "2X, pp").cells, (Cells{"0.00", "0.00"}));
+    EXPECT_EQ(rowOf(sheet, "2X lag (deg)").cells, (Cells{"-", "-"}));
+    EXPECT_EQ(rowOf(sheet, "2X precession").cells, (Cells{"-", ""}));
+    EXPECT_NE(rowOf(sheet, "1X precession").cells[0], "-");
+}
+
+TEST(NumberSheet, WhatTheOrbitDoesNotShowHasNoNumbers) {
+    ShownTurns turns = rotor("A");
+    turns.isAnyShown = false;
+    const NumberSheet sheet = numberSheet({turns});
+    EXPECT_EQ(rowOf(sheet, "Peak-to-peak").cells, (Cells{"-", "-"}));
+    ASSERT_EQ(sheet.notes.size(), 1U);
+    EXPECT_EQ(sheet.notes[0],
+              "A: no whole turn of the shaft before the cursor, the orbit shows nothing");
+}
+
 TEST(NumberSheet, StretchWithoutASampleIsToldOf) {
     ShownTurns turns = rotor("A");
     turns.span = {5.0, 6.0};
