@@ -78,8 +78,7 @@ TEST_P(HostileProperties, EndTheFrameOrAreDrawnAndTheNextFrameIsWhole) {
 INSTANTIATE_TEST_SUITE_P(Numbers, HostileProperties,
                          testing::Values(OddNumber{L"inf", false}, OddNumber{L"-inf", false},
                                          OddNumber{L"3e38", false}, OddNumber{L"1.2e-38", false},
-                                         OddNumber{L"1e-38", true}, OddNumber{L"1e308", true},
-                                         OddNumber{L"1e-320", true},
+                                         OddNumber{L"1e308", true}, OddNumber{L"1e-320", true},
                                          OddNumber{std::wstring(Megabyte, L'9'), true},
                                          OddNumber{std::wstring(Megabyte, L'0'), false}));
 
