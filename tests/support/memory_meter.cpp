@@ -19,8 +19,13 @@ std::int64_t triedSoFar = 0;
 std::int64_t firstFailure = Never;  // both by the number of the allocation
 std::int64_t lastFailure = Never;
 
+// As each platform's library calls it.
 std::int64_t sizeOf(void* memory) noexcept {
+#ifdef _WIN32
+    return static_cast<std::int64_t>(::_msize(memory));
+#else
     return static_cast<std::int64_t>(::malloc_usable_size(memory));
+#endif
 }
 
 void* allocate(std::size_t size) noexcept {
