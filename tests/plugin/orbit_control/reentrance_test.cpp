@@ -131,6 +131,20 @@ protected:
         key.dataRequestList = nullptr;
     }
 
+    /// Sends all of them, the draw too, between any two calls of something that has more than so
+    /// many places for it.
+    void sendEveryMessageBetween(std::function<void()> calls, std::size_t least) {
+        host.description.assigned.slots = {{1}};
+        host.description.host.editText = {true, L"2"};
+        run = std::move(calls);
+        leastPlaces = least;
+        const auto act = [this] {
+            sendEveryOtherMessage();
+            draw();
+        };
+        interruptEverywhere(act, [this] { takeMessagesBack(); });
+    }
+
     std::size_t leastPlaces = 100;
     Host::DataPosition first;
     Host::DataPosition second;
@@ -187,47 +201,21 @@ TEST_F(Reentrance, EveryOtherMessageMayComeBetweenAnyTwoCallsOfADraw) {
 }
 
 TEST_F(Reentrance, EveryMessageMayComeBetweenAnyTwoCallsOfACopy) {
-    host.description.assigned.slots = {{1}};
-    host.description.host.editText = {true, L"2"};
-    run = [this] { control.clipboardText(); };
-    leastPlaces = 50;
     const std::wstring text = control.clipboardText();
-    interruptEverywhere(
-        [&] {
-            sendEveryOtherMessage();
-            draw();
-        },
-        [&] { takeMessagesBack(); });
+    sendEveryMessageBetween([this] { control.clipboardText(); }, 50);
     EXPECT_EQ(control.clipboardText(), text);
 }
 
 TEST_F(Reentrance, EveryMessageMayComeBetweenAnyTwoCallsOfADataRequest) {
-    host.description.assigned.slots = {{1}};
-    host.description.host.editText = {true, L"2"};
-    run = [this] { control.requestData(first, second); };
-    leastPlaces = 10;
-    interruptEverywhere(
-        [&] {
-            sendEveryOtherMessage();
-            draw();
-        },
-        [&] { takeMessagesBack(); });
+    sendEveryMessageBetween([this] { control.requestData(first, second); }, 10);
 }
 
 TEST_F(Reentrance, EveryMessageMayComeBetweenAnyTwoCallsOfThePanel) {
-    host.description.assigned.slots = {{1}};
-    host.description.host.editText = {true, L"2"};
-    run = [this] {
+    const auto panel = [this] {
         control.buildProperties(host.panel());
         control.fillProperties(host.panel());
     };
-    leastPlaces = 20;
-    interruptEverywhere(
-        [&] {
-            sendEveryOtherMessage();
-            draw();
-        },
-        [&] { takeMessagesBack(); });
+    sendEveryMessageBetween(panel, 20);
 }
 
 TEST_F(Reentrance, AnotherHostMayBeHandedInBetweenAnyTwoCallsOfADraw) {
