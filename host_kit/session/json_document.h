@@ -1,13 +1,11 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include "host_kit/json/bounded_json.h"
 
 #include <cstddef>
 #include <string_view>
 
 namespace Rotavue::HostKit {
-
-using Json = nlohmann::json;
 
 /// What a session file may have, so that none can take memory or time without bound.
 struct JsonLimits {

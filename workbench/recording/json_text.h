@@ -1,19 +1,13 @@
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
+#include "host_kit/json/bounded_json.h"
 
-#include <cstddef>
 #include <filesystem>
 #include <string_view>
 
 namespace Rotavue::Workbench {
 
-/// What a JSON file of unknown origin may hold, so that none takes memory without bound. Its plain
-/// numbers are bounded by its size alone.
-struct JsonBounds {
-    std::size_t depth;  ///< lists and objects within each other
-    std::size_t parts;  ///< lists, objects, texts and the names of members
-};
+using HostKit::JsonBounds;
 
 /// The JSON of a text, in a time that grows as the text does. Throws RecordingError that names line
 /// and column for a text that is none, and one that names the bound for a text beyond it. Of

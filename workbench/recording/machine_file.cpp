@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "workbench/recording/input_file.h"
+#include "workbench/recording/json_text.h"
 #include "workbench/recording/nearest_name.h"
 #include "workbench/recording/option_items.h"
 #include "workbench/recording/recording_error.h"
@@ -20,6 +21,7 @@ using Pointer = Json::json_pointer;
 
 constexpr std::size_t LargestFile = 65'536;
 constexpr std::size_t LongestText = 200;
+constexpr JsonBounds Bounds = {8, 1'000};  // a machine file has less than 40 parts on 2 levels
 
 // What a JSON value becomes in the field of an item; nothing if it is of a wrong kind or range.
 std::optional<double> valueFrom(const Json& json, const NumberItem& item) {
@@ -93,12 +95,11 @@ public:
         : file_(file), text_(std::move(text)) {}
 
     RecordingOptions read() {
-        takeObject(parse(), Pointer());
+        takeObject(parseJson(file_, text_, Bounds), Pointer());
         return std::move(options_);
     }
 
 private:
-    Json parse() const;
     void takeObject(const Json& object, const Pointer& pointer);
     void takeMember(const Json& value, const Pointer& pointer);
     void takeItem(const Json& value, const OptionItem& item);
@@ -110,27 +111,6 @@ private:
     std::string text_;
     RecordingOptions options_;
 };
-
-// Line and column of a byte, both from 1.
-FilePlace placeOf(const std::filesystem::path& file, std::string_view text, std::size_t byte) {
-    const std::string_view before = text.substr(0, byte);
-    const auto lines = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-    const std::size_t lineStart = lines > 0 ? before.rfind('\n') + 1 : 0;
-    return {file, lines + 1, before.size() - lineStart + 1};
-}
-
-Json MachineReader::parse() const {
-    try {
-        return Json::parse(text_);
-    } catch (const Json::parse_error& error) {
-        const std::size_t byte = error.byte > 0 ? error.byte - 1 : 0;
-        const std::string found =
-            byte < text_.size() ? inQuotes(text_.substr(byte, 1)) : "the end of the file";
-        throw RecordingError(placeOf(file_, text_, byte), found, "a JSON object");
-    } catch (const Json::exception&) {
-        throw RecordingError({file_}, "a number beyond all bounds", "a JSON object");
-    }
-}
 
 void MachineReader::takeObject(const Json& object, const Pointer& pointer) {
     if (!object.is_object()) refuse(object, pointer.to_string(), "an object");

@@ -123,7 +123,13 @@ TEST_F(MachineFile, NamesLineAndColumnWhereTheTextIsNoJson) {
 }
 
 TEST_F(MachineFile, OutlastsDeepAndLargeFiles) {
-    EXPECT_NE(faultOf(std::string(60'000, '[')).find("the end of the file"), std::string::npos);
+    EXPECT_EQ(faultOf(std::string(60'000, '[')),
+              "r.machine.json: found values nested too deep, allowed: 8 levels");
+    std::string texts = "[\"\"";
+    for (int i = 0; i < 1'000; ++i)
+        texts += ",\"\"";
+    EXPECT_EQ(faultOf(texts + ']'),
+              "r.machine.json: found too many lists, objects and texts, allowed: at most 1000");
     EXPECT_EQ(faultOf(std::string(65'537, ' ')),
               "r.machine.json: found more than 65536 bytes, allowed: at most 65536 bytes");
 }
