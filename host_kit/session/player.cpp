@@ -62,7 +62,7 @@ void Player::leaveModule() {
 }
 
 void Player::playStep(const MessageStep& message) {
-    const MessageList list = listOf(message);
+    const MessageList list = message.listIn(host_);
     const bool pictured = options_.picture && step_ == lastDraw_;
     if (pictured) host_.drawAlsoOn(options_.picture(edgesIn(message)));
     send(message, list);
@@ -81,20 +81,6 @@ void Player::send(const MessageStep& message, const MessageList& list) {
     }
     if (const auto text = clipboard_.takeText()) log_.clipboard(*text);
     failure ? log_.threw(sent, *failure) : log_.answered(sent, status, answer);
-}
-
-MessageList Player::listOf(const MessageStep& message) {
-    std::vector<MessageValue> values;
-    for (const Argument& argument : message.arguments)
-        values.push_back(valueOf(argument));
-    return MessageList(std::move(values), message.lowerBound);
-}
-
-MessageValue Player::valueOf(const Argument& argument) {
-    if (const auto* number = std::get_if<std::int64_t>(&argument)) return *number;
-    if (const auto* text = std::get_if<std::wstring>(&argument)) return *text;
-    if (const auto* name = std::get_if<ObjectName>(&argument)) return name->in(host_);
-    return nullptr;
 }
 
 void Player::playStep(const PatchStep& patch) {

@@ -58,8 +58,6 @@ private:
     void playStep(const FailStep& fail);
     void playStep(const ReleaseStep& release);
 
-    MessageList listOf(const MessageStep& message);
-    MessageValue valueOf(const Argument& argument);
     void send(const MessageStep& message, const MessageList& list);
     void leaveModule();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host_kit/loader/message_values.h"
 #include "host_kit/memory/fault_plan.h"
 #include "host_kit/memory/memory_host.h"
 #include "host_kit/session/host_reader.h"
@@ -22,6 +23,9 @@ struct MessageStep {
     bool nullList = false;
     std::vector<Argument> arguments;
     std::int32_t lowerBound = 0;
+
+    /// The arguments as a host sends them, its objects where they are named.
+    MessageList listIn(MemoryHost& host) const;
 };
 
 /// A merge patch, kept as it stands in the session's document.

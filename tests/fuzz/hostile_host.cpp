@@ -1,11 +1,14 @@
 #include "tests/fuzz/hostile_host.h"
 
+#include "host_kit/session/session_error.h"
 #include "plugin/framework/host/host_error.h"
 #include "plugin/framework/message_codes.h"
 #include "tests/fuzz/hostile_values.h"
+#include "tests/fuzz/known_sessions.h"
 
 #include <array>
 #include <exception>
+#include <iterator>
 
 namespace Rotavue::Fuzz {
 
@@ -19,6 +22,12 @@ using Meridax::VisualControls::Api::MessageCode;
 constexpr std::size_t MostCalls = 30'000;
 constexpr int DeepestMessage = 3;
 constexpr std::size_t MostChannels = 7;
+
+/// The first byte of an input is a session's number from 1, or stands for the host made up here.
+const HostKit::Session* sessionOf(std::size_t number) {
+    const auto& sessions = knownSessions();
+    return number >= 1 && number <= sessions.size() ? &sessions[number - 1] : nullptr;
+}
 
 /// What a message's arguments should be, a letter each: `valueFor` tells which.
 struct MessageShape {
@@ -78,7 +87,17 @@ void describeUsualChannel(HostKit::ChannelDescription& channel, std::int32_t ele
 }  // namespace
 
 HostileHost::HostileHost(ByteSource bytes)
-    : bytes_(bytes), module_("linked"), control_(module_.makeControl()) {
+    : bytes_(bytes),
+      session_(sessionOf(bytes_.byte())),
+      module_("linked"),
+      reader_(host_),
+      control_(module_.makeControl()) {
+    session_ != nullptr ? session_->describe(reader_) : describeUsualHost();
+    module_.supplyClipboard(&clipboard_);
+    host_.gate.watch(this, HostKit::allGroups());
+}
+
+void HostileHost::describeUsualHost() {
     constexpr std::array<const wchar_t*, 6> Kinds{L"Raw",       L"Average", L"Harmonic",
                                                   L"Reference", L"SubSync", L""};
     for (std::size_t i = 0; i < Kinds.size(); ++i) {
@@ -89,9 +108,6 @@ HostileHost::HostileHost(ByteSource bytes)
     host_.description.assigned.groups = {{{"0", "6"}, {}}};
     host_.description.assigned.channels = {"1", "2", "3", "4", "5"};
     host_.description.assigned.slots = {{1}};
-    module_.supplyClipboard(&clipboard_);
-    host_.gate.watch(this, HostKit::allGroups());
-    if (bytes_.flag()) send(static_cast<std::uint32_t>(Attach), {host_.app(), host_.control()});
 }
 
 HostileHost::~HostileHost() {
@@ -99,6 +115,7 @@ HostileHost::~HostileHost() {
 }
 
 void HostileHost::run() {
+    if (bytes_.flag()) attach();
     while (!bytes_.empty() && calls_ < MostCalls)
         step();
 }
@@ -119,7 +136,7 @@ void HostileHost::onCall(HostKit::Operation operation) {
 }
 
 void HostileHost::step() {
-    switch (bytes_.below(24)) {
+    switch (bytes_.below(28)) {
         case 0:
             return changeFacts();
         case 1:
@@ -143,9 +160,44 @@ void HostileHost::step() {
             return planNulls();
         case 11:
             return replaceControl();
+        case 12:  // the seeds of the sessions know this number
+        case 13:
+        case 14:
+        case 15:
+            return playNext();
         default:
             return sendAny();
     }
+}
+
+void HostileHost::playNext() {
+    if (session_ == nullptr || next_ == session_->steps().size()) return sendAny();
+    std::visit([this](const auto& step) { play(step); }, session_->steps()[next_++]);
+}
+
+void HostileHost::play(const HostKit::MessageStep& message) {
+    if (!message.nullList) return send(message.code, message.listIn(host_));
+    sendList(message.code, nullptr);
+}
+
+// The host is no longer what the patch was checked against.
+void HostileHost::play(const HostKit::PatchStep& patch) {
+    try {
+        reader_.readPatch(HostKit::Field(*patch.patch, "", true));
+    } catch (const HostKit::SessionError&) {
+    }
+}
+
+void HostileHost::play(const HostKit::WidgetStep& widget) {
+    host_.setWidget(widget.name, widget.value);
+}
+
+void HostileHost::play(const HostKit::FailStep& fail) {
+    host_.gate.fail(fail.fault);
+}
+
+void HostileHost::play(const HostKit::ReleaseStep&) {
+    control_ = module_.makeControl();
 }
 
 void HostileHost::sendAny() {
@@ -154,13 +206,21 @@ void HostileHost::sendAny() {
     send(static_cast<std::uint32_t>(Shapes[choice].code), listFor(Shapes[choice].arguments));
 }
 
+void HostileHost::attach() {
+    send(static_cast<std::uint32_t>(Attach), {host_.app(), host_.control()});
+}
+
 void HostileHost::send(std::uint32_t code, const MessageList& list) {
+    sendList(code, &list);
+}
+
+void HostileHost::sendList(std::uint32_t code, const MessageList* list) {
     // The control may be let go of while the message is under way; the plug-in outlives it.
     const auto control = control_.get();
     HostKit::MessageAnswer answer;
     ++depth_;
     try {
-        control->message(code, &list, &answer);
+        control->message(code, list, &answer);
     } catch (const Meridax::Host::HostError&) {
     } catch (const std::exception&) {
     }
@@ -326,11 +386,14 @@ void HostileHost::planNulls() {
 
 void HostileHost::replaceControl() {
     control_ = module_.makeControl();
-    if (bytes_.flag()) send(static_cast<std::uint32_t>(Attach), {host_.app(), host_.control()});
+    if (bytes_.flag()) attach();
 }
 
 std::string HostileHost::channelId() {
-    return std::to_string(bytes_.below(MostChannels));
+    const std::size_t choice = bytes_.below(MostChannels);
+    const auto& ids = host_.description.channels.ids();
+    if (choice >= ids.size()) return std::to_string(choice);
+    return *std::next(ids.begin(), static_cast<std::ptrdiff_t>(choice));
 }
 
 HostKit::ChannelItem HostileHost::channelItem() {
