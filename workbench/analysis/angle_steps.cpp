@@ -7,11 +7,17 @@ namespace {
 
 using Complex = std::complex<double>;
 
+// How many samples or steps are taken between two looks whether it shall go on: a millisecond.
+constexpr std::size_t BetweenWords = 1U << 16U;
+
 // The signal's integral over the angle from the first valid sample on.
 class AngleIntegral {
 public:
-    AngleIntegral(const Recording& recording, const TurnedSamples& samples) {
+    AngleIntegral(const Recording& recording, const TurnedSamples& samples,
+                  const ReadingProgress& progress) {
         for (std::size_t i = 0; i < samples.count(); ++i) {
+            if (i % BetweenWords == 0)
+                progress.reach(static_cast<double>(i) / static_cast<double>(samples.count()));
             const Complex value(recording.x[samples.first + i], recording.y[samples.first + i]);
             if (std::isfinite(value.real() + value.imag())) add(samples.turns[i], value);
         }
@@ -48,14 +54,17 @@ private:
 
 }  // namespace
 
-AngleSteps averageBySteps(const Recording& recording, const TurnedSamples& samples, int perTurn) {
+AngleSteps averageBySteps(const Recording& recording, const TurnedSamples& samples, int perTurn,
+                          const ReadingProgress& progress) {
     AngleSteps steps{samples.turns.front(), perTurn, {}};
-    AngleIntegral integral(recording, samples);
+    AngleIntegral integral(recording, samples, progress.between(0.0, 0.5));
     if (integral.empty()) return steps;
     const double width = 1.0 / perTurn;
     const double count = std::floor((samples.turns.back() - steps.firstTurn) * perTurn);
     Complex before = integral.upTo(steps.firstTurn);
+    const ReadingProgress rest = progress.between(0.5, 1.0);
     for (double k = 1.0; k <= count; k += 1.0) {
+        if (steps.values.size() % BetweenWords == 0) rest.reach(k / count);
         const Complex behind = integral.upTo(steps.firstTurn + k * width);
         steps.values.push_back((behind - before) / width);
         before = behind;

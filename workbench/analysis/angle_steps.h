@@ -21,7 +21,8 @@ struct AngleSteps {
 
 /// Averages the samples, which straight lines join also across gaps, over as many whole steps as
 /// the samples cover. Before the first and behind the last value free of gaps, that value holds.
-/// Empty if there is none, or no whole step.
-AngleSteps averageBySteps(const Recording& recording, const TurnedSamples& samples, int perTurn);
+/// Empty if there is none, or no whole step. Throws ReadingCancelled.
+AngleSteps averageBySteps(const Recording& recording, const TurnedSamples& samples, int perTurn,
+                          const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <kissfft/kissfft.hh>
 #include <numbers>
 
+#include "workbench/analysis/long_transform.h"
 #include "workbench/analysis/order_fit.h"
 
 namespace Rotavue::Workbench {
@@ -102,19 +102,17 @@ void filterSpectrum(Signal& spectrum, int perTurn, const OrderBand& band) {
     }
 }
 
-Signal filtered(const Signal& signal, int perTurn, const OrderBand& band) {
-    Signal spectrum(signal.size());
-    Signal result(signal.size());
-    // One object each way: `assign` would turn the direction of all stages but those of radix 4.
-    kissfft<double>(signal.size(), false).transform(signal.data(), spectrum.data());
+Signal filtered(const Signal& signal, int perTurn, const OrderBand& band,
+                const ReadingProgress& progress) {
+    Signal spectrum = longTransform(signal, TransformWay::Forward, progress.between(0.0, 0.5));
     filterSpectrum(spectrum, perTurn, band);
-    kissfft<double>(signal.size(), true).transform(spectrum.data(), result.data());
-    return result;
+    return longTransform(spectrum, TransformWay::Inverse, progress.between(0.5, 1.0));
 }
 
 }  // namespace
 
-Signal lowOrders(const Signal& signal, int perTurn, const OrderBand& band) {
+Signal lowOrders(const Signal& signal, int perTurn, const OrderBand& band,
+                 const ReadingProgress& progress) {
     const std::size_t most = ContinuedTurns * static_cast<std::size_t>(perTurn);
     const std::size_t margin = std::min(most, signal.size() - 1);
     const Signal backward(signal.rbegin(), signal.rend());
@@ -130,7 +128,7 @@ Signal lowOrders(const Signal& signal, int perTurn, const OrderBand& band) {
     while (!hasSmallFactors(whole.size()))
         whole.push_back(common);
 
-    const Signal low = filtered(whole, perTurn, band);
+    const Signal low = filtered(whole, perTurn, band, progress);
     const auto first = low.begin() + static_cast<std::ptrdiff_t>(margin);
     return {first, first + static_cast<std::ptrdiff_t>(signal.size())};
 }

@@ -3,6 +3,8 @@
 #include <complex>
 #include <vector>
 
+#include "workbench/recording/reading_watch.h"
+
 namespace Rotavue::Workbench {
 
 /// Which orders pass: all up to `pass` untouched, none from `stop` on, in between along half a
@@ -22,8 +24,9 @@ struct OrderBand {
 /// and backward, F. Gustafsson, IEEE Trans. Signal Processing 44, 1996). Turning everything about
 /// the end point would read a large 1X as a shift of the mean there.
 ///
-/// `perTurn` values make a turn; there are two turns or more.
+/// `perTurn` values make a turn; there are two turns or more. Throws ReadingCancelled.
 std::vector<std::complex<double>> lowOrders(const std::vector<std::complex<double>>& signal,
-                                            int perTurn, const OrderBand& band);
+                                            int perTurn, const OrderBand& band,
+                                            const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench

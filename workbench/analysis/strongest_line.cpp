@@ -77,13 +77,15 @@ double median(std::vector<double> values) {
 
 }  // namespace
 
-std::optional<double> strongestLine(const Recording& recording) {
+std::optional<double> strongestLine(const Recording& recording, const ReadingProgress& progress) {
     if (recording.sampleCount() < LeastSamples) return std::nullopt;
     const std::size_t size = std::min(LongestBlock, std::bit_floor(recording.sampleCount()));
     const std::vector<Complex> signal = bridgedSignal(recording);
     PowerSpectrum spectrum(size);
-    for (std::size_t first = 0; first + size <= signal.size(); first += size / 2)
+    for (std::size_t first = 0; first + size <= signal.size(); first += size / 2) {
+        progress.reach(static_cast<double>(first) / static_cast<double>(signal.size()));
         spectrum.add(signal.data() + first);
+    }
     const std::vector<double>& power = spectrum.power();
     const auto top = std::max_element(power.begin() + LowestBin, power.end() - 1);
     const double usual = median({power.begin() + LowestBin, power.end()});

@@ -11,7 +11,8 @@ namespace Rotavue::Workbench {
 /// samples. Power spectra of Hann windows of at most 65536 samples that overlap by half are
 /// averaged (P. D. Welch, IEEE Trans. Audio Electroacoust. 15, 1967); a parabola through the
 /// logarithms of the highest three finds the place between the bins. The lowest bins, where the
-/// mean and slow drifts lie, are passed over.
-std::optional<double> strongestLine(const Recording& recording);
+/// mean and slow drifts lie, are passed over. Throws ReadingCancelled.
+std::optional<double> strongestLine(const Recording& recording,
+                                    const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench

@@ -40,14 +40,14 @@ void checkBand(const OrderBand& band) {
 
 // 1X in Hz without keyphasor: from outside or from the spectrum.
 double assumedFrequency(const Recording& recording, const SubSyncOptions& options,
-                        std::vector<std::string>& notes) {
+                        std::vector<std::string>& notes, const ReadingProgress& progress) {
     if (options.speed) {
         if (!(*options.speed > 0.0))
             refuse("takes a speed above 0 rpm, not " + shortText(*options.speed));
         notes.push_back("no keyphasor: 1X is taken at " + shortText(*options.speed, 6) + " rpm");
         return *options.speed / SecondsPerMinute;
     }
-    const std::optional<double> line = strongestLine(recording);
+    const std::optional<double> line = strongestLine(recording, progress);
     if (!line) refuse("needs the shaft's speed: there is no keyphasor, and no line stands out");
     notes.push_back("no keyphasor: 1X is taken at the strongest line, " + shortText(*line) +
                     " Hz (" + shortText(*line * SecondsPerMinute) + " rpm)");
@@ -83,17 +83,20 @@ int stepsPerTurn(const TurnedSamples& samples) {
     return static_cast<int>(std::bit_floor(static_cast<unsigned>(most)));
 }
 
-// How much of all is done when there are steps of the angle, and when these are filtered.
+// How much of all is done when the line is found, of the rest when there are steps of the angle,
+// and when these are filtered.
+constexpr double PartOfLine = 0.2;
 constexpr double PartOfSteps = 0.4;
 constexpr double PartOfFilter = 0.7;
 constexpr std::size_t SamplesBetweenWords = 1U << 16U;
 
 void filterSamples(const Recording& recording, const TurnedSamples& samples, SubSyncOrbit& orbit,
                    const ReadingProgress& progress) {
-    const AngleSteps steps = averageBySteps(recording, samples, stepsPerTurn(samples));
-    progress.reach(PartOfSteps);
+    const AngleSteps steps = averageBySteps(recording, samples, stepsPerTurn(samples),
+                                            progress.between(0.0, PartOfSteps));
     if (steps.values.empty()) return;
-    const auto low = lowOrders(steps.values, steps.perTurn, orbit.band);
+    const auto low = lowOrders(steps.values, steps.perTurn, orbit.band,
+                               progress.between(PartOfSteps, PartOfFilter));
     const ReadingProgress rest = progress.between(PartOfFilter, 1.0);
     std::vector<double> x;
     std::vector<double> y;
@@ -140,9 +143,11 @@ SubSyncOrbit subSynchronousOrbit(const Recording& recording, const ShaftTrack& t
     if (track.hasKeyphasor()) {
         filterRuns(recording, track.runs(), orbit, progress);
     } else {
-        const double frequency = assumedFrequency(recording, options, orbit.notes);
+        const double frequency =
+            assumedFrequency(recording, options, orbit.notes, progress.between(0.0, PartOfLine));
         const ShaftRun run = evenRun(recording, frequency);
-        filterSamples(recording, turnedSamples(recording, run, {}), orbit, progress);
+        filterSamples(recording, turnedSamples(recording, run, {}), orbit,
+                      progress.between(PartOfLine, 1.0));
     }
     return orbit;
 }

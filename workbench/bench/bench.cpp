@@ -43,6 +43,15 @@ bool Bench::has(const Plane& plane) const {
     return placeOf(plane) < planes_.size();
 }
 
+PlaneTitle Bench::titleOf(const Plane& plane) const {
+    const std::size_t place = placeOf(plane);
+    if (place == planes_.size()) return {plane.name()};
+    std::vector<const PlaneSource*> sources;
+    for (const auto& one : planes_)
+        sources.push_back(&one->original());
+    return planeTitles(sources)[place];
+}
+
 std::shared_ptr<Plane> Bench::shared(const Plane& plane) const {
     return planes_.at(placeOf(plane));
 }
@@ -147,7 +156,7 @@ void Bench::removePlane(Plane& plane) {
     const std::shared_ptr<Plane> kept = shared(plane);
     const auto moved = std::make_shared<CursorMove>();
     undo_.push(new ChangeCommand(
-        tr("closing %1").arg(QString::fromStdString(plane.name())),
+        tr("closing %1").arg(QString::fromStdString(titleOf(plane).text())),
         [this, place, moved] { *moved = takeWithCursor(place); },
         [this, place, kept, moved] { insertWithCursor(place, kept, *moved); }));
 }
@@ -173,7 +182,7 @@ void Bench::apply(Plane& plane, const std::function<void(Plane&)>& part) {
 void Bench::setCurves(Plane& plane, std::vector<CurveRequest> curves) {
     if (curves == plane.curves()) return;
     change(
-        plane, tr("curves of %1").arg(QString::fromStdString(plane.name())),
+        plane, tr("curves of %1").arg(QString::fromStdString(titleOf(plane).text())),
         [curves = std::move(curves)](Plane& one) { one.setCurves(curves); },
         [before = plane.curves()](Plane& one) { one.setCurves(before); });
 }
@@ -257,13 +266,8 @@ bool Bench::isWorking() const {
                        [](const auto& plane) { return plane->slowCurves().current() != nullptr; });
 }
 
-bool Bench::isIdle() const {
-    return std::all_of(planes_.begin(), planes_.end(),
-                       [](const auto& plane) { return plane->slowCurves().isIdle(); });
-}
-
 void Bench::watchWork() {
-    if (!isIdle() && !work_.isActive()) work_.start();
+    if (isWorking() && !work_.isActive()) work_.start();
 }
 
 void Bench::cancelWork() {
@@ -288,12 +292,12 @@ void Bench::lookForWork() {
     for (const auto& plane : planes_) {
         const CurveRequest* made = plane->slowCurves().current();
         if (made == nullptr) continue;
-        const auto what = QString::fromStdString(plane->name() + ", " + wordsOf(*made));
+        const auto what = QString::fromStdString(titleOf(*plane).text() + ", " + wordsOf(*made));
         Q_EMIT worked(what, plane->slowCurves().part());
         return;
     }
     Q_EMIT workEnded();
-    if (isIdle()) work_.stop();
+    work_.stop();
 }
 
 void Bench::stepTurns(const Plane& plane, int turns) {

@@ -3,6 +3,7 @@
 #include "host_kit/loader/module.h"
 #include "workbench/bench/plane.h"
 #include "workbench/bench/plane_source.h"
+#include "workbench/bench/plane_titles.h"
 #include "workbench/bench/playback.h"
 
 #include <QObject>
@@ -41,6 +42,10 @@ public:
     const std::vector<std::shared_ptr<Plane>>& planes() const { return planes_; }
 
     bool has(const Plane& plane) const;
+
+    /// What a plane is called beside the others, as all outputs call it; a plane that is not on the
+    /// bench by its name alone. Another one that comes or goes may change it.
+    PlaneTitle titleOf(const Plane& plane) const;
 
     /// Adds a plane at the end [undoable]. On an empty bench the cursor goes to the recording's
     /// end. Raises what `Plane` raises.
@@ -168,7 +173,6 @@ private:
     std::shared_ptr<Plane> shared(const Plane& plane) const;
     void placePlanes();
     HostState hostState() const;
-    bool isIdle() const;
     void watchWork();
     void lookForWork();
 

@@ -163,7 +163,7 @@ void OutActions::openPicture() {
     open({.title = tr("Export picture"),
           .key = PictureKey,
           .folder = folderOf(*plane),
-          .name = fileName(plane->name()),
+          .name = fileName(bench_.titleOf(*plane).text()),
           .usual = {},
           .painter = [this, plane](const PictureOrder& order, const ExportSettings& settings) {
               return paintPlane(*plane, bench_, order, settings.header);
@@ -175,7 +175,7 @@ void OutActions::openReport() {
     open({.title = tr("Export report page"),
           .key = "report",
           .folder = folderOf(*bench_.planes().front()),
-          .name = fileName(bench_.planes().front()->name()) + tr(" report"),
+          .name = fileName(reportTitle(bench_)) + tr(" report"),
           .usual = A4,
           .planes = true,
           .painter = [this](const PictureOrder& order, const ExportSettings& settings) {

@@ -52,6 +52,7 @@ std::int32_t ticksOf(const Settings& settings) {
 
 PlanePicture::PlanePicture(Plane& plane, Bench& bench)
     : plane_(plane),
+      title_(bench.titleOf(plane)),
       wasLight_(bench.scheme() == LightNumber),
       listener_(plane.host().listener()),
       settings_(plane.settings()) {
@@ -123,7 +124,8 @@ PictureHeader PlanePicture::header() const {
     const Recording& recording = plane_.shown().recording;
     return pictureHeader(
         {.machine = recording.machine,
-         .name = plane_.name(),
+         .name = title_.name,
+         .detail = title_.detail,
          .curves = plane_.drawnCurves(),
          .coupling = recording.coupling,
          .span = plane_.span(),

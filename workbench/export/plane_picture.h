@@ -53,6 +53,7 @@ private:
     GraphScale scaleWith(std::int32_t ticks) const;
 
     Plane& plane_;
+    PlaneTitle title_;
     bool wasLight_;
     HostKit::HostListener* listener_;
     std::optional<HostKit::DrivenControl> control_;

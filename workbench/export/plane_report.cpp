@@ -18,19 +18,34 @@ namespace {
 
 using Pictures = std::vector<std::unique_ptr<PlanePicture>>;
 
-/// The first machine that has a name, else the first plane's.
-std::string titleOf(const Bench& bench) {
+std::string listed(const std::vector<std::string>& texts) {
+    std::string line;
+    for (const std::string& text : texts)
+        line += (line.empty() ? "" : ", ") + text;
+    return line;
+}
+
+/// Those that have a name, each once.
+std::vector<std::string> machinesOf(const Bench& bench) {
+    std::vector<std::string> machines;
+    for (const auto& plane : bench.planes()) {
+        const std::string& machine = plane->shown().recording.machine.machine;
+        const bool isNew = std::find(machines.begin(), machines.end(), machine) == machines.end();
+        if (isNew && !machine.empty()) machines.push_back(machine);
+    }
+    return machines;
+}
+
+std::vector<std::string> filesOf(const Bench& bench) {
+    std::vector<std::filesystem::path> files;
     for (const auto& plane : bench.planes())
-        if (!plane->shown().recording.machine.machine.empty())
-            return plane->shown().recording.machine.machine;
-    return bench.planes().empty() ? "No recording" : bench.planes().front()->name();
+        files.push_back(plane->shown().recording.file);
+    return fileTitles(files);
 }
 
 std::string fileLine(const Bench& bench) {
-    std::string line;
-    for (const auto& plane : bench.planes())
-        line += (line.empty() ? "" : ", ") + plane->shown().recording.file.filename().string();
-    return (bench.planes().size() == 1 ? "Recording: " : "Recordings: ") + line;
+    const std::vector<std::string> files = filesOf(bench);
+    return (files.size() == 1 ? "Recording: " : "Recordings: ") + listed(files);
 }
 
 std::string runOutWords(const Plane& plane) {
@@ -43,7 +58,8 @@ std::string runOutLine(const Bench& bench) {
     std::string line;
     for (const auto& plane : bench.planes()) {
         kinds.insert(runOutWords(*plane));
-        line += (line.empty() ? "" : ", ") + plane->name() + ": " + runOutWords(*plane);
+        line +=
+            (line.empty() ? "" : ", ") + bench.titleOf(*plane).text() + ": " + runOutWords(*plane);
     }
     const bool alike = bench.planes().size() > 1 && kinds.size() == 1;
     return alike ? "All planes: " + *kinds.begin() : line;
@@ -62,7 +78,7 @@ std::shared_ptr<const ShaftTrack> trackOf(const Plane& plane) {
 NumberSheet sheetOf(const Bench& bench) {
     std::vector<ShownTurns> turns;
     for (const auto& plane : bench.planes())
-        turns.push_back({.plane = QString::fromStdString(plane->name()),
+        turns.push_back({.plane = QString::fromStdString(bench.titleOf(*plane).text()),
                          .recording = recordingOf(*plane),
                          .track = trackOf(*plane),
                          .span = stretchOf(plane->span(), plane->shown().track),
@@ -87,7 +103,7 @@ ReportTable tableOf(const NumberSheet& sheet) {
 void addNotes(const Bench& bench, const NumberSheet& sheet, ReportContent& content) {
     for (const auto& plane : bench.planes())
         for (const std::string& note : plane->notes())
-            content.notes.push_back(plane->name() + ": " + note);
+            content.notes.push_back(bench.titleOf(*plane).text() + ": " + note);
     for (const QString& note : sheet.notes)
         content.notes.push_back(note.toStdString());
 }
@@ -111,6 +127,17 @@ void shareScale(const Bench& bench, Pictures& pictures) {
 
 }  // namespace
 
+// The point of one plane is no title for all of them.
+std::string reportTitle(const Bench& bench) {
+    if (bench.planes().empty()) return "No recording";
+    const std::vector<std::string> machines = machinesOf(bench);
+    if (!machines.empty()) return listed(machines);
+    if (bench.planes().size() == 1) return bench.planes().front()->name();
+    const std::string planes = std::to_string(bench.planes().size()) + " planes";
+    const std::vector<std::string> files = filesOf(bench);
+    return files.size() == 1 ? planes + " of " + files.front() : planes;
+}
+
 std::vector<std::string> reportFacts(const Bench& bench) {
     return {fileLine(bench), runOutLine(bench)};
 }
@@ -126,7 +153,7 @@ std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameS
     if (sameScale) shareScale(bench, pictures);
     const NumberSheet sheet = sheetOf(bench);
     ReportContent content{
-        .title = titleOf(bench), .facts = reportFacts(bench), .numbers = tableOf(sheet)};
+        .title = reportTitle(bench), .facts = reportFacts(bench), .numbers = tableOf(sheet)};
     for (const auto& picture : pictures) {
         PlanePicture* const plane = picture.get();
         content.orbits.push_back(

@@ -9,6 +9,9 @@
 
 namespace Rotavue::Workbench {
 
+/// What a report is called: its machines, or what there is without any that has a name.
+std::string reportTitle(const Bench& bench);
+
 /// What a report says of all planes, a line each: recordings, run-out.
 std::vector<std::string> reportFacts(const Bench& bench);
 

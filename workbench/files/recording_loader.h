@@ -42,7 +42,7 @@ class RecordingLoader : public QObject {
 public:
     explicit RecordingLoader(QObject* parent = nullptr);
 
-    /// Cancels what is being loaded and waits for that, a moment at the most.
+    /// Cancels what is being loaded; it ends by itself, a moment later at the most.
     ~RecordingLoader() override;
 
     void load(LoadRequest request);

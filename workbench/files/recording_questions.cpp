@@ -83,7 +83,7 @@ void RecordingQuestions::show(const LoadRequest& request,
     }
     if (plane->compensation().empty()) return;
     bench_.report(tr("%1 was read again: run-out has to be taken anew")
-                      .arg(QString::fromStdString(plane->name())));
+                      .arg(QString::fromStdString(bench_.titleOf(*plane).text())));
 }
 
 }  // namespace Rotavue::Workbench

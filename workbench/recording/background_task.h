@@ -4,8 +4,11 @@
 #include <chrono>
 #include <functional>
 #include <future>
+#include <memory>
+#include <optional>
 #include <utility>
 
+#include "workbench/recording/ending_threads.h"
 #include "workbench/recording/reading_watch.h"
 
 namespace Rotavue::Workbench {
@@ -16,52 +19,59 @@ namespace Rotavue::Workbench {
 template <typename Result>
 class BackgroundTask {
 public:
-    /// Throws ReadingCancelled soon after its watch has said so.
+    /// Throws ReadingCancelled soon after its watch has said so. It owns all that it uses: it may
+    /// outlive the task by that moment.
     using Work = std::function<Result(const ReadingWatch&)>;
 
     /// Begins. Where the system has no more threads, the task counts as done at once, and `take`
     /// does the work.
     explicit BackgroundTask(Work work)
-        : result_(std::async(std::launch::async | std::launch::deferred,
-                             [this, work = std::move(work)] {
-                                 return work([this](double part) { return reach(part); });
+        : thread_(std::async(std::launch::async | std::launch::deferred,
+                             [state = state_, work = std::move(work)]() mutable {
+                                 run(std::move(state), std::move(work));
                              })) {}
 
-    /// Cancels, and waits until the thread has ended.
+    /// Cancels. The thread, if it hasn't ended, is left to end (ending_threads.h): nobody waits.
     ~BackgroundTask() {
         cancel();
-        const bool begun = result_.valid() && !isDeferred();
-        if (begun) result_.wait();
+        leaveToEnd(std::move(thread_));
     }
     BackgroundTask(const BackgroundTask&) = delete;
     BackgroundTask& operator=(const BackgroundTask&) = delete;
 
     /// How much is done, 0 to 1.
-    double part() const { return part_; }
+    double part() const { return state_->part; }
 
-    void cancel() { cancelled_ = true; }
-    bool isCancelled() const { return cancelled_; }
+    void cancel() { state_->cancelled = true; }
+    bool isCancelled() const { return state_->cancelled; }
 
     bool isDone() const {
-        return result_.wait_for(std::chrono::seconds(0)) != std::future_status::timeout;
+        return thread_.wait_for(std::chrono::seconds(0)) != std::future_status::timeout;
     }
 
     /// Waits for the end and gives the result, once, or throws what the work threw.
-    Result take() { return result_.get(); }
+    Result take() {
+        thread_.get();
+        return std::move(*state_->result);
+    }
 
 private:
-    bool reach(double part) {
-        part_ = part;
-        return !cancelled_;
+    struct State {
+        std::atomic<double> part = 0.0;
+        std::atomic<bool> cancelled = false;
+        std::optional<Result> result = {};
+    };
+
+    /// What the work held, and a result that nobody wants any more, go with the work's end.
+    static void run(const std::shared_ptr<State> state, const Work work) {
+        state->result = work([&state](double part) {
+            state->part = part;
+            return !state->cancelled;
+        });
     }
 
-    bool isDeferred() const {
-        return result_.wait_for(std::chrono::seconds(0)) == std::future_status::deferred;
-    }
-
-    std::atomic<double> part_ = 0.0;
-    std::atomic<bool> cancelled_ = false;
-    std::future<Result> result_;  // last: the thread begins with it
+    std::shared_ptr<State> state_ = std::make_shared<State>();
+    std::future<void> thread_;  // last: it begins with the state
 };
 
 }  // namespace Rotavue::Workbench

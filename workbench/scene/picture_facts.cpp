@@ -12,7 +12,8 @@ std::string titleOf(const PictureSubject& subject) {
     const MachineFacts& machine = subject.machine;
     std::string title = machine.machine;
     if (!machine.point.empty()) title += (title.empty() ? "" : ", ") + machine.point;
-    return title.empty() ? subject.name : title;
+    if (title.empty()) title = subject.name;
+    return subject.detail.empty() ? title : title + " (" + subject.detail + ')';
 }
 
 /// Which curves there are: "direct + average", as the field calls them.

@@ -15,7 +15,8 @@ namespace Rotavue::Workbench {
 /// What a picture shows.
 struct PictureSubject {
     const MachineFacts& machine;
-    std::string name;  ///< of what has neither machine nor point
+    std::string name;         ///< of what has neither machine nor point
+    std::string detail = {};  ///< what tells it from others of its title; empty: nothing has to
     const std::vector<CurveRequest>& curves;
     Coupling coupling = Coupling::Dc;
     ShownSpan span;

@@ -87,7 +87,6 @@ void SlowCurves::beginNext() {
 }
 
 bool SlowCurves::look() {
-    std::erase_if(dropped_, [](const auto& task) { return task->isDone(); });
     if (!current_ || !current_->isDone()) return false;
     const std::unique_ptr<Task> task = std::move(current_);
     const auto entry = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& one) {
@@ -120,9 +119,7 @@ void SlowCurves::forgetUnmade() {
 
 // Nobody waits for what ends a moment later.
 void SlowCurves::drop() {
-    if (!current_) return;
-    current_->cancel();
-    dropped_.push_back(std::move(current_));
+    current_.reset();
 }
 
 }  // namespace Rotavue::Workbench

@@ -57,9 +57,6 @@ public:
     const CurveRequest* current() const;
     double part() const;  ///< of that curve, 0 to 1
 
-    /// Whether no thread is at work, nor ending.
-    bool isIdle() const { return !current_ && dropped_.empty(); }
-
     /// Gives up those that are not made yet; each has a note that says so.
     void cancel();
 
@@ -82,7 +79,6 @@ private:
     std::vector<Entry> entries_;
     CurveRequest currentRequest_;
     std::unique_ptr<Task> current_;
-    std::vector<std::unique_ptr<Task>> dropped_;  // that have not ended yet
 };
 
 }  // namespace Rotavue::Workbench

@@ -250,7 +250,7 @@ void MainWindow::setViewName(const QString& file) {
 void MainWindow::showTitle() {
     QStringList names;
     for (const auto& plane : bench_.planes())
-        names += QString::fromStdString(plane->name());
+        names += QString::fromStdString(bench_.titleOf(*plane).text());
     if (!viewName_.isEmpty()) names = {viewName_};
     setWindowTitle("[*]" + (names.isEmpty() ? QString() : names.join(", ") + " - ") + "Rotavue");
     setWindowModified(!bench_.undoStack().isClean());

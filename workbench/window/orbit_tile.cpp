@@ -93,6 +93,7 @@ OrbitTile::OrbitTile(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent
     setCurrent(false);
     tellFacts();
     tellNotes();
+    connect(&bench_, &Bench::planesChanged, this, &OrbitTile::tellName);
     connect(&view_, &OrbitView::drawn, this, &OrbitTile::followFrame);
     connect(&bench_, &Bench::notesChanged, this, [this](const Plane* changed) {
         if (changed == &view_.plane()) tellNotes();
@@ -100,6 +101,9 @@ OrbitTile::OrbitTile(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent
 }
 
 void OrbitTile::layOut() {
+    QFont font = name_.font();
+    font.setBold(true);
+    name_.setFont(font);
     auto* close = new QToolButton(this);
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     close->setAutoRaise(true);
@@ -122,11 +126,14 @@ void OrbitTile::layOut() {
 }
 
 void OrbitTile::setCurrent(bool current) {
-    QFont font = name_.font();
-    font.setBold(true);
-    name_.setFont(font);
-    name_.setName((current ? QString::fromUtf8("\u25b8 ") : QString()) +
-                  QString::fromStdString(view_.plane().name()));
+    isCurrent_ = current;
+    tellName();
+}
+
+void OrbitTile::tellName() {
+    const QString title = QString::fromStdString(bench_.titleOf(view_.plane()).text());
+    view_.setAccessibleName(tr("Orbit of %1").arg(title));
+    name_.setName((isCurrent_ ? QString::fromUtf8("\u25b8 ") : QString()) + title);
 }
 
 // The facts belong to the frame. While playing nobody reads those of each one, and another speed

@@ -30,6 +30,7 @@ public:
 
 private:
     void layOut();
+    void tellName();
     void followFrame();
     void tellFacts();
     void tellNotes();
@@ -40,6 +41,7 @@ private:
     QLabel facts_;
     QToolButton notesButton_;
     QLabel notes_;
+    bool isCurrent_ = false;
     int framesSinceFacts_ = 0;
 };
 

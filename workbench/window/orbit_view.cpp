@@ -50,7 +50,6 @@ bool isLimit(const PaintedText& painted) {
 OrbitView::OrbitView(Bench& bench, std::shared_ptr<Plane> plane, QWidget* parent)
     : QWidget(parent), bench_(bench), plane_(std::move(plane)), editor_(*this) {
     setObjectName("orbitView");
-    setAccessibleName(tr("Orbit of %1").arg(QString::fromStdString(plane_->name())));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

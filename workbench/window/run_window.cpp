@@ -2,6 +2,7 @@
 
 #include "workbench/analysis/replace_file.h"
 #include "workbench/files/file_actions.h"
+#include "workbench/recording/ending_threads.h"
 #include "workbench/window/app_settings.h"
 #include "workbench/window/main_window.h"
 #include "workbench/window/open_at_once.h"
@@ -60,6 +61,14 @@ void saveScreenshot(MainWindow& window, const std::string& file) {
         throw std::runtime_error(file + ": cannot be written: " + fault.message());
 }
 
+/// Nothing that threads share goes before they do.
+struct ThreadsAtEnd {
+    ThreadsAtEnd() = default;
+    ThreadsAtEnd(const ThreadsAtEnd&) = delete;
+    ThreadsAtEnd& operator=(const ThreadsAtEnd&) = delete;
+    ~ThreadsAtEnd() { waitForEndingThreads(); }
+};
+
 }  // namespace
 
 int runWindow(const WindowOrder& order) {
@@ -76,6 +85,7 @@ int runWindow(const WindowOrder& order) {
     QApplication::setDesktopFileName("rotavue");
     QApplication::setWindowIcon(QIcon(":/rotavue.svg"));
     if (order.resetSettings) appSettings()->clear();
+    const ThreadsAtEnd threads;
     MainWindow window(std::make_shared<HostKit::Module>(HostKit::chooseModule(order.module)));
     if (!order.screenshot) window.restoreLayout();
     if (!order.theme.empty()) window.setTheme(themeNamed(QString::fromStdString(order.theme)));

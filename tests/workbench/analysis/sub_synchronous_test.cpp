@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
+#include <vector>
 
 #include "tests/workbench/analysis/analysis_refusal.h"
 #include "tests/workbench/analysis/generated_recording.h"
@@ -115,6 +117,35 @@ TEST(StrongestLine, IsNoneInNoiseInStillnessAndInAFewSamples) {
     EXPECT_EQ(strongestLine(generate({.noise = 1.0})), std::nullopt);
     EXPECT_EQ(strongestLine(generate({.xMean = 5.0})), std::nullopt);
     EXPECT_EQ(strongestLine(generate({.duration = 0.006, .orders = {First}})), std::nullopt);
+}
+
+TEST(SubSync, AsksOftenWhetherItShallGoOnInEachOfItsSteps) {
+    const Recording recording =
+        generate({.duration = 40.0, .orders = {First, Whirl}});  // 400,000 samples, 2000 turns
+    const ShaftTrack track(recording);
+    std::vector<double> asked;
+    const auto make = [&](std::size_t most) {
+        asked.clear();
+        subSynchronousOrbit(recording, track, {}, ReadingProgress([&](double part) {
+                                asked.push_back(part);
+                                return asked.size() < most;
+                            }));
+    };
+    make(std::numeric_limits<std::size_t>::max());
+    const std::size_t all = asked.size();
+    EXPECT_TRUE(std::is_sorted(asked.begin(), asked.end()));
+    double before = 0.0;
+    for (const double end : {0.4, 0.7, 1.0}) {  // averaged, filtered, read back at the samples
+        EXPECT_GE(std::count_if(asked.begin(), asked.end(),
+                                [&](double part) { return part > before && part <= end; }),
+                  4)
+            << end;
+        before = end;
+    }
+    for (std::size_t one = 1; one <= all; ++one) {
+        EXPECT_THROW(make(one), ReadingCancelled);
+        EXPECT_EQ(asked.size(), one);
+    }
 }
 
 }  // namespace

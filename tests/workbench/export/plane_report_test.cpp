@@ -43,7 +43,30 @@ TEST_F(PlaneReportTest, SaysOfEachPlaneWhetherItsRunOutIsCompensated) {
     add();
     EXPECT_TRUE(says("All planes: run-out not compensated"));
     bench_.showCompensated(first, still(first));
-    EXPECT_TRUE(says("rotor: run-out compensated: 1X, 2X vector, rotor: run-out not compensated"));
+    EXPECT_TRUE(
+        says("rotor (1): run-out compensated: 1X, 2X vector, rotor (2): run-out not compensated"));
+}
+
+TEST_F(PlaneReportTest, OneFileOfTwoPlanesIsToldOnceAndItsPlanesApart) {
+    add();
+    add();
+    EXPECT_TRUE(says("Recording: rotor.csv"));
+    EXPECT_EQ(reportNumbers(bench_).groups, (std::vector<std::string>{"rotor (1)", "rotor (2)"}));
+}
+
+TEST_F(PlaneReportTest, IsCalledAfterItsMachinesAndNeverAfterOneOfSeveralPlanes) {
+    EXPECT_EQ(reportTitle(bench_), "No recording");
+    add();
+    EXPECT_EQ(reportTitle(bench_), "rotor");
+    add();
+    EXPECT_EQ(reportTitle(bench_), "2 planes of rotor.csv");
+    Recording other = rotor();
+    other.file = "other.csv";
+    add(std::move(other));
+    EXPECT_EQ(reportTitle(bench_), "3 planes");
+    addNamed("Bearing 1");
+    addNamed("Bearing 2");
+    EXPECT_EQ(reportTitle(bench_), "Boiler feed pump 3");
 }
 
 // Every cell of the numbers is there, letter by letter, and in text of 7.5 points or more.

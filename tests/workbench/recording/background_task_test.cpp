@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <future>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -46,8 +49,38 @@ TEST(BackgroundTaskTest, TellsHowFarItIsAndEndsWhenCancelled) {
     EXPECT_THROW(task.take(), ReadingCancelled);
 }
 
-TEST(BackgroundTaskTest, EndsWithTheOneWhoDropsIt) {
-    BackgroundTask<int> task(endless);
+TEST(BackgroundTaskTest, WhoDropsItDoesNotWaitForItsEnd) {
+    std::promise<void> mayEnd;
+    std::atomic<bool> hasEnded = false;
+    {
+        BackgroundTask<int> task(
+            [&, wait = mayEnd.get_future().share()](const ReadingWatch& watch) {
+                while (watch(0.5))
+                    std::this_thread::yield();
+                wait.wait();
+                hasEnded = true;
+                return 0;
+            });
+    }
+    EXPECT_FALSE(hasEnded);  // would hang if the end of the task had waited
+    mayEnd.set_value();
+    waitForEndingThreads();
+    EXPECT_TRUE(hasEnded);
+}
+
+TEST(BackgroundTaskTest, WhatADroppedOneHeldGoesWhenItEnds) {
+    const auto held = std::make_shared<int>(7);
+    {
+        BackgroundTask<std::shared_ptr<int>> task([held](const ReadingWatch& watch) {
+            while (watch(0.5))
+                std::this_thread::yield();
+            return held;
+        });
+    }
+    while (held.use_count() > 1)
+        std::this_thread::yield();
+    waitForEndingThreads();
+    EXPECT_EQ(held.use_count(), 1);
 }
 
 class BackgroundReading : public ScratchFolder {};

@@ -26,7 +26,7 @@ protected:
     static constexpr double Long = 10.0;
 
     void makeAll() {
-        while (!curves_.isIdle()) {
+        while (curves_.current() != nullptr) {
             curves_.look();
             std::this_thread::yield();
         }
@@ -58,7 +58,7 @@ TEST_F(SlowCurvesTest, WhatTakesLongComesWithALaterLook) {
         std::this_thread::yield();
     }
     EXPECT_EQ(made(BelowFirst).channel.value().sampleCount, 100'000);
-    EXPECT_TRUE(curves_.isIdle());
+    EXPECT_EQ(curves_.current(), nullptr);
 }
 
 TEST_F(SlowCurvesTest, AreMadeOneAfterTheOther) {
@@ -78,8 +78,8 @@ TEST_F(SlowCurvesTest, OfAnotherRecordingNothingComesBack) {
     curves_.find(BelowFirst);
     curves_.use(materialOf(Short));
     EXPECT_EQ(curves_.current(), nullptr);
-    while (!curves_.isIdle())
-        EXPECT_FALSE(curves_.look());
+    waitForEndingThreads();
+    EXPECT_FALSE(curves_.look());
     EXPECT_EQ(made(BelowFirst).channel.value().sampleCount, 10'000);
 }
 
@@ -129,11 +129,15 @@ TEST_F(SlowCurvesTest, TheNotesTellWhyThereIsNone) {
     EXPECT_TRUE(made(missing).notes[0].starts_with(wordsOf(missing) + ": "));
 }
 
-TEST_F(SlowCurvesTest, TheEndWaitsForTheThread) {
-    curves_.use(materialOf(Long));
-    curves_.find(BelowFirst);
-    curves_.use(materialOf(Long));
-    curves_.find(BelowFirst);
+TEST_F(SlowCurvesTest, AThreadThatIsStillAtWorkNeedsNothingOfThem) {
+    {
+        SlowCurves curves;
+        curves.use(materialOf(Long));
+        curves.find(BelowFirst);
+        curves.use(materialOf(Long));
+        curves.find(BelowFirst);
+    }
+    waitForEndingThreads();
 }
 
 }  // namespace

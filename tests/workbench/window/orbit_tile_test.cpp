@@ -35,6 +35,19 @@ TEST_F(OrbitTileTest, FactsAreReadInFullHoweverNarrowTheTileIs) {
     EXPECT_GE(facts.height(), facts.heightForWidth(facts.width()));
 }
 
+TEST_F(OrbitTileTest, TilesOfOneNameAreToldApartAndCalledPlainlyAgain) {
+    const auto name = [this](std::size_t tile) {
+        return window_.tiles().tiles()[tile]->view().accessibleName();
+    };
+    open(rotor("Bearing 1"));
+    EXPECT_EQ(name(0), "Orbit of Bearing 1");
+    open(rotor("Bearing 1"));
+    EXPECT_EQ(name(0), "Orbit of Bearing 1 (1)");
+    EXPECT_EQ(name(1), "Orbit of Bearing 1 (2)");
+    action("closePlane").trigger();
+    EXPECT_EQ(name(0), "Orbit of Bearing 1");
+}
+
 TEST_F(OrbitTileTest, OneLineIsEnoughWhereThereIsRoom) {
     open();
     const QLabel& facts = factsOver(0);

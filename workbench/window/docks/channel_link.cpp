@@ -8,9 +8,9 @@ namespace Rotavue::Workbench {
 
 namespace {
 
-TreePlane treePlane(const Plane& plane) {
+TreePlane treePlane(const Bench& bench, const Plane& plane) {
     const Recording& recording = plane.shown().recording;
-    TreePlane shown{.name = QString::fromStdString(plane.name()),
+    TreePlane shown{.name = QString::fromStdString(bench.titleOf(plane).text()),
                     .file = QString::fromStdString(recording.file.string()),
                     .hasTacho = recording.hasTacho(),
                     .hasMeanPosition = recording.coupling == Coupling::Dc,
@@ -61,7 +61,7 @@ void ChannelLink::setCurrent(const Plane* plane) {
 void ChannelLink::show() {
     std::vector<TreePlane> planes;
     for (const auto& plane : bench_.planes())
-        planes.push_back(treePlane(*plane));
+        planes.push_back(treePlane(bench_, *plane));
     tree_.setPlanes(std::move(planes));
     setCurrent(current_);  // which may have come before its row
 }

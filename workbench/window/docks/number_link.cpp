@@ -8,18 +8,18 @@ namespace Rotavue::Workbench {
 
 namespace {
 
-ShownTurns shownTurns(const Plane& plane) {
+ShownTurns shownTurns(const Bench& bench, const Plane& plane) {
     const auto source = plane.sharedShown();
-    return {.plane = QString::fromStdString(plane.name()),
+    return {.plane = QString::fromStdString(bench.titleOf(plane).text()),
             .recording = {source, &source->recording},
             .track = {source, &source->track},
             .span = stretchOf(plane.span(), source->track),
             .isAnyShown = isAnyShown(plane.span())};
 }
 
-QString warning(const Plane& plane, const AxisLimits& limits) {
+QString warning(const PlaneTitle& title, const AxisLimits& limits) {
     return NumberTable::tr("%1: x spans %2 and y %3, the orbit is out of shape")
-        .arg(QString::fromStdString(plane.name()),
+        .arg(QString::fromStdString(title.text()),
              QString::fromStdString(shortText(limits.xSpan())),
              QString::fromStdString(shortText(limits.ySpan())));
 }
@@ -47,7 +47,7 @@ void NumberLink::showTurns() {
     std::vector<ShownTurns> turns;
     for (const auto& plane : bench_.planes()) {
         const bool first = plane.get() == current_;
-        turns.insert(first ? turns.begin() : turns.end(), shownTurns(*plane));
+        turns.insert(first ? turns.begin() : turns.end(), shownTurns(bench_, *plane));
     }
     table_.showTurns(std::move(turns));
 }
@@ -56,7 +56,7 @@ void NumberLink::showWarnings() {
     std::vector<QString> warnings;
     for (const auto& plane : bench_.planes()) {
         const AxisLimits limits = axisLimits(*plane);
-        if (!limits.areEqual()) warnings.push_back(warning(*plane, limits));
+        if (!limits.areEqual()) warnings.push_back(warning(bench_.titleOf(*plane), limits));
     }
     table_.showScaleWarnings(warnings);
 }

@@ -24,6 +24,7 @@ PropertyLink::PropertyLink(Bench& bench, PropertyPanel& panel, QObject* parent)
         if (plane_ != nullptr) bench_.noticeSettings(*plane_, caption, run);
     });
     connect(&panel, &PropertyPanel::failed, &bench, &Bench::report);
+    connect(&bench, &Bench::planesChanged, this, &PropertyLink::tellTitle);
     connect(&bench, &Bench::settingsChanged, this, [this](const Plane* plane) {
         if (plane == plane_) panel_.refresh();
     });
@@ -34,7 +35,14 @@ void PropertyLink::setCurrent(Plane* plane) {
     plane_ = plane;
     run_.end();
     if (plane_ == nullptr) return panel_.clear();
-    panel_.show(QString::fromStdString(plane_->name()), messagesOf(plane_->control()));
+    panel_.show(QString::fromStdString(bench_.titleOf(*plane_).text()),
+                messagesOf(plane_->control()));
+}
+
+// A plane that goes is no longer the current one once everybody has heard of it.
+void PropertyLink::tellTitle() {
+    const bool isThere = plane_ != nullptr && bench_.has(*plane_);
+    if (isThere) panel_.rename(QString::fromStdString(bench_.titleOf(*plane_).text()));
 }
 
 }  // namespace Rotavue::Workbench

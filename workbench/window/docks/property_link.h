@@ -19,6 +19,8 @@ public:
     void setCurrent(Plane* plane);
 
 private:
+    void tellTitle();
+
     Bench& bench_;
     PropertyPanel& panel_;
     StepRun run_;

@@ -36,6 +36,10 @@ void PropertyPanel::show(const QString& controlName, PanelMessages messages) {
     if (auto* page = tabs_->findChild<QWidget*>(front)) tabs_->setCurrentWidget(page);
 }
 
+void PropertyPanel::rename(const QString& controlName) {
+    title_->setName(controlName);
+}
+
 void PropertyPanel::clear() {
     title_->setName(tr("Nothing is open"));
     tabs_->setVisible(false);

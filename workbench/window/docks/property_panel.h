@@ -39,6 +39,9 @@ public:
     /// in front.
     void show(const QString& controlName, PanelMessages messages);
 
+    /// The control that is shown has another name now.
+    void rename(const QString& controlName);
+
     /// Shows that there is no control.
     void clear();
 

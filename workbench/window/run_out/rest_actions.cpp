@@ -88,7 +88,7 @@ void RestActions::take(RestPosition rest) {
     const auto stretch = marked_();
     if (plane == nullptr || !stretch) return;
     if (const QString fault = faultOf(*plane, rest, stretch); !fault.isEmpty())
-        return bench_.report(QString::fromStdString(plane->name()) + ": " + fault);
+        return bench_.report(QString::fromStdString(bench_.titleOf(*plane).text()) + ": " + fault);
     CurveOptions options = plane->curveOptions();
     options.shaftCenter.rest = rest;
     options.shaftCenter.restSpan = stretch;

@@ -206,7 +206,8 @@ void RunOutActions::deliver(const std::shared_ptr<Plane>& plane, const Source& o
         made_[plane].push_back(result.left);
         bench_.showCompensated(*plane, result.left);
     } else {
-        bench_.report(QString::fromStdString(plane->name() + ": " + result.failure));
+        bench_.report(
+            QString::fromStdString(bench_.titleOf(*plane).text() + ": " + result.failure));
     }
     refresh();
 }

@@ -58,6 +58,16 @@ TEST_F(PropertyLinkTest, EachPlaneHasItsOwnSettings) {
     EXPECT_EQ(panel.findChild<QSpinBox*>("TickCount"), nullptr);
 }
 
+TEST_F(PropertyLinkTest, TheTitleFollowsWhatTellsPlanesOfOneNameApart) {
+    const auto title = [this] { return panel.findChild<QLabel*>()->toolTip(); };
+    const QString before = title();
+    Plane& second = add();
+    EXPECT_NE(title(), before);
+    EXPECT_TRUE(title().contains("rotor (1)")) << title().toStdString();
+    bench_.removePlane(second);
+    EXPECT_EQ(title(), before);
+}
+
 class ChannelLinkTest : public BenchTest {
 protected:
     QTreeWidgetItem* row(int plane, int channel) {
@@ -98,6 +108,19 @@ TEST_F(ChannelLinkTest, PlanesComeAndGo) {
     bench_.removePlane(second);
     EXPECT_EQ(tree.findChild<QTreeWidget*>()->topLevelItemCount(), 1);
     Q_EMIT tree.curvesWanted(7, {});  // of a plane that has gone
+}
+
+TEST_F(ChannelLinkTest, PlanesOfOneNameAreToldApart) {
+    add();
+    const auto name = [this](int plane) {
+        return tree.findChild<QTreeWidget*>()->topLevelItem(plane)->text(0);
+    };
+    EXPECT_EQ(name(0), "rotor");
+    add();
+    EXPECT_EQ(name(0), "rotor (1)");
+    EXPECT_EQ(name(1), "rotor (2)");
+    bench_.undoStack().undo();
+    EXPECT_EQ(name(0), "rotor");
 }
 
 class TimeLinkTest : public BenchTest {
