@@ -51,6 +51,7 @@ Settings usualSettings(const PlaneSource& source) {
     const MachineFacts& machine = source.recording.machine;
     return {
         {L"revolutions", L"8"},
+        {L"tickCount", L"3"},  // whose numbers have room beside each other in a small tile
         {L"displayTime", L"100.000000000000000"},
         {L"historyType", source.recording.hasTacho() ? L"0" : L"1"},
         {L"displayType", source.recording.hasTacho() ? L"0" : L"1"},
@@ -107,7 +108,7 @@ void Plane::setCurveOptions(CurveOptions options) {
 }
 
 std::uint32_t Plane::colorOf(std::size_t curve) const {
-    return usualCurveColor(curve, light_);
+    return usualCurveColor(colors_.numberOf(curves_[curve]), light_);
 }
 
 std::vector<CurveRequest> Plane::drawnCurves() const {
@@ -147,6 +148,8 @@ void Plane::assign() {
         host.assigned.groups.push_back(std::move(group));
         orbit.name = channelText(nameOf({}));
     }
+    for (const CurveRequest& curve : curves_)
+        colors_.add(curve);
     host.assigned.slots = {{host.assigned.groups.empty() ? PlainSlot : GroupSlot}};
     notesOfCurves_.assign(curves_.size(), {});
     dropCurves();

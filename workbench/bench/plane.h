@@ -3,6 +3,7 @@
 #include "host_kit/control/driven_control.h"
 #include "host_kit/memory/memory_host.h"
 #include "workbench/bench/plane_source.h"
+#include "workbench/scene/color_book.h"
 #include "workbench/scene/curve_options.h"
 #include "workbench/scene/curve_request.h"
 #include "workbench/scene/shown_span.h"
@@ -73,7 +74,8 @@ public:
     /// Those of them that the control can draw; `notes` tells why others are missing.
     std::vector<CurveRequest> drawnCurves() const;
 
-    /// The colour of a curve by its place in `curves`, in the host's encoding.
+    /// The colour of a curve by its place in `curves`, in the host's encoding. A curve keeps it,
+    /// whatever else is shown.
     std::uint32_t colorOf(std::size_t curve) const;
 
     /// The curves' colours suit a light or a dark background.
@@ -152,6 +154,7 @@ private:
     std::shared_ptr<const PlaneSource> shown_;
     std::string name_;
     std::vector<CurveRequest> curves_;
+    ColorBook colors_;
     std::size_t made_ = 0;  ///< curves that the host may have a channel of
     CurveOptions options_;
     bool light_;
@@ -167,7 +170,7 @@ private:
 };
 
 /// The settings that a recording is first shown with: eight turns, or 100 ms without a keyphasor,
-/// and the clearance where it is known.
+/// three ticks, and the clearance where it is known.
 Settings usualSettings(const PlaneSource& source);
 
 /// What of settings a user has set: limits that the automatic scale finds anew in every frame are

@@ -57,6 +57,17 @@ TEST_F(PlaneTest, AssignsAGroupForTheRawOrbitAndAChannelForEachOtherCurve) {
     EXPECT_EQ(hostOf(plane).assigned.channels.size(), 1U);
 }
 
+TEST_F(PlaneTest, ACurveKeepsItsColourWhateverElseIsTicked) {
+    Plane& plane = add();
+    const CurveRequest subSync{.kind = CurveKind::SubSync};
+    plane.setCurves({{}, subSync});
+    const std::uint32_t color = plane.colorOf(1);
+    plane.setCurves({{}, {.kind = CurveKind::Average}, subSync});
+    EXPECT_EQ(plane.colorOf(2), color);
+    plane.setCurves({subSync});
+    EXPECT_EQ(plane.colorOf(0), color);
+}
+
 TEST_F(PlaneTest, NotesWhyACurveCannotBeHadAndShowsTheOthers) {
     Plane& plane = add(withoutKeyphasor(rotor()));
     plane.setCurves({{}, {.kind = CurveKind::Average}});

@@ -66,6 +66,9 @@ TEST_F(PlanePictureTest, LimitIsTheScreensAndCanBeFixed) {
 
 TEST_F(PlanePictureTest, HasAsManyTicksAsThereIsRoomFor) {
     Plane& plane = add();
+    Settings settings = plane.settings();
+    settings[L"tickCount"] = L"5";
+    plane.load(settings);
     PlanePicture picture(plane, bench_);
     picture.setLimit(60.0);
     const auto division = [&](int side) -> std::string {
