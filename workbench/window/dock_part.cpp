@@ -71,12 +71,12 @@ void addPlots(MainWindow& window) {
     TimePlot& speed = namedPlot(window, "speedPlot", MainWindow::tr("Speed"));
     auto* link = new TimeLink(window.bench(), waveforms, speed, window.markedStretch(), &waveforms);
     addWayTo(window,
-             window.addDock("waveformDock", waveforms.accessibleName(), Qt::BottomDockWidgetArea,
-                            waveforms),
+             window.addDock("waveformDock", waveforms.accessibleName(), Qt::RightDockWidgetArea,
+                            waveforms, true),
              Qt::ALT | Qt::Key_4);
     addWayTo(
         window,
-        window.addDock("speedDock", speed.accessibleName(), Qt::BottomDockWidgetArea, speed, true),
+        window.addDock("speedDock", speed.accessibleName(), Qt::RightDockWidgetArea, speed, true),
         Qt::ALT | Qt::Key_5);
     followCurrent(window, *link);
 }
@@ -94,7 +94,8 @@ void addNumbers(MainWindow& window) {
 }  // namespace
 
 void addDocks(MainWindow& window) {
-    // The plots lie below the orbits alone: the columns beside them reach to the bottom.
+    // Two columns beside the orbits, which have the height of the window: four of them can be read
+    // at 1280 x 800. A dock that is moved below them leaves the columns whole.
     window.setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     addChannels(window);

@@ -21,8 +21,9 @@ namespace Rotavue::Workbench {
 
 namespace {
 
-/// Grows when docks come or go, so that an old layout is not forced on new docks.
-constexpr int LayoutVersion = 1;
+/// Grows when docks come or go or have other first places, so that an old layout is not forced on
+/// new docks.
+constexpr int LayoutVersion = 2;
 
 constexpr const char* GeometryKey = "window/geometry";
 constexpr const char* LayoutKey = "window/layout";
@@ -41,8 +42,6 @@ MainWindow::MainWindow(std::shared_ptr<HostKit::Module> module)
     setObjectName("mainWindow");
     qApp->installEventFilter(&plainKeys_);
     setDockNestingEnabled(true);
-    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resize(UsualSize);
     makeCentre();
     makeMenus();
@@ -113,6 +112,7 @@ void MainWindow::makeViewMenu() {
               [this] { tiles_.step(1); });
     addAction(*viewMenu_, "previousPlane", tr("&Previous plane"),
               Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { tiles_.step(-1); });
+    addAloneAction();
     addPlotActions();
     makeThemeMenu();
     viewMenu_->addSeparator();
@@ -123,6 +123,14 @@ void MainWindow::makeViewMenu() {
     addAction(*fileMenu_, "closePlane", tr("&Close plane"), QKeySequence::Close,
               [this] { closeCurrent(); });
     addAction(*fileMenu_, "quit", tr("&Quit"), QKeySequence::Quit, [this] { close(); });
+}
+
+void MainWindow::addAloneAction() {
+    QAction& alone = addAction(*viewMenu_, "planeAlone", tr("Current plane al&one"),
+                               Qt::CTRL | Qt::Key_M, [] {});
+    alone.setCheckable(true);
+    connect(&alone, &QAction::triggered, &tiles_, &OrbitTiles::setAlone);
+    connect(&tiles_, &OrbitTiles::aloneChanged, &alone, &QAction::setChecked);
 }
 
 void MainWindow::addPlotActions() {
@@ -195,16 +203,14 @@ QDockWidget& MainWindow::addDock(const QString& name, const QString& title, Qt::
 void MainWindow::sizeDocks() {
     constexpr int LeftWidth = 270;
     constexpr int RightWidth = 336;  // the numbers of two planes
-    constexpr int BottomHeight = 170;
+    const QList<int> rightHeights{310, 260, 150};
+    QList<QDockWidget*> right;
     for (QDockWidget* dock : findChildren<QDockWidget*>()) {
-        const Qt::DockWidgetArea area = dockWidgetArea(dock);
-        if (area == Qt::BottomDockWidgetArea) {
-            resizeDocks({dock}, {BottomHeight}, Qt::Vertical);
-        } else {
-            const bool left = area == Qt::LeftDockWidgetArea;
-            resizeDocks({dock}, {left ? LeftWidth : RightWidth}, Qt::Horizontal);
-        }
+        const bool isLeft = dockWidgetArea(dock) == Qt::LeftDockWidgetArea;
+        resizeDocks({dock}, {isLeft ? LeftWidth : RightWidth}, Qt::Horizontal);
+        if (!isLeft) right += dock;
     }
+    resizeDocks(right, rightHeights.first(right.size()), Qt::Vertical);
 }
 
 void MainWindow::addCloseCheck(std::function<bool()> mayClose) {
@@ -264,7 +270,7 @@ void MainWindow::enableActions() {
     for (const char* name : {"equalAxes", "editLimits", "notes", "closePlane", "play", "start",
                              "back", "forward", "end", "backMany", "forwardMany"})
         need(name, 1, tr("nothing is open"));
-    for (const char* name : {"nextPlane", "previousPlane"})
+    for (const char* name : {"nextPlane", "previousPlane", "planeAlone"})
         need(name, 2, tr("there are no two planes"));
     need("lockScale", scaleLock_.isOn() ? 0 : 2, tr("there are no two planes"));
 }

@@ -83,6 +83,7 @@ protected:
 private:
     void makeMenus();
     void makeViewMenu();
+    void addAloneAction();
     void addPlotActions();
     void makeThemeMenu();
     void makeHelpMenu();

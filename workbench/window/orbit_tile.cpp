@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QStringList>
 #include <QStyle>
 #include <QToolButton>
@@ -123,6 +124,11 @@ void OrbitTile::layOut() {
     column->addLayout(line);
     column->addWidget(&notes_);
     column->addWidget(&view_, 1);
+}
+
+// On the line above the plot: the plot's own clicks are the control's.
+void OrbitTile::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) Q_EMIT roomWanted();
 }
 
 void OrbitTile::setCurrent(bool current) {

@@ -28,6 +28,13 @@ public:
     /// Opens the notes, or closes them.
     void toggleNotes();
 
+Q_SIGNALS:
+    /// The user wants this tile to have the room of all, or no longer.
+    void roomWanted();
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
 private:
     void layOut();
     void tellName();

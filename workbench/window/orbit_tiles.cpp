@@ -1,5 +1,7 @@
 #include "workbench/window/orbit_tiles.h"
 
+#include <QKeyEvent>
+
 #include <algorithm>
 #include <cmath>
 
@@ -33,6 +35,10 @@ OrbitView* OrbitTiles::viewOf(const Plane* plane) const {
 OrbitTile* OrbitTiles::makeTile(const std::shared_ptr<Plane>& plane) {
     auto* tile = new OrbitTile(bench_, plane, this);
     connect(&tile->view(), &OrbitView::chosen, this, &OrbitTiles::setCurrent);
+    connect(tile, &OrbitTile::roomWanted, this, [this, chosen = plane.get()] {
+        setCurrent(chosen);
+        setAlone(!isAlone_);
+    });
     return tile;
 }
 
@@ -59,6 +65,7 @@ void OrbitTiles::rebuild() {
         tiles.push_back(tile);
     }
     tiles_ = std::move(tiles);
+    setAlone(false);
     layOut();
     if (next == nullptr && !tiles_.empty()) next = tiles_.back();
     setCurrent(next == nullptr ? nullptr : &next->view().plane());
@@ -73,7 +80,7 @@ void OrbitTiles::layOut() {
     for (std::size_t i = 0; i < tiles_.size(); ++i) {
         const int place = static_cast<int>(i);
         grid_.addWidget(tiles_[i], place / columns, place % columns);
-        tiles_[i]->show();
+        tiles_[i]->setVisible(!isAlone_ || &tiles_[i]->view().plane() == current_);
     }
 }
 
@@ -82,7 +89,21 @@ void OrbitTiles::setCurrent(Plane* plane) {
     current_ = plane;
     for (OrbitTile* tile : tiles_)
         tile->setCurrent(tiles_.size() > 1 && &tile->view().plane() == current_);
+    if (changed && isAlone_) layOut();
     if (changed) Q_EMIT currentChanged(current_);
+}
+
+void OrbitTiles::setAlone(bool alone) {
+    alone = alone && tiles_.size() > 1;
+    if (alone == isAlone_) return;
+    isAlone_ = alone;
+    layOut();
+    Q_EMIT aloneChanged(isAlone_);
+}
+
+void OrbitTiles::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape || !isAlone_) return QWidget::keyPressEvent(event);
+    setAlone(false);
 }
 
 void OrbitTiles::step(int planes) {

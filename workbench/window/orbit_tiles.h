@@ -12,7 +12,7 @@
 namespace Rotavue::Workbench {
 
 /// The middle of the window: a tile for each plane, side by side and then below each other. One of
-/// them is the current one, which docks and actions speak of.
+/// them is the current one, which docks and actions speak of, and which can have the room of all.
 class OrbitTiles : public QWidget {
     Q_OBJECT
 
@@ -22,6 +22,10 @@ public:
     /// Null on an empty bench.
     Plane* current() const { return current_; }
     void setCurrent(Plane* plane);
+
+    /// Whether the current plane has the room of all; Escape and a plane that comes or goes end it.
+    bool isAlone() const { return isAlone_; }
+    void setAlone(bool alone);
 
     /// The next plane, or the one before for a negative step, becomes the current one.
     void step(int planes);
@@ -37,6 +41,10 @@ public:
 
 Q_SIGNALS:
     void currentChanged(Plane* plane);
+    void aloneChanged(bool alone);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void rebuild();
@@ -49,6 +57,7 @@ private:
     QLabel hint_;
     std::vector<OrbitTile*> tiles_;
     Plane* current_ = nullptr;
+    bool isAlone_ = false;
 };
 
 }  // namespace Rotavue::Workbench

@@ -38,6 +38,15 @@ QPoint placeOf(const QSinglePointEvent& event) {
     return event.position().toPoint();
 }
 
+/// In a tile of a quarter of a small window the letters are smaller than in a picture, so that the
+/// numbers at the axes stay clear of each other.
+int textHeightIn(const QSize& tile) {
+    constexpr int SmallTile = 400;
+    constexpr int SmallText = 11;
+    const int usual = suitableTextHeight(tile.width(), tile.height());
+    return std::min(tile.width(), tile.height()) < SmallTile ? std::min(usual, SmallText) : usual;
+}
+
 /// Numbers on a ground of their own: that is how a control shows what can be clicked.
 bool isLimit(const PaintedText& painted) {
     bool isNumber = false;
@@ -93,9 +102,8 @@ void OrbitView::paintEvent(QPaintEvent*) {
         if (isLimit(painted)) limitPlaces_.push_back(painted.middle.toPoint());
     };
     send([&](HostKit::DrivenControl& control) {
-        PainterCanvas canvas(
-            painter, size(),
-            {.fontHeight = suitableTextHeight(width(), height()), .painted = keepLimit});
+        PainterCanvas canvas(painter, size(),
+                             {.fontHeight = textHeightIn(size()), .painted = keepLimit});
         control.draw(Meridax::Host::Ref<Meridax::Host::IHostCanvas>::share(&canvas), width(),
                      height(), bench_.scheme());
     });

@@ -29,6 +29,55 @@ TEST_F(MainWindowTest, ATileForEachPlane) {
     EXPECT_EQ(window_.tiles().tiles().size(), 2U);
 }
 
+TEST_F(MainWindowTest, ThePlaneThatIsAloneHasTheRoomOfAll) {
+    for (const char* name : {"Bearing 1", "Bearing 2", "Bearing 3"})
+        open(rotor(name));
+    const OrbitTiles& tiles = window_.tiles();
+    const QSize shared = tiles.tiles()[2]->size();
+    action("planeAlone").trigger();
+    settle();
+    EXPECT_EQ(tiles.tiles()[2]->size(), tiles.size());
+    EXPECT_GT(tiles.size().width(), shared.width());
+    EXPECT_FALSE(tiles.tiles()[0]->isVisible());
+    action("nextPlane").trigger();  // is the first one then, and alone
+    settle();
+    EXPECT_EQ(tiles.tiles()[0]->size(), tiles.size());
+    EXPECT_FALSE(tiles.tiles()[2]->isVisible());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(tiles.isAlone());
+    EXPECT_FALSE(action("planeAlone").isChecked());
+    EXPECT_EQ(tiles.tiles()[2]->size(), shared);
+}
+
+TEST_F(MainWindowTest, ADoubleClickOnTheLineAboveAPlotGivesItTheRoomAndTakesItBack) {
+    open(rotor("Bearing 1"));
+    open(rotor("Bearing 2"));
+    OrbitTile& tile = *window_.tiles().tiles()[0];
+    auto& line = *tile.findChild<QLabel*>("facts");
+    QTest::mouseDClick(&line, Qt::LeftButton);
+    EXPECT_TRUE(window_.tiles().isAlone());
+    EXPECT_EQ(window_.currentPlane(), &tile.view().plane());
+    QTest::mouseDClick(&tile.view(), Qt::LeftButton);  // is the control's
+    EXPECT_TRUE(window_.tiles().isAlone());
+    QTest::mouseDClick(&line, Qt::LeftButton);
+    EXPECT_FALSE(window_.tiles().isAlone());
+}
+
+TEST_F(MainWindowTest, APlaneThatComesIsSeenBesideTheOneThatWasAlone) {
+    open(rotor("Bearing 1"));
+    open(rotor("Bearing 2"));
+    window_.tiles().setAlone(true);
+    open(rotor("Bearing 3"));
+    EXPECT_FALSE(window_.tiles().isAlone());
+    for (const OrbitTile* tile : window_.tiles().tiles())
+        EXPECT_TRUE(tile->isVisible());
+    bench().removePlane(*bench().planes()[2]);
+    bench().removePlane(*bench().planes()[1]);
+    window_.tiles().setAlone(true);  // one plane has the room already
+    EXPECT_FALSE(window_.tiles().isAlone());
+    EXPECT_FALSE(action("planeAlone").isEnabled());
+}
+
 TEST_F(MainWindowTest, KeysMoveTheTime) {
     OrbitView& view = open();
     view.setFocus();

@@ -44,6 +44,8 @@ protected:
 
 TEST_F(UndoRunsTest, WhatIsDoneInOneGoIsOneStep) {
     OrbitView& view = open();
+    bench().setSettings(view.plane(), with(view.plane(), L"tickCount", L"5"));
+    bench().undoStack().clear();
     const struct {
         const char* name;
         std::function<void(QSpinBox&)> act;

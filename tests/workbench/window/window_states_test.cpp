@@ -62,6 +62,21 @@ TEST_P(WindowStatesTest, TwoPlanes) {
     EXPECT_EQ(left.height(), right.height());
 }
 
+TEST_P(WindowStatesTest, FourPlanes) {
+    openPlanes(4);
+    keep("four-planes");
+    // The control keeps 60 pixels free on each side of its plot.
+    for (const OrbitTile* tile : window_.tiles().tiles())
+        EXPECT_GE(std::min(tile->view().width(), tile->view().height()), 300);
+}
+
+TEST_P(WindowStatesTest, OneOfFourPlanesAlone) {
+    openPlanes(4);
+    QTest::keyClick(&window_, Qt::Key_M, Qt::ControlModifier);
+    keep("plane-alone");
+    EXPECT_TRUE(window_.tiles().isAlone());
+}
+
 TEST_P(WindowStatesTest, Playing) {
     openPlanes(2);
     bench().setCursor(0.5);

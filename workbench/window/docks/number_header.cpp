@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace Rotavue::Workbench {
 
 namespace {
@@ -20,7 +22,7 @@ int firstOf(int section) {
 NumberHeader::NumberHeader(const NumberModel& model, QWidget* parent)
     : QHeaderView(Qt::Horizontal, parent), model_(model) {
     setObjectName("NumberHeader");
-    setSectionResizeMode(QHeaderView::ResizeToContents);
+    setSectionResizeMode(QHeaderView::Fixed);
     setMinimumSectionSize(0);
     setSectionsClickable(true);
     setHighlightSections(false);
@@ -30,6 +32,27 @@ QSize NumberHeader::sectionSizeFromContents(int section) const {
     const QString& probe = model_.sheet().columns[static_cast<std::size_t>(section)].probe;
     const QFontMetrics metrics(font());
     return {metrics.horizontalAdvance(probe) + 2 * Padding, 2 * metrics.height() + Padding};
+}
+
+// A cell of both columns is as wide as the two together: each brings half of it.
+int NumberHeader::neededWidth(int section) const {
+    const QFontMetrics metrics(font());
+    int widest = sectionSizeFromContents(section).width();
+    for (int row = 0; row < model_.rowCount(); ++row) {
+        const bool joined = model_.isWholeOrbit(row, firstOf(section));
+        const int column = joined ? firstOf(section) : section;
+        const QString text = model_.data(model_.index(row, column), Qt::DisplayRole).toString();
+        const int width = metrics.horizontalAdvance(text) + 2 * Padding;
+        widest = std::max(widest, joined ? (width + 1) / 2 : width);
+    }
+    return widest;
+}
+
+void NumberHeader::fit(bool anew) {
+    for (int section = 0; section < model_.columnCount(); ++section) {
+        const int kept = anew ? 0 : sectionSize(section);
+        resizeSection(section, std::max(kept, neededWidth(section)));
+    }
 }
 
 void NumberHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
@@ -49,22 +72,6 @@ void NumberHeader::paintSection(QPainter* painter, const QRect& rect, int sectio
     painter->setPen(palette().color(QPalette::Mid));
     painter->drawLine(both.topRight(), both.bottomRight() + QPoint(0, half));
     painter->drawLine(rect.bottomLeft(), rect.bottomRight());
-}
-
-NumberDelegate::NumberDelegate(const NumberModel& model, QObject* parent)
-    : QStyledItemDelegate(parent), model_(model) {}
-
-QSize NumberDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const int first = firstOf(index.column());
-    const QFontMetrics metrics(option.font);
-    const auto widthOf = [&](int column) {
-        const QModelIndex cell = model_.index(index.row(), column);
-        return metrics.horizontalAdvance(model_.data(cell, Qt::DisplayRole).toString());
-    };
-    const int room = 2 * Padding;
-    if (!model_.isWholeOrbit(index.row(), first))
-        return {widthOf(index.column()) + room, metrics.height()};
-    return {(widthOf(first) + room + 1) / 2, metrics.height()};
 }
 
 }  // namespace Rotavue::Workbench

@@ -1,34 +1,28 @@
 #pragma once
 
 #include <QHeaderView>
-#include <QStyledItemDelegate>
 
 namespace Rotavue::Workbench {
 
 class NumberModel;
 
-/// The headers of the number table: the plane's name once over its two columns, which are then no
-/// wider than their numbers.
+/// The headers of the number table: the plane's name once over its two columns, which are as wide
+/// as their numbers and probes take.
 class NumberHeader final : public QHeaderView {
 public:
     explicit NumberHeader(const NumberModel& model, QWidget* parent = nullptr);
+
+    /// Gives every column the room that its numbers need. Columns that have more keep it, unless
+    /// they are `anew` those of other planes: numbers that change ten times a second move nothing.
+    void fit(bool anew);
 
 protected:
     QSize sectionSizeFromContents(int section) const override;
     void paintSection(QPainter* painter, const QRect& rect, int section) const override;
 
 private:
-    const NumberModel& model_;
-};
+    int neededWidth(int section) const;
 
-/// A cell of both columns is as wide as the two together: each column brings half of it.
-class NumberDelegate final : public QStyledItemDelegate {
-public:
-    explicit NumberDelegate(const NumberModel& model, QObject* parent = nullptr);
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-
-private:
     const NumberModel& model_;
 };
 

@@ -56,7 +56,6 @@ QTableView* tableOf(NumberModel& model) {
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + RowRoom);
     view->setHorizontalHeader(new NumberHeader(model, view));
-    view->setItemDelegate(new NumberDelegate(model, view));
     view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     view->verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -119,8 +118,10 @@ void NumberTable::take(NumberSheet sheet) {
         notes_->setText(notes);
         notes_->setVisible(!notes.isEmpty());
     }
+    const bool anew = sheet.columns != model_.sheet().columns;
     model_.setSheet(std::move(sheet));
     joinCells();
+    static_cast<NumberHeader*>(view_->horizontalHeader())->fit(anew);
     setUsable(*copyAction_, model_.columnCount() > 0, tr("nothing is open"));
     computed();
 }

@@ -2,6 +2,7 @@
 
 #include "workbench/analysis/short_text.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Rotavue::Workbench {
@@ -16,13 +17,8 @@ constexpr struct {
 } UnitPlaces[] = {{"um", 2},  {"\u00B5m", 2}, {"\u03BCm", 2}, {"mm", 4},
                   {"mil", 3}, {"mils", 3},    {"in", 6},      {"nm", 0}};
 
-int placesOf(const std::string& unit) {
-    for (const auto& known : UnitPlaces)
-        if (unit == known.unit) return known.places;
-    return OtherPlaces;
-}
+}  // namespace
 
-/// What is too large to be one keeps its exponent, and nothing is minus zero.
 QString placed(double value, int places) {
     constexpr double Largest = 1e9;
     if (!(std::abs(value) < Largest)) return QString::fromStdString(shortText(value));
@@ -30,10 +26,21 @@ QString placed(double value, int places) {
     return text.toDouble() == 0.0 ? QString::number(0.0, 'f', places) : text;
 }
 
-}  // namespace
+int placesForSpan(double span) {
+    constexpr double Parts = 100.0;
+    constexpr double MostPlaces = 12.0;
+    if (!(span > 0.0)) return 0;
+    return static_cast<int>(std::clamp(std::ceil(std::log10(Parts / span)), 0.0, MostPlaces));
+}
+
+int displacementPlaces(const std::string& unit) {
+    for (const auto& known : UnitPlaces)
+        if (unit == known.unit) return known.places;
+    return OtherPlaces;
+}
 
 QString displacementText(double value, const std::string& unit) {
-    return placed(value, placesOf(unit));
+    return placed(value, displacementPlaces(unit));
 }
 
 QString lagText(double degrees) {

@@ -1,5 +1,7 @@
 #include "workbench/window/docks/plot_ticks.h"
 
+#include "workbench/window/docks/number_text.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -32,11 +34,30 @@ std::vector<PlotTick> plotTicks(const PlotRange& range, int most) {
     for (int i = 0; i <= most; ++i) {
         const double value = (first + i) * step.size;
         if (value > range.to + 1e-9 * step.size) break;
-        const double shown = value == 0.0 ? 0.0 : value;  // no minus before a zero
-        ticks.push_back(
-            {value, QString::number(shown, 'f', std::min(step.decimals, MostDecimals))});
+        ticks.push_back({value, placed(value, std::min(step.decimals, MostDecimals))});
     }
     return ticks;
+}
+
+// Two steps of half a range or less always have room in it.
+std::vector<PlotTick> valueTicks(const PlotRange& range, int most) {
+    constexpr int AlwaysTwo = 5;
+    std::vector<PlotTick> ticks = plotTicks(range, most);
+    for (int more = 2; ticks.size() < 2 && more <= AlwaysTwo; ++more)
+        ticks = plotTicks(range, more);
+    return ticks;
+}
+
+std::vector<PlotTick> apart(std::vector<PlotTick> ticks, double distance) {
+    if (ticks.size() < 3) return ticks;
+    const PlotTick last = ticks.back();
+    std::vector<PlotTick> kept{ticks.front()};
+    for (const PlotTick& tick : ticks) {
+        const bool clear = tick.value - kept.back().value >= distance;
+        if (clear && last.value - tick.value >= distance) kept.push_back(tick);
+    }
+    kept.push_back(last);
+    return kept;
 }
 
 }  // namespace Rotavue::Workbench

@@ -17,4 +17,11 @@ struct PlotTick {
 /// many digits behind the point as tell them apart.
 std::vector<PlotTick> plotTicks(const PlotRange& range, int most);
 
+/// Those of an axis of values: two at least, also where that is more than `most`, since one number
+/// alone tells no scale.
+std::vector<PlotTick> valueTicks(const PlotRange& range, int most);
+
+/// The first and the last of rising ticks, and what lies between them at that distance or more.
+std::vector<PlotTick> apart(std::vector<PlotTick> ticks, double distance);
+
 }  // namespace Rotavue::Workbench

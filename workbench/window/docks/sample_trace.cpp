@@ -49,6 +49,12 @@ std::optional<double> SampleTrace::valueAt(double time) const {
     return std::isnan(value) ? std::nullopt : std::optional(value);
 }
 
+std::optional<std::size_t> SampleTrace::lastKnown(double time) const {
+    for (std::size_t end = std::min(firstFrom(time) + 1, count()); end > 0; --end)
+        if (timeOf(end - 1) <= time && !std::isnan(samples_[end - 1])) return end - 1;
+    return {};
+}
+
 std::optional<PlotRange> SampleTrace::rangeOf(std::size_t first, std::size_t end) const {
     end = std::min(end, count());
     if (first >= end) return {};

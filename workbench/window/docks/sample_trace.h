@@ -36,9 +36,15 @@ public:
     /// The value at a time on the straight line between two samples; nothing in a gap and outside.
     std::optional<double> valueAt(double time) const;
 
+    /// The last sample at or before a time that is no gap; nothing where there is none.
+    std::optional<std::size_t> lastKnown(double time) const;
+
     /// Smallest and largest of the samples from `first` to before `end`; nothing where there are
     /// gaps alone.
     std::optional<PlotRange> rangeOf(std::size_t first, std::size_t end) const;
+
+    /// Of all samples.
+    std::optional<PlotRange> range() const { return rangeOf(0, count()); }
 
 private:
     std::shared_ptr<const void> owner_;

@@ -1,5 +1,7 @@
 #include "workbench/window/docks/time_lanes.h"
 
+#include "workbench/window/docks/number_text.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -11,12 +13,16 @@ constexpr double Gap = std::numeric_limits<double>::quiet_NaN();
 
 PlotLane probeLane(const std::shared_ptr<const PlaneSource>& source, LaneColor color) {
     const Recording& recording = source->recording;
+    const std::string& unit = recording.machine.unit;
     const bool isX = color == LaneColor::X;
-    return {.name = isX ? QStringLiteral("X") : QStringLiteral("Y"),
-            .unit = QString::fromStdString(recording.machine.unit),
-            .color = color,
-            .trace = std::make_shared<SampleTrace>(isX ? recording.x : recording.y,
-                                                   recording.sampleRate, source)};
+    PlotLane lane{.name = isX ? QStringLiteral("X") : QStringLiteral("Y"),
+                  .unit = QString::fromStdString(unit),
+                  .color = color,
+                  .trace = std::make_shared<SampleTrace>(isX ? recording.x : recording.y,
+                                                         recording.sampleRate, source)};
+    const double span = lane.trace->range().value_or(PlotRange{0.0, 0.0}).length();
+    lane.decimals = std::max(displacementPlaces(unit), placesForSpan(span));
+    return lane;
 }
 
 /// A few values for each pixel of a wide screen; a gap where no turn is seen.
@@ -34,7 +40,8 @@ PlotLane speedLane(const PlaneSource& source) {
             .color = LaneColor::Neutral,
             .trace = std::make_shared<SampleTrace>(*speeds, rate, speeds),
             .decimals = 0,
-            .fromZero = true};
+            .fromZero = true,
+            .tellsLast = true};
 }
 
 std::vector<double> passingsOf(const ShaftTrack& track) {

@@ -18,7 +18,7 @@ namespace {
 constexpr double ShortestTime = 1e-6;
 
 PlotRange valuesOf(const PlotLane& lane) {
-    auto range = lane.trace->rangeOf(0, lane.trace->count()).value_or(PlotRange{0.0, 0.0});
+    auto range = lane.trace->range().value_or(PlotRange{0.0, 0.0});
     if (lane.fromZero) range = {std::min(range.from, 0.0), std::max(range.to, 0.0)};
     return withRoom(range);
 }

@@ -4,6 +4,7 @@
 #include "workbench/window/docks/lane_painter.h"
 #include "workbench/window/docks/plot_colors.h"
 #include "workbench/window/docks/plot_range.h"
+#include "workbench/window/docks/plot_ticks.h"
 #include "workbench/window/docks/sample_trace.h"
 
 #include <QPixmap>
@@ -24,9 +25,13 @@ struct PlotLane {
     QString unit;
     LaneColor color = LaneColor::Neutral;
     std::shared_ptr<const SampleTrace> trace;
-    int decimals = 2;       ///< of the value at the cursor
-    bool fromZero = false;  ///< the value axis holds 0
+    int decimals = 2;        ///< of the value at the cursor
+    bool fromZero = false;   ///< the value axis holds 0
+    bool tellsLast = false;  ///< in a gap the value before it is told, with its time
 };
+
+/// What stands above a lane: its name, and the value at the cursor where there is one.
+QString titleOf(const PlotLane& lane, double cursor);
 
 /// Traces over time with the time cursor, moments that are marked with dots, and a stretch that the
 /// user marks.
@@ -102,6 +107,8 @@ private:
     void markFromCursor(bool begin);
     void repaintTraces();
     QRectF plotArea() const;
+    double laneHeight() const;
+    std::vector<PlotTick> ticksOf(const PlotRange& values) const;
 
     void paintTraces(QPainter& painter) const;
     void paintAxes(QPainter& painter, const LaneMapping& lane) const;

@@ -1,3 +1,4 @@
+#include "workbench/window/docks/number_text.h"
 #include "workbench/window/docks/plot_ticks.h"
 #include "workbench/window/docks/time_plot.h"
 
@@ -15,18 +16,46 @@ constexpr double Gap = 6.0;  ///< between texts and what they stand at
 
 }  // namespace
 
+QString titleOf(const PlotLane& lane, double cursor) {
+    constexpr int TimePlaces = 4;
+    const SampleTrace& trace = *lane.trace;
+    const QString unit = lane.unit.isEmpty() ? QString() : ' ' + lane.unit;
+    if (const auto value = trace.valueAt(cursor))
+        return lane.name + ' ' + placed(*value, lane.decimals) + unit;
+    const auto last = lane.tellsLast ? trace.lastKnown(cursor) : std::nullopt;
+    if (!last) return lane.name + unit;
+    return TimePlot::tr("%1 %2, last known at %3 s")
+        .arg(lane.name, placed(trace.at(*last), lane.decimals) + unit,
+             placed(trace.timeOf(*last), TimePlaces));
+}
+
+// Beside the lanes their widest number has room, but never at the cost of the most of them.
 QRectF TimePlot::plotArea() const {
     const QFontMetricsF text(font());
-    const double left = text.horizontalAdvance("-0000.0") + Gap;
+    double widest = text.horizontalAdvance("-0000.0");
+    for (const PlotRange& values : values_)
+        for (const PlotTick& tick : ticksOf(values))
+            widest = std::max(widest, text.horizontalAdvance(tick.text));
+    const double left = std::min(widest + 1.5 * Gap, rect().width() / 2.0);
     const double bottom = 2.0 * text.height() + Gap;
     return QRectF(rect()).adjusted(left, 0.0, -2.0 * Gap, -bottom);
 }
 
+double TimePlot::laneHeight() const {
+    const auto count = static_cast<double>(std::max<std::size_t>(lanes_.size(), 1));
+    const double text = QFontMetricsF(font()).height();
+    return std::max(1.0, (rect().height() - 2.0 * text - Gap) / count - text);
+}
+
+std::vector<PlotTick> TimePlot::ticksOf(const PlotRange& values) const {
+    const int most = static_cast<int>(laneHeight() / (2.0 * QFontMetricsF(font()).height()));
+    return valueTicks(values, std::clamp(most, 1, 10));
+}
+
 LaneMapping TimePlot::mapping(std::size_t lane) const {
     const QRectF area = plotArea();
-    const auto count = static_cast<double>(std::max<std::size_t>(lanes_.size(), 1));
     const double title = QFontMetricsF(font()).height();
-    const double height = std::max(1.0, area.height() / count - title);
+    const double height = laneHeight();
     const double top = area.top() + title + static_cast<double>(lane) * (height + title);
     return {QRectF(area.left(), top, std::max(1.0, area.width()), height), time_, values_[lane]};
 }
@@ -73,13 +102,17 @@ void TimePlot::paintTraces(QPainter& painter) const {
 
 void TimePlot::paintAxes(QPainter& painter, const LaneMapping& lane) const {
     const QFontMetricsF text(font());
-    const int most = static_cast<int>(lane.area.height() / (2.0 * text.height()));
-    for (const PlotTick& tick : plotTicks(lane.value, std::clamp(most, 1, 10))) {
+    const std::vector<PlotTick> ticks = ticksOf(lane.value);
+    painter.setPen(colors_.grid);
+    for (const PlotTick& tick : ticks) {
         const double y = lane.yOf(tick.value);
-        painter.setPen(colors_.grid);
         painter.drawLine(QPointF(lane.area.left(), y), QPointF(lane.area.right(), y));
-        painter.setPen(colors_.text);
-        const QRectF label(0.0, y - text.height() / 2.0, lane.area.left() - Gap, text.height());
+    }
+    painter.setPen(colors_.text);
+    const double distance = text.height() / lane.area.height() * lane.value.length();
+    for (const PlotTick& tick : apart(ticks, distance)) {
+        const double top = lane.yOf(tick.value) - text.height() / 2.0;
+        const QRectF label(0.0, top, lane.area.left() - Gap, text.height());
         painter.drawText(label, Qt::AlignRight | Qt::AlignVCenter, tick.text);
     }
     const int mostTimes =
@@ -131,14 +164,10 @@ void TimePlot::paintCursor(QPainter& painter) const {
             painter.setPen(QPen(colors_.cursor, 1.5));
             painter.drawLine(QPointF(x, lane.area.top()), QPointF(x, lane.area.bottom()));
         }
-        const auto value = lanes_[i].trace->valueAt(cursor_);
-        QString title = lanes_[i].name;
-        if (value) title += ' ' + QString::number(*value, 'f', lanes_[i].decimals);
-        if (!lanes_[i].unit.isEmpty()) title += ' ' + lanes_[i].unit;
         const QRectF box(lane.area.left(), lane.area.top() - text.height(), lane.area.width(),
                          text.height());
         painter.setPen(colorOf(lanes_[i].color));
-        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, title);
+        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, titleOf(lanes_[i], cursor_));
     }
 }
 

@@ -32,11 +32,11 @@ TEST_F(PropertyLinkTest, ChangeInThePanelIsOneStepOfUndo) {
     QTest::keyClick(&ticks(), Qt::Key_Up);
     ASSERT_EQ(bench_.undoStack().count(), before + 1);
     EXPECT_TRUE(bench_.undoStack().undoText().contains("Number of ticks"));
-    EXPECT_EQ(bench_.planes()[0]->settings().at(L"tickCount"), L"6");
+    EXPECT_EQ(bench_.planes()[0]->settings().at(L"tickCount"), L"4");
     bench_.undoStack().undo();
-    EXPECT_EQ(ticks().value(), 5);
+    EXPECT_EQ(ticks().value(), 3);
     bench_.undoStack().redo();
-    EXPECT_EQ(ticks().value(), 6);
+    EXPECT_EQ(ticks().value(), 4);
 }
 
 TEST_F(PropertyLinkTest, ShowsWhatIsSetElsewhere) {
@@ -50,10 +50,10 @@ TEST_F(PropertyLinkTest, EachPlaneHasItsOwnSettings) {
     Plane& second = add();
     QTest::keyClick(&ticks(), Qt::Key_Up);
     link.setCurrent(&second);
-    EXPECT_EQ(ticks().value(), 5);
+    EXPECT_EQ(ticks().value(), 3);
     QTest::keyClick(&ticks(), Qt::Key_Down);
-    EXPECT_EQ(second.settings().at(L"tickCount"), L"4");
-    EXPECT_EQ(bench_.planes()[0]->settings().at(L"tickCount"), L"6");
+    EXPECT_EQ(second.settings().at(L"tickCount"), L"2");
+    EXPECT_EQ(bench_.planes()[0]->settings().at(L"tickCount"), L"4");
     link.setCurrent(nullptr);
     EXPECT_EQ(panel.findChild<QSpinBox*>("TickCount"), nullptr);
 }
@@ -172,6 +172,31 @@ TEST_F(TimeLinkTest, SpeedIsAGapWhereNoTurnIsSeen) {
     EXPECT_NEAR(lanes.passings.front(), 0.015, 1e-6);  // of turn 1: (1 - 0.25) / 50 s
     EXPECT_EQ(lanes.passings.size(), 50U);             // to that of turn 50, at 0.995 s
     EXPECT_TRUE(timeLanes(preparePlane(withoutKeyphasor(rotor()))).speed.empty());
+}
+
+// The last passing of 0.995 s lies before the cursor at the end; the values stand 9999 in 4000
+// parts.
+TEST_F(TimeLinkTest, BehindTheLastPulseTheSpeedBeforeItIsTold) {
+    const TimeLanes lanes = timeLanes(preparePlane(rotor()));
+    const QString title = titleOf(lanes.speed[0], 0.9999);
+    EXPECT_TRUE(title.startsWith("Speed 3000 rpm, last known at 0.99")) << title.toStdString();
+    EXPECT_EQ(titleOf(lanes.speed[0], 0.5), "Speed 3000 rpm");
+    EXPECT_EQ(titleOf(lanes.speed[0], 0.0), "Speed rpm");  // before the first one
+}
+
+TEST_F(TimeLinkTest, ValuesHaveTheDigitsOfTheirUnitAndOfWhatTheySpan) {
+    const auto lane = [](const char* unit, double factor, double mean) {
+        Recording recording = rotor();
+        recording.machine.unit = unit;
+        for (double& x : recording.x)
+            x = mean + factor * x;
+        return timeLanes(preparePlane(std::move(recording))).probes[0];
+    };
+    // X is 40 cos(turns + 90 deg) at first: 0 there, and it spans 80 times the factor.
+    EXPECT_EQ(titleOf(lane("um", 1.0, 0.25), 0.0), "X 0.25 um");
+    EXPECT_EQ(titleOf(lane("mm", 1e-3, 0.02), 0.0), "X 0.0200 mm");
+    EXPECT_EQ(titleOf(lane("m", 1e-6, 0.0002), 0.0), "X 0.0002000 m");  // 80e-6 in hundredths: 1e-7
+    EXPECT_EQ(titleOf(lane("V", 0.01, -9.8), 0.0), "X -9.800 V");
 }
 
 TEST_F(TimeLinkTest, LongRecordingIsReadThroughOnAWorker) {

@@ -188,6 +188,34 @@ TEST_F(NumberTableTest, WarnsOfUnequalSpansAndOffersToMendThem) {
     EXPECT_FALSE(button->isVisible());
 }
 
+TEST_F(NumberTableTest, NoTextIsCutHoweverNarrowTheTableIs) {
+    table.resize(200, 160);  // the last rows are out of sight
+    compute({rotor("A"), rotor("B", false)});
+    const QFontMetrics metrics(view.font());
+    for (int row = 0; row < table.model().rowCount(); ++row) {
+        for (int column = 0; column < table.model().columnCount(); ++column) {
+            const QModelIndex cell = table.model().index(row, column);
+            const int span = view.columnSpan(row, column);
+            const int room =
+                view.columnWidth(column) + (span > 1 ? view.columnWidth(column + 1) : 0);
+            EXPECT_LT(metrics.horizontalAdvance(cell.data().toString()), room) << row;
+        }
+    }
+}
+
+TEST_F(NumberTableTest, ColumnsStandStillWhenTheirNumbersGetShorter) {
+    ShownTurns turns = rotor("A");
+    compute({turns});
+    const int width = view.columnWidth(0);
+    turns.isAnyShown = false;  // nothing but "-"
+    compute({turns});
+    EXPECT_EQ(view.columnWidth(0), width);
+    compute({});
+    turns.plane = "B";
+    compute({turns});
+    EXPECT_LT(view.columnWidth(0), width);
+}
+
 TEST_F(NumberTableTest, LooksItsPart) {
     compute({rotor("Bearing 1"), rotor("Bearing 2", false)});
     table.showScaleWarnings({"Bearing 1: x spans 200 and y 100: the orbit is out of shape"});

@@ -23,6 +23,16 @@ TEST(NumberText, WhatIsFinerThanItsPlacesIsZeroWithoutASign) {
     EXPECT_EQ(displacementText(-0.02786, "um"), "-0.03");
 }
 
+TEST(NumberText, DigitsTellAHundredthOfASpan) {
+    EXPECT_EQ(placesForSpan(160.0), 0);    // 1.6: whole numbers
+    EXPECT_EQ(placesForSpan(80.0), 1);     // 0.8
+    EXPECT_EQ(placesForSpan(0.8), 3);      // 0.008
+    EXPECT_EQ(placesForSpan(1e-5), 7);     // 1e-7
+    EXPECT_EQ(placesForSpan(1e-300), 12);  // as many as a number has
+    EXPECT_EQ(placesForSpan(0.0), 0);
+    EXPECT_EQ(placesForSpan(std::numeric_limits<double>::quiet_NaN()), 0);
+}
+
 TEST(NumberText, LagsGoFromNothingToJustBelowATurn) {
     EXPECT_EQ(lagText(8.96e-14), "0.0");
     EXPECT_EQ(lagText(359.96), "0.0");

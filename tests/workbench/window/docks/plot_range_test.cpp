@@ -55,6 +55,39 @@ TEST(PlotTicks, AreRoundAndHaveTheDigitsThatTellThemApart) {
     }
 }
 
+TEST(PlotTicks, ValuesHaveTwoAlsoWhereThereIsHardlyRoom) {
+    const struct {
+        PlotRange range;
+        int most;
+        std::vector<QString> texts;
+    } cases[] = {
+        {{-45.0, 45.0}, 1, {"-40", "-20", "0", "20", "40"}},  // 50 apart: 0 alone
+        {{-10.25, -9.35}, 1, {"-10.0", "-9.5"}},              // 1 apart: -10 alone; 0.9 / 2, so 0.5
+        {{0.0, 60.0}, 6, {"0", "10", "20", "30", "40", "50", "60"}},
+        {{0.1, 0.3}, 1, {"0.1", "0.2", "0.3"}},  // 0.2 apart: 0.2 alone; 0.2 / 2
+    };
+    for (const auto& c : cases) {
+        std::vector<QString> texts;
+        for (const PlotTick& tick : valueTicks(c.range, c.most))
+            texts.push_back(tick.text);
+        EXPECT_EQ(texts, c.texts);
+    }
+    EXPECT_TRUE(valueTicks({1.0, 1.0}, 3).empty());
+}
+
+TEST(PlotTicks, BothEndsStayAndWhatIsClearOfThem) {
+    const auto values = [](double distance) {
+        std::vector<double> kept;
+        for (const PlotTick& tick : apart(plotTicks({0.0, 50.0}, 5), distance))
+            kept.push_back(tick.value);
+        return kept;
+    };
+    EXPECT_EQ(values(10.0), (std::vector{0.0, 10.0, 20.0, 30.0, 40.0, 50.0}));
+    EXPECT_EQ(values(15.0), (std::vector{0.0, 20.0, 50.0}));  // 40 is 10 from the last one
+    EXPECT_EQ(values(60.0), (std::vector{0.0, 50.0}));
+    EXPECT_TRUE(apart({}, 1.0).empty());
+}
+
 TEST(PlotTicks, AreNoneWhereThereIsNoLength) {
     EXPECT_TRUE(plotTicks({1.0, 1.0}, 5).empty());
     EXPECT_TRUE(plotTicks({0.0, 1.0}, 0).empty());

@@ -58,6 +58,17 @@ TEST(SampleTrace, ValueBetweenSamplesIsOnTheLine) {
     EXPECT_FALSE(SampleTrace().valueAt(0.0));
 }
 
+TEST(SampleTrace, LastKnownSampleIsTheOneBeforeAGap) {
+    const std::vector<double> samples{NAN, 20.0, 30.0, NAN, NAN, 60.0};
+    const SampleTrace trace(samples, 10.0);
+    EXPECT_FALSE(trace.lastKnown(0.0));
+    EXPECT_EQ(trace.lastKnown(0.15), 1U);
+    EXPECT_EQ(trace.lastKnown(0.2), 2U);
+    EXPECT_EQ(trace.lastKnown(0.45), 2U);
+    EXPECT_EQ(trace.lastKnown(9.0), 5U);
+    EXPECT_FALSE(SampleTrace().lastKnown(1.0));
+}
+
 TEST(SampleTrace, KeepsTheOwnerOfItsSamples) {
     const auto samples = std::make_shared<std::vector<double>>(10, 3.0);
     const auto trace = std::make_unique<SampleTrace>(*samples, 1.0, samples);

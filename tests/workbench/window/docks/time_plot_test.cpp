@@ -250,6 +250,64 @@ TEST_F(TimePlotTest, GapsAndOneSampleAreNoTrouble) {
     EXPECT_GT(plot.valueRange(0).length(), 0.0);
 }
 
+/// The number of texts beside a lane: runs of rows that have ink between the edge and the lane.
+int labelsBeside(TimePlot& plot, std::size_t lane) {
+    const QImage image = plot.grab().toImage();
+    const QRgb ground = plotColors(plot.palette()).background.rgb();
+    const QRectF area = plot.mapping(lane).area;
+    const auto isInked = [&](int row) {
+        for (int column = 2; column < static_cast<int>(area.left()) - 2; ++column)
+            if (image.pixel(column, row) != ground) return true;
+        return false;
+    };
+    int labels = 0;
+    bool before = false;
+    for (int row = static_cast<int>(area.top()) - 4; row < area.bottom() + 8; ++row) {
+        const bool now = isInked(row);
+        labels += now && !before ? 1 : 0;
+        before = now;
+    }
+    return labels;
+}
+
+TEST_F(TimePlotTest, TwoNumbersAtLeastTellTheScaleOfEachLane) {
+    const struct {
+        double mean;
+        double factor;
+    } cases[] = {{0.0, 1.0}, {-9800.0, 10.0}, {-9.8, 0.01}, {0.0, 1e-6}, {1e7, 1e-3}};
+    for (const auto& c : cases) {
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            x[i] = c.mean + c.factor * 30.0 * std::cos(0.1 * static_cast<double>(i));
+            y[i] = c.mean + c.factor * 20.0 * std::sin(0.1 * static_cast<double>(i));
+        }
+        plot.resize(336, 190);  // what a lane has at 1280 x 800, and less
+        show();
+        EXPECT_GE(labelsBeside(plot, 0), 2) << c.mean << ' ' << c.factor;
+        EXPECT_GE(labelsBeside(plot, 1), 2) << c.mean << ' ' << c.factor;
+    }
+}
+
+TEST_F(TimePlotTest, TheWidestNumberHasRoomBesideTheLane) {
+    const double usual = plot.mapping(0).area.left();
+    for (double& value : x)
+        value = -1234.56789 + 1e-7 * value;
+    show();
+    const double wide = plot.mapping(0).area.left();
+    EXPECT_GT(wide, usual);
+    EXPECT_EQ(plot.mapping(1).area.left(), wide);  // one time axis
+    const QImage image = plot.grab().toImage();
+    const QRgb ground = plotColors(plot.palette()).background.rgb();
+    for (int row = 1; row < image.height() - 1; ++row)
+        EXPECT_EQ(image.pixel(2, row), ground) << row;  // no text is cut at the edge
+}
+
+TEST_F(TimePlotTest, NumbersWithoutEndLeaveRoomForTheLanes) {
+    for (double& value : x)
+        value *= 1e300;
+    show();
+    EXPECT_LE(plot.mapping(0).area.left(), plot.width() / 2.0);
+}
+
 TEST_F(TimePlotTest, LooksItsPart) {
     plot.setFocus();
     plot.setCursor(4.2);
