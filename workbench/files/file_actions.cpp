@@ -37,6 +37,22 @@ QStringList localFiles(const QMimeData& dropped) {
     return files;
 }
 
+QString planeNames(const Bench& bench) {
+    QStringList names;
+    for (const auto& plane : bench.planes())
+        names += QString::fromStdString(plane->name());
+    names.removeDuplicates();
+    return names.join(QStringLiteral(", "));
+}
+
+// As any file system takes it, without an ending.
+QString fileName(QString name) {
+    constexpr qsizetype Longest = 80;
+    for (QChar& character : name)
+        if (QStringLiteral("/\\:*?\"<>|").contains(character)) character = u'-';
+    return name.left(Longest);
+}
+
 }  // namespace
 
 FileActions::FileActions(Bench& bench, QMainWindow& window, QMenu& menu, QSettings& settings)
@@ -54,6 +70,7 @@ FileActions::FileActions(Bench& bench, QMainWindow& window, QMenu& menu, QSettin
     window.setAcceptDrops(true);
     window.installEventFilter(this);
     connect(&opener_, &RecordingOpener::failed, this, &FileActions::tell);
+    connect(&opener_, &RecordingOpener::misread, this, &FileActions::offerQuestion);
     connect(&bench, &Bench::troubled, this, &FileActions::tell);
     connect(&bench.undoStack(), &QUndoStack::indexChanged, this, [this] { ++changes_; });
     connect(&bench, &Bench::planesChanged, this, &FileActions::enableActions);
@@ -144,14 +161,15 @@ void FileActions::leaveViewFile() {
 // The file that it was once saved in, if any, stays as it is: which of both counts is for the user
 // to say.
 void FileActions::nameRecovered() {
-    constexpr qsizetype Longest = 80;
     leaveViewFile();
-    QStringList planes;
-    for (const auto& plane : bench_.planes())
-        planes += QString::fromStdString(plane->name());
-    name_ = tr("Recovered %1").arg(planes.join(QStringLiteral(", "))).left(Longest);
-    name_.replace(u'/', u'-');
+    name_ = fileName(tr("Recovered %1").arg(planeNames(bench_)));
     Q_EMIT viewNamed(name_);
+}
+
+// Not the way out of a wrong answer alone: what a machine file says wrongly is told anew as well.
+void FileActions::offerQuestion(const LoadRequest& request, const QString& line) {
+    messages_->tell(line,
+                    {tr("&Tell What It Holds..."), [this, request] { opener_.mend(request); }});
 }
 
 void FileActions::askForFiles() {
@@ -309,12 +327,15 @@ bool FileActions::saveOrAsk() {
     return bench_.undoStack().isClean();
 }
 
+QString FileActions::proposedFile() const {
+    if (!viewFile_.isEmpty()) return viewFile_;
+    const QString name = name_.isEmpty() ? fileName(planeNames(bench_)) : name_;
+    return QDir(recent_.folder()).filePath(name + ViewSuffix);
+}
+
 void FileActions::saveAs() {
-    const QString fresh =
-        name_.isEmpty() ? recent_.folder() : QDir(recent_.folder()).filePath(name_ + ViewSuffix);
-    const QString start = viewFile_.isEmpty() ? fresh : viewFile_;
-    QString file =
-        QFileDialog::getSaveFileName(&window_, tr("Save view as"), start, tr("Views (*.rotavue)"));
+    QString file = QFileDialog::getSaveFileName(&window_, tr("Save view as"), proposedFile(),
+                                                tr("Views (*.rotavue)"));
     if (file.isEmpty()) return;
     // A name that the dialog hasn't seen may be that of another file.
     const bool named = file.endsWith(ViewSuffix);

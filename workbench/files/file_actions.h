@@ -58,6 +58,10 @@ public:
     /// The view's file; empty for a view that has none yet.
     const QString& viewFile() const { return viewFile_; }
 
+    /// Where *Save as* begins: the view's file, or one named after its planes beside what was last
+    /// opened.
+    QString proposedFile() const;
+
     /// Saves the view. False, having told why, if that fails.
     bool saveTo(const QString& file);
 
@@ -101,6 +105,7 @@ private:
     void showPendingView();
     void askForPendingView();
     void addRecording(const LoadRequest& request, const std::shared_ptr<const PlaneSource>& source);
+    void offerQuestion(const LoadRequest& request, const QString& line);
     void tell(const QString& line) { messages_->tell(line); }
 
     // A view is shown only once all of its recordings are there.

@@ -108,7 +108,8 @@ QWidget* ImportDialog::makeEnd(ImportPurpose purpose) {
     const bool further = purpose == ImportPurpose::FurtherPlane;
     beside_->setChecked(!further);
     beside_->setHidden(further);
-    silent_->setHidden(further);
+    // Without names any other file of as many columns would have this shape.
+    silent_->setHidden(further || !preview_.hasNames);
     fault_ = new QLabel(box);
     fault_->setObjectName(QStringLiteral("importFault"));
     fault_->setTextFormat(Qt::PlainText);

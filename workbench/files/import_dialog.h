@@ -20,6 +20,7 @@ struct RoleName;
 /// What a person is asked for.
 enum class ImportPurpose {
     Open,         ///< a recording that doesn't explain itself
+    Mend,         ///< a recording that cannot be read as it was told
     Correct,      ///< a recording that is shown, and may have been misunderstood
     FurtherPlane  ///< other columns of such a recording; its machine file stays
 };

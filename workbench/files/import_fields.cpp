@@ -71,10 +71,14 @@ void ImportFields::fillLeft(QFormLayout& form, const ImportPreview& preview) {
     addField(form, tr("&Unit"), "/unit", hintOf(preview.unit, tr("such as um")));
     addField(form, tr("&X probe at"), "/x/angle", tr("90, or 45 R"));
     addField(form, tr("&Y probe at"), "/y/angle", tr("0, or 45 L"));
-    addScaled(form, tr("X: %1 for one %2"), "/x/sensitivity", tr("1"), &ColumnUnits::x);
-    addScaled(form, tr("Y: %1 for one %2"), "/y/sensitivity", tr("1"), &ColumnUnits::y);
-    addScaled(form, tr("X at rest, %1"), "/x/rest", tr("0"), &ColumnUnits::x);
-    addScaled(form, tr("Y at rest, %1"), "/y/rest", tr("0"), &ColumnUnits::y);
+    addScaled(form, tr("X: %1 for one %2"), "/x/sensitivity",
+              tr("X: number in the file for one %2"), tr("1"), &ColumnUnits::x);
+    addScaled(form, tr("Y: %1 for one %2"), "/y/sensitivity",
+              tr("Y: number in the file for one %2"), tr("1"), &ColumnUnits::y);
+    addScaled(form, tr("X at rest, %1"), "/x/rest", tr("X at rest, as in the file"), tr("0"),
+              &ColumnUnits::x);
+    addScaled(form, tr("Y at rest, %1"), "/y/rest", tr("Y at rest, as in the file"), tr("0"),
+              &ColumnUnits::y);
     addWords(form, tr("Coupl&ing"), "/coupling", {"DC", "AC"});
     addWords(form, tr("&Rotation"), "/rotation", {tr("not known"), "CW", "CCW"});
 }
@@ -85,16 +89,17 @@ void ImportFields::fillRight(QFormLayout& form, const ImportPreview& preview) {
     addWords(form, tr("&Keyphasor holds"), "/keyphasor/kind",
              {tr("what its values look like"), "none", "volts", "ramp", "speed"});
     addWords(form, tr("Pulse &edge"), "/keyphasor/edge", {"rising", "falling"});
-    addScaled(form, tr("Pulse &level, %1"), "/keyphasor/level", tr("halfway"),
-              &ColumnUnits::keyphasor);
+    addScaled(form, tr("Pulse &level, %1"), "/keyphasor/level", tr("Pulse &level, as in the file"),
+              tr("halfway"), &ColumnUnits::keyphasor);
     addScaled(form, tr("Pulse &hysteresis, %1"), "/keyphasor/hysteresis",
-              tr("a quarter of the swing"), &ColumnUnits::keyphasor);
+              tr("Pulse &hysteresis, as in the file"), tr("a quarter of the swing"),
+              &ColumnUnits::keyphasor);
     addField(form, tr("&Pulses per turn"), "/keyphasor/pulsesPerTurn", tr("1"));
     addField(form, tr("Keyphasor at"), "/keyphasor/angle", tr("0"));
     QWidget* clearance = makeClearance();
     form.addRow(tr("&Clearance, %2"), clearance);
     auto* label = qobject_cast<QLabel*>(form.labelForField(clearance));
-    labels_.push_back({label, label->text(), &ColumnUnits::x});
+    labels_.push_back({label, label->text(), label->text(), &ColumnUnits::x});
 }
 
 QLineEdit* ImportFields::addField(QFormLayout& form, const QString& name, std::string_view pointer,
@@ -109,9 +114,10 @@ QLineEdit* ImportFields::addField(QFormLayout& form, const QString& name, std::s
 }
 
 void ImportFields::addScaled(QFormLayout& form, const QString& name, std::string_view pointer,
-                             const QString& hint, std::string ColumnUnits::*column) {
+                             const QString& bare, const QString& hint,
+                             std::string ColumnUnits::*column) {
     QLineEdit* field = addField(form, name, pointer, hint);
-    labels_.push_back({qobject_cast<QLabel*>(form.labelForField(field)), name, column});
+    labels_.push_back({qobject_cast<QLabel*>(form.labelForField(field)), name, bare, column});
 }
 
 // A word that no machine file takes says that nothing is told.
@@ -168,8 +174,9 @@ void ImportFields::showUnits() {
     const std::string told = typed(*fields_["/unit"]);
     const QString unit = hintOf(told.empty() ? unit_ : told, tr("unit"));
     for (const Label& label : labels_) {
-        const QString column = hintOf(units_.*label.column, tr("the file's unit"));
-        label.label->setText(QString(label.text).replace("%1", column).replace("%2", unit));
+        const QString column = text(units_.*label.column);
+        QString words = column.isEmpty() ? label.bare : label.text;
+        label.label->setText(words.replace("%1", column).replace("%2", unit));
     }
 }
 

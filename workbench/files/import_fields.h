@@ -54,6 +54,7 @@ private:
     struct Label {
         QLabel* label;
         QString text;  ///< %1: the column's unit, %2: that of the displacements
+        QString bare;  ///< the same where the column has no unit
         std::string ColumnUnits::*column;
     };
 
@@ -62,7 +63,7 @@ private:
     QLineEdit* addField(QFormLayout& form, const QString& name, std::string_view pointer,
                         const QString& hint);
     void addScaled(QFormLayout& form, const QString& name, std::string_view pointer,
-                   const QString& hint, std::string ColumnUnits::*column);
+                   const QString& bare, const QString& hint, std::string ColumnUnits::*column);
     void addWords(QFormLayout& form, const QString& name, std::string_view pointer,
                   const QStringList& words);
     QWidget* makeClearance();

@@ -14,6 +14,9 @@ namespace {
 
 using Rows = std::vector<std::vector<std::string>>;
 
+constexpr std::size_t MostLinesOfRows = 256;  // the first rows and blank lines between them
+constexpr std::size_t ProbesOfAPlane = 2;
+
 bool hasRole(const ImportPreview& preview, ColumnRole role) {
     return std::any_of(preview.columns.begin(), preview.columns.end(),
                        [&](const RecordingColumn& column) { return column.role == role; });
@@ -36,6 +39,7 @@ ImportPreview previewOf(const std::filesystem::path& file, const SourceHead& hea
     preview.unit = head.unit;
     preview.machine = head.machine;
     preview.point = head.point;
+    preview.hasNames = head.namesGiven;
     const bool namesTell = head.namesGiven && furtherProbes(preview.columns).empty();
     const bool optionsTell = options.x.column && options.y.column;
     preview.isSure = (namesTell || optionsTell) && hasRole(preview, ColumnRole::X) &&
@@ -47,7 +51,8 @@ ImportPreview previewOf(const std::filesystem::path& file, const SourceHead& hea
 Rows rowsOf(const std::filesystem::path& file, const TableLayout& layout) {
     Rows rows;
     LineReader reader(file);
-    while (rows.size() < ImportRowCount && reader.next()) {
+    const std::size_t end = layout.firstDataLine + MostLinesOfRows;
+    while (rows.size() < ImportRowCount && reader.number() + 1 < end && reader.next()) {
         if (reader.number() < layout.firstDataLine || trimmed(reader.line()).empty()) continue;
         const auto fields = fieldsOf(reader.line(), layout.delimiter);
         rows.emplace_back(fields.begin(), fields.end());
@@ -67,6 +72,15 @@ Rows rowsOf(WavFile& wav) {
 }
 
 }  // namespace
+
+void refuseSingleProbe(const ImportPreview& preview) {
+    const auto times = std::count_if(
+        preview.columns.begin(), preview.columns.end(),
+        [](const RecordingColumn& column) { return column.role == ColumnRole::Time; });
+    if (preview.columns.size() - static_cast<std::size_t>(times) >= ProbesOfAPlane) return;
+    throw RecordingError({preview.file}, "one column of values",
+                         "the two probes of a plane, side by side in one file");
+}
 
 ImportPreview previewImport(const std::filesystem::path& file, const RecordingOptions& options) {
     if (isWavFile(file) || file.extension() == ".wav") {

@@ -18,6 +18,7 @@ struct ImportPreview {
     std::string unit;                            ///< of the displacements, if it tells one
     std::string machine;                         ///< its name, if the header tells it
     std::string point;                           ///< that of the measuring point likewise
+    bool hasNames = false;                       ///< of columns, as the file gives them
     bool isSure = false;  ///< names tell of one plane alone what each column is, and the rate
     std::string shape;    ///< the same for files of one origin: kind, columns and units
 };
@@ -27,7 +28,15 @@ inline constexpr std::size_t ImportRowCount = 12;
 
 /// Reads the beginning of a recording; `options` are what is known already. Throws RecordingError
 /// for what is no recording. Roles that cannot be guessed are left open, the others are told.
+///
+/// What is read is bounded by lines, not by the file: some kB of a usual one. Only a file whose
+/// first thousand lines are as long as lines may be (line_reader.h) has more than a millisecond's
+/// worth of them; a disk that does not answer holds the file dialog up as well.
 ImportPreview previewImport(const std::filesystem::path& file,
                             const RecordingOptions& options = {});
+
+/// Throws RecordingError where the file has fewer than two columns that may be probes: no answer
+/// could make a plane of it.
+void refuseSingleProbe(const ImportPreview& preview);
 
 }  // namespace Rotavue::Workbench

@@ -2,21 +2,19 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
+#include <QVBoxLayout>
 
-#include <algorithm>
+#include <utility>
 
 namespace Rotavue::Workbench {
 
 MessageBar::MessageBar(QWidget* parent)
-    : QFrame(parent), text_(new QLabel(this)), close_(new QToolButton(this)) {
+    : QFrame(parent), rows_(new QVBoxLayout), close_(new QToolButton(this)) {
     setObjectName(QStringLiteral("messageBar"));
     setFrameShape(QFrame::StyledPanel);
-    text_->setObjectName(QStringLiteral("messageText"));
-    text_->setTextFormat(Qt::PlainText);
-    text_->setWordWrap(true);
-    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     close_->setObjectName(QStringLiteral("messageClose"));
     close_->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     close_->setToolTip(tr("Close these messages"));
@@ -27,27 +25,69 @@ MessageBar::MessageBar(QWidget* parent)
     auto* sign = new QLabel(this);
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
+    rows_->setSpacing(2);
     row->addWidget(sign);
-    row->addWidget(text_, 1);
+    row->addLayout(rows_, 1);
     row->addWidget(close_);
     hide();
 }
 
-void MessageBar::tell(const QString& line) {
-    QStringList lines = lines_;
-    lines.removeAll(line);
-    lines.append(line);
-    show(lines.mid(std::max<qsizetype>(0, lines.size() - MostLines)));
+QStringList MessageBar::lines() const {
+    QStringList lines;
+    for (const Message& message : messages_)
+        lines += message.line;
+    return lines;
+}
+
+void MessageBar::tell(const QString& line, MessageRemedy remedy) {
+    drop(line);
+    messages_.push_back({line, std::move(remedy)});
+    if (messages_.size() > MostLines) messages_.erase(messages_.begin());
+    show();
 }
 
 void MessageBar::clear() {
-    show({});
+    messages_.clear();
+    show();
 }
 
-void MessageBar::show(const QStringList& lines) {
-    lines_ = lines;
-    text_->setText(lines.join(u'\n'));
-    setVisible(!lines.isEmpty());
+void MessageBar::drop(const QString& line) {
+    std::erase_if(messages_, [&](const Message& message) { return message.line == line; });
+}
+
+// A button may be what asks for this: rows go once it has been served.
+void MessageBar::show() {
+    while (QLayoutItem* item = rows_->takeAt(0)) {
+        item->widget()->setParent(nullptr);
+        item->widget()->deleteLater();
+        delete item;
+    }
+    for (const Message& message : messages_)
+        rows_->addWidget(makeRow(message));
+    setVisible(!messages_.empty());
+}
+
+QWidget* MessageBar::makeRow(const Message& message) {
+    auto* row = new QWidget(this);
+    auto* line = new QHBoxLayout(row);
+    line->setContentsMargins(0, 0, 0, 0);
+    auto* text = new QLabel(message.line, row);
+    text->setObjectName(QStringLiteral("messageText"));
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    line->addWidget(text, 1);
+    if (!message.remedy.run) return row;
+    auto* button = new QPushButton(message.remedy.name, row);
+    button->setObjectName(QStringLiteral("messageRemedy"));
+    button->setAutoDefault(false);
+    line->addWidget(button, 0, Qt::AlignTop);
+    connect(button, &QPushButton::clicked, this, [this, message] {
+        drop(message.line);
+        show();
+        message.remedy.run();
+    });
+    return row;
 }
 
 }  // namespace Rotavue::Workbench

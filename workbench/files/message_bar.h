@@ -3,10 +3,20 @@
 #include <QFrame>
 #include <QStringList>
 
-class QLabel;
+#include <cstddef>
+#include <functional>
+#include <vector>
+
 class QToolButton;
+class QVBoxLayout;
 
 namespace Rotavue::Workbench {
+
+/// What can be done about what a line tells: a button behind it, which takes the line with it.
+struct MessageRemedy {
+    QString name = {};
+    std::function<void()> run = {};
+};
 
 /// Tells what went wrong, line by line, above what is shown, and stands in nobody's way: it takes
 /// no focus, and is gone with a click or when it is cleared. Hidden while there is nothing to tell.
@@ -15,22 +25,28 @@ class MessageBar : public QFrame {
 
 public:
     /// Lines that are told at once; of more, the newest.
-    static constexpr int MostLines = 5;
+    static constexpr std::size_t MostLines = 5;
 
     explicit MessageBar(QWidget* parent = nullptr);
 
     /// Adds a line, or moves one that is there to the end.
-    void tell(const QString& line);
+    void tell(const QString& line, MessageRemedy remedy = {});
 
     void clear();
 
-    const QStringList& lines() const { return lines_; }
+    QStringList lines() const;
 
 private:
-    void show(const QStringList& lines);
+    struct Message {
+        QString line;
+        MessageRemedy remedy;
+    };
+    void drop(const QString& line);
+    void show();
+    QWidget* makeRow(const Message& message);
 
-    QStringList lines_;
-    QLabel* text_;
+    std::vector<Message> messages_;
+    QVBoxLayout* rows_;
     QToolButton* close_;
 };
 

@@ -40,6 +40,8 @@ std::shared_ptr<const PlaneSource> loadPlane(const LoadRequest& request,
                                              const ReadingWatch& watch) {
     Recording recording =
         readRecording(request.file, request.options, stretchOf(watch, 0.0, PartOfReading));
+    if (request.isRemembered)
+        recording.notes.emplace_back("read as remembered for this shape of file (Ctrl+I)");
     auto source = preparePlane(std::move(recording), request.options);
     if (request.runOut)
         source =

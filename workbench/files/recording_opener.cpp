@@ -1,7 +1,11 @@
 #include "workbench/files/recording_opener.h"
 
+#include <algorithm>
+#include <span>
+
 #include "workbench/analysis/replace_file.h"
 #include "workbench/recording/column_roles.h"
+#include "workbench/recording/far_mean.h"
 #include "workbench/recording/machine_file.h"
 #include "workbench/recording/recording_error.h"
 
@@ -15,12 +19,33 @@ RecordingOptions ofItsShape(RecordingOptions options) {
     return options;
 }
 
+const std::string& unitOf(const Recording& recording, ColumnRole role) {
+    const auto column =
+        std::find_if(recording.columns.begin(), recording.columns.end(),
+                     [role](const RecordingColumn& one) { return one.role == role; });
+    static const std::string none;
+    return column != recording.columns.end() ? column->unit : none;
+}
+
+// Where the volts of a gap have been, the shaft may well have rested; a person sees it and decides.
+void fillRestOf(ProbeOptions& probe, const std::vector<double>& values, const std::string& unit) {
+    constexpr std::size_t Enough = 1'000'000;  // a millisecond's worth
+    if (probe.rest || (unit != "V" && unit != "mV")) return;
+    const auto far = farMean(std::span(values).first(std::min(values.size(), Enough)));
+    if (far) probe.rest = inThreeDigits(far->mean * probe.sensitivity.value_or(1.0));
+}
+
+void fillRest(RecordingOptions& known, const Recording& recording) {
+    if (recording.coupling == Coupling::Ac) return;
+    fillRestOf(known.x, recording.x, unitOf(recording, ColumnRole::X));
+    fillRestOf(known.y, recording.y, unitOf(recording, ColumnRole::Y));
+}
+
 }  // namespace
 
 RecordingOpener::RecordingOpener(QSettings& settings, QWidget* window)
     : QObject(window), memory_(settings), window_(window) {
-    connect(&loader_, &RecordingLoader::failed, this,
-            [this](const LoadRequest&, const QString& line) { Q_EMIT failed(line); });
+    connect(&loader_, &RecordingLoader::failed, this, &RecordingOpener::takeUnread);
     connect(&loader_, &RecordingLoader::loaded, this, [this](const LoadRequest& request) {
         if (request.isToBeKept) keepBeside(request.file, request.options);
     });
@@ -38,6 +63,10 @@ void RecordingOpener::correct(std::shared_ptr<const PlaneSource> source) {
 void RecordingOpener::openFurtherPlane(const PlaneSource& source) {
     enqueue(
         {{.file = source.recording.file, .options = source.options}, ImportPurpose::FurtherPlane});
+}
+
+void RecordingOpener::mend(const LoadRequest& request) {
+    enqueue({request, ImportPurpose::Mend});
 }
 
 void RecordingOpener::enqueue(Waiting waiting) {
@@ -63,12 +92,14 @@ void RecordingOpener::take(const Waiting& waiting) {
     if (waiting.purpose == ImportPurpose::Open) {
         const ImportPreview preview = previewImport(request.file, request.options);
         if (takeKnown(request, preview)) return;
+        refuseSingleProbe(preview);
         const auto remembered = memory_.find(preview.shape);
         const RecordingOptions known =
             remembered ? overlaid(remembered->options, request.options) : request.options;
         return ask(waiting, previewImport(request.file, known), known);
     }
-    RecordingOptions known = withMachineFile(request.file, request.options);
+    RecordingOptions known = withSoundItems(request.file, request.options);
+    if (waiting.purpose == ImportPurpose::Correct) fillRest(known, request.instead->recording);
     ImportPreview preview = previewImport(request.file, known);
     if (waiting.purpose == ImportPurpose::FurtherPlane) {
         preview.columns = nextPlane(std::move(preview.columns));
@@ -86,9 +117,24 @@ bool RecordingOpener::takeKnown(const LoadRequest& request, const ImportPreview&
         return true;
     }
     const auto remembered = memory_.find(preview.shape);
-    if (!remembered || remembered->askAgain) return false;
-    loader_.load({request.file, overlaid(remembered->options, request.options)});
+    const bool isTold = remembered && !remembered->askAgain && preview.hasNames;
+    if (!isTold) return false;
+    LoadRequest known = request;
+    known.options = overlaid(remembered->options, request.options);
+    known.isRemembered = true;
+    loader_.load(std::move(known));
     return true;
+}
+
+// A recording of a view comes with the view, or not at all. No answer helps what is no table.
+void RecordingOpener::takeUnread(const LoadRequest& request, const QString& line) {
+    try {
+        if (request.isOfView) return Q_EMIT failed(line);
+        refuseSingleProbe(previewImport(request.file));
+    } catch (const RecordingError&) {
+        return Q_EMIT failed(line);
+    }
+    Q_EMIT misread(request, line);
 }
 
 void RecordingOpener::ask(const Waiting& waiting, const ImportPreview& preview,
@@ -114,6 +160,7 @@ void RecordingOpener::takeAnswer(const Waiting& waiting, const std::string& shap
     if (waiting.purpose != ImportPurpose::FurtherPlane)
         memory_.remember(shape, {ofItsShape(told), !dialog.isUsedWithoutAsking()});
     LoadRequest request = waiting.request;
+    request.isRemembered = false;
     request.options = told;
     request.options.machineFile = "";  // what was left open there is open
     request.isToBeKept = dialog.isKeptBeside();

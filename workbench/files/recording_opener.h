@@ -18,7 +18,8 @@ namespace Rotavue::Workbench {
 
 /// Opens recordings: finds out what they hold, asks where that isn't sure, and loads them in the
 /// order in which they were named. It doesn't ask where a machine file lies beside the recording,
-/// where names tell all, or where it has been told for this shape to go on without.
+/// where names tell all, or where it has been told for this shape to go on without and the shape
+/// has names of columns: a note of the recording says so then.
 class RecordingOpener : public QObject {
     Q_OBJECT
 
@@ -36,6 +37,10 @@ public:
     /// Asks which columns of an open recording are another plane, and opens that as well.
     void openFurtherPlane(const PlaneSource& source);
 
+    /// Asks what a recording holds that could not be read as it was told: what is wrong in its
+    /// machine file is left out of the question.
+    void mend(const LoadRequest& request);
+
     /// What was told of shapes of recordings, to be used again.
     bool hasAnswers() const { return !memory_.isEmpty(); }
     void forgetAnswers() { memory_.clear(); }
@@ -45,6 +50,9 @@ public:
 Q_SIGNALS:
     /// The recording cannot be opened, or what was told of it cannot be kept: one line.
     void failed(const QString& line);
+
+    /// The same of a recording that an answer may help, to be asked for with `mend`.
+    void misread(const LoadRequest& request, const QString& line);
 
     /// Nobody answered what the recording holds.
     void declined(const std::filesystem::path& file);
@@ -58,6 +66,7 @@ private:
     void enqueue(Waiting waiting);
     void takeNext();
     void take(const Waiting& waiting);
+    void takeUnread(const LoadRequest& request, const QString& line);
     /// False where a person has to be asked.
     bool takeKnown(const LoadRequest& request, const ImportPreview& preview);
     void ask(const Waiting& waiting, const ImportPreview& preview, const RecordingOptions& known);

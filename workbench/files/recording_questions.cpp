@@ -6,6 +6,8 @@
 #include <exception>
 #include <utility>
 
+#include "workbench/files/usable.h"
+
 namespace Rotavue::Workbench {
 namespace {
 
@@ -53,9 +55,9 @@ QAction* RecordingQuestions::addAction(QMenu& menu, QAction* before, const QStri
 
 void RecordingQuestions::enable() {
     const bool any = !bench_.planes().empty();
-    correct_->setEnabled(any);
-    further_->setEnabled(any);
-    forget_->setEnabled(opener_.hasAnswers());
+    setUsable(*correct_, any, tr("nothing is open"));
+    setUsable(*further_, any, tr("nothing is open"));
+    setUsable(*forget_, opener_.hasAnswers(), tr("nothing is remembered"));
 }
 
 void RecordingQuestions::correct() {

@@ -17,14 +17,14 @@ using Words = std::span<const std::string_view>;
 constexpr auto TimeWords =
     std::to_array<std::string_view>({"t", "time", "zeit", "timestamp", "seconds", "sec"});
 constexpr auto XWords = std::to_array<std::string_view>({"x", "horizontal", "horiz"});
-constexpr auto YWords = std::to_array<std::string_view>({"y", "vertical", "vert"});
+constexpr auto YWords = std::to_array<std::string_view>({"y", "vertical", "vertikal", "vert"});
 constexpr auto RampWords =
     std::to_array<std::string_view>({"phi", "angle", "winkel", "phase", "theta"});
 constexpr auto PulseWords = std::to_array<std::string_view>(
     {"keyphasor", "keyphase", "kph", "kp", "tacho", "tach", "sync", "pulse", "pulses", "trigger"});
 constexpr auto SpeedWords = std::to_array<std::string_view>({"rpm", "speed", "drehzahl"});
-constexpr auto AxisStems =
-    std::to_array<std::string_view>({"probe", "disp", "displacement", "sensor", "channel", "ch"});
+constexpr auto AxisStems = std::to_array<std::string_view>(
+    {"probe", "disp", "displacement", "sensor", "channel", "ch", "brg", "bearing", "lager"});
 
 constexpr std::size_t LeastTimeRows = 3;
 constexpr double LargestTimeError = 1.5;          // in steps
@@ -34,8 +34,10 @@ bool isOneOf(std::string_view word, Words words) {
     return std::find(words.begin(), words.end(), word) != words.end();
 }
 
-// "probex" and "xprobe" as well as "x".
-bool namesAxis(const std::string& word, std::string_view axis) {
+// "probex" and "xprobe" as well as "x", and with the bearing's number "brg1x". A number alone is no
+// stem: "1X" is an order.
+bool namesAxis(std::string word, std::string_view axis) {
+    std::erase_if(word, [](char c) { return c >= '0' && c <= '9'; });
     return std::any_of(std::begin(AxisStems), std::end(AxisStems), [&](std::string_view stem) {
         return word == std::string(stem) + std::string(axis) ||
                word == std::string(axis) + std::string(stem);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <utility>
 #include <variant>
@@ -89,10 +90,13 @@ std::string shownValue(const Json& value) {
     return value.is_object() ? "an object" : value.dump();
 }
 
+enum class WrongMembers { Refused, LeftOut };
+
 class MachineReader {
 public:
-    MachineReader(const std::filesystem::path& file, std::string text)
-        : file_(file), text_(std::move(text)) {}
+    MachineReader(const std::filesystem::path& file, std::string text,
+                  WrongMembers wrong = WrongMembers::Refused)
+        : file_(file), text_(std::move(text)), wrong_(wrong) {}
 
     RecordingOptions read() {
         takeObject(parseJson(file_, text_, Bounds), Pointer());
@@ -109,13 +113,19 @@ private:
 
     std::filesystem::path file_;
     std::string text_;
+    WrongMembers wrong_;
     RecordingOptions options_;
 };
 
 void MachineReader::takeObject(const Json& object, const Pointer& pointer) {
     if (!object.is_object()) refuse(object, pointer.to_string(), "an object");
-    for (const auto& [name, value] : object.items())
-        takeMember(value, pointer / name);
+    for (const auto& [name, value] : object.items()) {
+        try {
+            takeMember(value, pointer / name);
+        } catch (const RecordingError&) {
+            if (wrong_ == WrongMembers::Refused) throw;
+        }
+    }
 }
 
 void MachineReader::takeMember(const Json& value, const Pointer& pointer) {
@@ -149,6 +159,15 @@ void MachineReader::refuseUnknown(const Pointer& pointer) const {
                          listText(names));
 }
 
+std::optional<std::filesystem::path> namedOrBeside(const std::filesystem::path& recording,
+                                                   const RecordingOptions& options) {
+    const std::filesystem::path beside = machineFileOf(recording);
+    const bool found = options.machineFile || std::filesystem::exists(beside);
+    const std::filesystem::path machineFile = options.machineFile.value_or(beside);
+    if (!found || machineFile.empty()) return std::nullopt;
+    return machineFile;
+}
+
 }  // namespace
 
 std::filesystem::path machineFileOf(const std::filesystem::path& recording) {
@@ -166,11 +185,20 @@ RecordingOptions readMachineText(const std::filesystem::path& file, const std::s
 
 RecordingOptions withMachineFile(const std::filesystem::path& recording,
                                  const RecordingOptions& options) {
-    const std::filesystem::path beside = machineFileOf(recording);
-    const bool found = options.machineFile || std::filesystem::exists(beside);
-    const std::filesystem::path machineFile = options.machineFile.value_or(beside);
-    if (!found || machineFile.empty()) return options;
-    return overlaid(readMachineFile(machineFile), options);
+    const auto machineFile = namedOrBeside(recording, options);
+    return machineFile ? overlaid(readMachineFile(*machineFile), options) : options;
+}
+
+RecordingOptions withSoundItems(const std::filesystem::path& recording,
+                                const RecordingOptions& options) {
+    try {
+        const auto machineFile = namedOrBeside(recording, options);
+        if (!machineFile) return options;
+        const std::string text = readSmallFile(*machineFile, LargestFile);
+        return overlaid(MachineReader(*machineFile, text, WrongMembers::LeftOut).read(), options);
+    } catch (const RecordingError&) {
+        return options;
+    }
 }
 
 std::string machineText(const RecordingOptions& options) {

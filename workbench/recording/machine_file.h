@@ -42,6 +42,11 @@ RecordingOptions readMachineText(const std::filesystem::path& file, const std::s
 RecordingOptions withMachineFile(const std::filesystem::path& recording,
                                  const RecordingOptions& options);
 
+/// The same, but what is wrong in the machine file is left out: a member alone, or all of what is
+/// no machine file. What a person begins with who mends it.
+RecordingOptions withSoundItems(const std::filesystem::path& recording,
+                                const RecordingOptions& options);
+
 /// The text of a machine file that tells what is set in the options, but for `machineFile`.
 std::string machineText(const RecordingOptions& options);
 

@@ -7,6 +7,7 @@
 
 #include "workbench/recording/column_roles.h"
 #include "workbench/recording/degrees.h"
+#include "workbench/recording/far_mean.h"
 #include "workbench/recording/gaps.h"
 #include "workbench/recording/keyphasor.h"
 #include "workbench/recording/number_field.h"
@@ -59,6 +60,8 @@ Recording RecordingBuilder::build(const ReadingProgress& progress) {
     progress.reach(PartOfDisplacements);
     takeKeyphasor();
     takeFacts();
+    noteFarProbe("X", recording_.x, options_.x);
+    noteFarProbe("Y", recording_.y, options_.y);
     progress.reach(1.0);
     return std::move(recording_);
 }
@@ -118,7 +121,8 @@ void RecordingBuilder::takeRate() {
 void RecordingBuilder::takeTime(const std::vector<double>& time) {
     const auto steps = readTimeSteps(time, secondsPerUnit(columnOf(ColumnRole::Time)->unit));
     if (!steps) {
-        throw RecordingError({recording_.file}, "a time that stands still",
+        throw RecordingError({recording_.file},
+                             time.size() == 1 ? "one row of samples" : "a time that stands still",
                              "two or more rows of rising time, or the rate as an option");
     }
     if (!(steps->rate >= LeastRate && steps->rate <= LargestRate)) {
@@ -288,6 +292,21 @@ void RecordingBuilder::takeFacts() {
     facts.rotation = options_.rotation;
     facts.clearanceWidth = options_.clearanceWidth.value_or(0.0);
     facts.clearanceHeight = options_.clearanceHeight.value_or(0.0);
+}
+
+// The volts of a gap, or a displacement that counts from far away: of the orbit a dot is left.
+void RecordingBuilder::noteFarProbe(const char* name, const std::vector<double>& values,
+                                    const ProbeOptions& probe) {
+    if (probe.rest || recording_.coupling == Coupling::Ac) return;
+    const auto far = farMean(values);
+    if (!far) return;
+    const std::string& unit = recording_.machine.unit;
+    const bool isVolts = unit == "V" || unit == "mV";
+    recording_.notes.push_back(
+        std::string("the ") + name + " probe stands at " + numberText(inThreeDigits(far->mean)) +
+        (unit.empty() ? "" : ' ' + unit) + ", " + numberText(inThreeDigits(far->times)) +
+        " times its peak-to-peak: tell its rest position" +
+        (isVolts ? " and " + unit + "/um" : "") + ", or AC (in the window with Ctrl+I)");
 }
 
 // The header's unit is that of the file's values: with a sensitivity it says nothing.

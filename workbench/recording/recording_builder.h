@@ -32,6 +32,8 @@ private:
 
     void takeDisplacements();
     std::vector<double> displacement(ColumnRole role, const ProbeOptions& probe);
+    void noteFarProbe(const char* name, const std::vector<double>& values,
+                      const ProbeOptions& probe);
     void noteTurnedProbe(const char* name, const ProbeOptions& probe);
     void checkPairs() const;
     void noteGaps();

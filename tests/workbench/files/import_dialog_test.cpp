@@ -274,7 +274,7 @@ TEST_F(ImportDialogTest, WhatIsClearedIsUnset) {
 
 TEST_F(ImportDialogTest, SaysInWhichUnitAScaleIsTold) {
     open(VoltTable);
-    EXPECT_EQ(labelOf("/x/sensitivity"), "X: the file's unit for one unit");
+    EXPECT_EQ(labelOf("/x/sensitivity"), "X: number in the file for one unit");
     choose("role2", "X probe");
     choose("role3", "Y probe");
     type("/unit", "um");

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
 
 namespace Rotavue::Workbench {
@@ -29,7 +30,27 @@ TEST(MessageBarTest, TellsTheNewestFiveEachOnce) {
 
 TEST(MessageBarTest, ShowsMarkupAsItStands) {
     MessageBar bar;
+    bar.tell("<b>a</b>");
     EXPECT_EQ(bar.findChild<QLabel*>("messageText")->textFormat(), Qt::PlainText);
+}
+
+TEST(MessageBarTest, ARemedyStandsBehindItsLineAndTakesItAlong) {
+    MessageBar bar;
+    int runs = 0;
+    bar.tell("a.csv is wrong", {"Mend", [&runs] { ++runs; }});
+    bar.tell("b.csv is wrong");
+    EXPECT_EQ(bar.findChildren<QPushButton*>().size(), 1);
+    bar.findChild<QPushButton*>("messageRemedy")->click();
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(bar.lines(), QStringList{"b.csv is wrong"});
+    EXPECT_EQ(bar.findChild<QPushButton*>("messageRemedy"), nullptr);
+}
+
+TEST(MessageBarTest, ALineThatIsToldAgainHasTheNewestRemedy) {
+    MessageBar bar;
+    bar.tell("a.csv is wrong", {"Mend", [] {}});
+    bar.tell("a.csv is wrong");
+    EXPECT_EQ(bar.findChild<QPushButton*>("messageRemedy"), nullptr);
 }
 
 }  // namespace

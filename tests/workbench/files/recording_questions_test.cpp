@@ -206,8 +206,10 @@ TEST_F(RecordingQuestionsTest, PlaneThatWasClosedMeanwhileDoesNotComeBack) {
 TEST_F(RecordingQuestionsTest, WithoutAPlaneThereIsNothingToAskOf) {
     EXPECT_FALSE(action("correctRecording").isEnabled());
     EXPECT_FALSE(action("openFurtherPlane").isEnabled());
+    EXPECT_TRUE(action("correctRecording").toolTip().endsWith(": nothing is open"));
     open(write("r.csv", table("t,x,y", 2)));
     EXPECT_TRUE(action("correctRecording").isEnabled());
+    EXPECT_TRUE(action("correctRecording").toolTip().endsWith("(Ctrl+I)"));
     EXPECT_TRUE(action("openFurtherPlane").isEnabled());
 }
 

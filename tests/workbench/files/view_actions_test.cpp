@@ -29,6 +29,13 @@ TEST_F(ViewActionsTest, SavedViewOpensAsItWas) {
     EXPECT_EQ(files_->viewFile(), qt(at("v.rotavue")));
 }
 
+TEST_F(ViewActionsTest, AViewThatIsSavedFirstIsNamedAfterItsPlanes) {
+    open({recording("a.csv"), recording("b.csv"), recording("b.csv")});
+    EXPECT_EQ(files_->proposedFile(), qt(at("a, b.rotavue")));
+    ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
+    EXPECT_EQ(files_->proposedFile(), qt(at("v.rotavue")));
+}
+
 TEST_F(ViewActionsTest, DamagedViewIsRefusedInOneLineAndChangesNothing) {
     open({recording("a.csv")});
     const QString view = qt(write("v.rotavue", R"({"rotavueView": 1, "planes": 3})"));

@@ -54,6 +54,14 @@ TEST(ColumnRoles, AreGuessedFromNames) {
               "xy");
     EXPECT_EQ(rolesOf(namedHead({"Zeit", "Tacho", "phi", "ProbeX", "YProbe"})), "t-kxy");
     EXPECT_EQ(rolesOf(namedHead({"RPM", "tacho", "dispx", "dispy"})), "-kxy");
+    EXPECT_EQ(rolesOf(namedHead({"Zeit", "Vertikal", "Horizontal"})), "tyx");
+    EXPECT_EQ(rolesOf(namedHead({"t", "BRG1X", "BRG1Y", "BRG2X", "BRG2Y"})), "txy--");
+    EXPECT_EQ(rolesOf(namedHead({"t", "Lager1Y", "Lager1X"})), "tyx");
+}
+
+TEST(ColumnRoles, AnOrderIsNoAxis) {
+    EXPECT_EQ(faultOf(namedHead({"t", "1X", "2X", "y"})).substr(0, 25),
+              "f: found no column for x ");
 }
 
 TEST(ColumnRoles, AreGuessedFromTheOrderWithoutNames) {

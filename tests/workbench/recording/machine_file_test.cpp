@@ -122,6 +122,27 @@ TEST_F(MachineFile, NamesLineAndColumnWhereTheTextIsNoJson) {
               "r.machine.json: found a number beyond all bounds, allowed: a JSON object");
 }
 
+TEST_F(MachineFile, OfAWrongOneTheSoundItemsCanBeHad) {
+    RecordingOptions told;
+    told.unit = "mil";
+    const auto soundItems = [&](const char* text) {
+        write("r.machine.json", text);
+        return withSoundItems(at("r.csv"), told);
+    };
+    const RecordingOptions options = soundItems(
+        R"({"unit": "um", "rate": -1, "x": {"angle": 45, "sensitivity": "a"}, "clearence": {}})");
+    EXPECT_EQ(options.unit, "mil");  // what is told goes before
+    EXPECT_EQ(options.x.angle, 45.0);
+    EXPECT_EQ(options.rate, std::nullopt);
+    EXPECT_EQ(options.x.sensitivity, std::nullopt);
+    for (const char* text : {"", "[1]", "{\"rate\": 5000"}) {
+        EXPECT_EQ(soundItems(text).unit, "mil") << text;
+        EXPECT_EQ(soundItems(text).rate, std::nullopt) << text;
+    }
+    told.machineFile = "";  // none counts
+    EXPECT_EQ(soundItems(R"({"x": {"angle": 45}})").x.angle, std::nullopt);
+}
+
 TEST_F(MachineFile, OutlastsDeepAndLargeFiles) {
     EXPECT_EQ(faultOf(std::string(60'000, '[')),
               "r.machine.json: found values nested too deep, allowed: 8 levels");

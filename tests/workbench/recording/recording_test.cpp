@@ -211,6 +211,27 @@ TEST_F(RecordingTest, SaysThatANegativeSensitivityTurnsAProbeRound) {
               std::vector<std::string>{"the Y probe is turned round by its negative sensitivity"});
 }
 
+// X stands at -9.8 with 0.1 peak-to-peak, 98 times; Y moves about 0.
+TEST_F(RecordingTest, SaysThatAProbeStandsFarOffUnlessItsRestIsKnown) {
+    const std::string table = "t,x [V],y [V]\n0,-9.75,-1\n1,-9.85,1\n2,-9.8,0\n";
+    EXPECT_EQ(read(table).notes,
+              std::vector<std::string>{
+                  "the X probe stands at -9.8 V, 98 times its peak-to-peak: tell its rest position "
+                  "and V/um, or AC (in the window with Ctrl+I)"});
+    RecordingOptions options;
+    options.x.rest = 0.0;  // told, whatever it is
+    EXPECT_TRUE(read(table, options).notes.empty());
+    options = {};
+    options.coupling = Coupling::Ac;
+    EXPECT_TRUE(read(table, options).notes.empty());
+    options = {};
+    options.unit = "um";
+    EXPECT_EQ(
+        read(table, options).notes.front(),
+        "the X probe stands at -9.8 um, 98 times its peak-to-peak: tell its rest position, or "
+        "AC (in the window with Ctrl+I)");
+}
+
 TEST_F(RecordingTest, SaysWhichPlaneItIsOfWhereTheFileHasSeveral) {
     const std::string table = "t,P1.X,P1.Y,P2.X,P2.Y\n0,1,2,3,4\n1,1,2,3,4\n";
     EXPECT_EQ(read(table).notes,
@@ -320,6 +341,9 @@ TEST_F(RecordingTest, RefusesWhatGivesNoOrbit) {
     EXPECT_EQ(faultOf("t,x,y\n5,1,2\n5,3,4\n"),
               "r.csv: found a time that stands still, allowed: two or more rows of rising time, or "
               "the rate as an option");
+    EXPECT_EQ(faultOf("t,x,y\n5,1,2\n"),
+              "r.csv: found one row of samples, allowed: two or more rows of rising time, or the "
+              "rate as an option");
     EXPECT_EQ(
         faultOf("t,x,y\n0,1,2\n1e-10,3,4\n"),
         "r.csv: found a time column of 1e+10 samples per second, allowed: a rate from 0.001 to "
