@@ -77,9 +77,9 @@ AnalysisOrder AnalyzeCommand::analysisOrder() const {
 void AnalyzeCommand::saveReference(const Recording& recording, const AnalysisOrder& order) const {
     const OutputFile place(*reference_, force_);  // refuses what is there
     try {
-        const AveragedOrbit orbit =
-            averageOrbit(recording, ShaftTrack(recording), {.span = order.span});
-        Workbench::saveReference(referenceFrom(orbit, recording), *reference_);
+        const ReferenceOrbit reference =
+            averagedReference(recording, ShaftTrack(recording), order.span);
+        Workbench::saveReference(reference, *reference_);
     } catch (const AnalysisError& error) {
         throw std::runtime_error(file_ + ": " + error.what());
     }

@@ -106,7 +106,7 @@ private:
 }  // namespace
 
 AveragedOrbit averageOrbit(const Recording& recording, const ShaftTrack& track,
-                           const AverageOptions& options) {
+                           const AverageOptions& options, const ReadingProgress& progress) {
     check(options);
     const WholeTurns turns = stretches(track.wholeTurns(options.span, Purpose), options);
     AveragedOrbit orbit;
@@ -117,8 +117,11 @@ AveragedOrbit averageOrbit(const Recording& recording, const ShaftTrack& track,
     orbit.pointsPerTurn = options.pointsPerTurn;
     Averager averager(static_cast<std::size_t>(options.revolutions * options.pointsPerTurn));
     AngleSampler sampler(recording, turnedSamples(recording, *turns.run, orbit.span));
-    for (std::int64_t turn = turns.first; turn < turns.end; turn += options.revolutions)
+    for (std::int64_t turn = turns.first; turn < turns.end; turn += options.revolutions) {
+        progress.reach(static_cast<double>(turn - turns.first) /
+                       static_cast<double>(turns.count()));
         averager.take(sampler, static_cast<double>(turn), options.pointsPerTurn);
+    }
     if (averager.count() == 0)
         throw AnalysisError(std::string(Purpose) + " finds a gap in every stretch of " +
                             std::to_string(options.revolutions) + " turns");

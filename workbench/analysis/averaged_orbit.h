@@ -44,8 +44,9 @@ struct AveragedOrbit {
 ///
 /// Throws AnalysisError if an option is out of its range, if there is no whole turn (as
 /// `ShaftTrack::wholeTurns`), if the span holds fewer turns than `revolutions`, or if there is no
-/// stretch without a gap.
+/// stretch without a gap; and ReadingCancelled.
 AveragedOrbit averageOrbit(const Recording& recording, const ShaftTrack& track,
-                           const AverageOptions& options = {});
+                           const AverageOptions& options = {},
+                           const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench

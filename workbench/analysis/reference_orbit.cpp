@@ -137,6 +137,14 @@ ReferenceOrbit referenceFrom(const AveragedOrbit& orbit, const Recording& record
     return {orbit, machine.machine, machine.point, machine.xAngle, machine.yAngle};
 }
 
+ReferenceOrbit averagedReference(const Recording& recording, const ShaftTrack& track,
+                                 const TimeSpan& span, const ReadingProgress& progress) {
+    ReferenceOrbit reference =
+        referenceFrom(averageOrbit(recording, track, {.span = span}, progress), recording);
+    progress.reach(1.0);
+    return reference;
+}
+
 void saveReference(const ReferenceOrbit& reference, const std::filesystem::path& file) {
     // A name from a file of another encoding is no reason to lose the orbit.
     const std::string text = jsonOf(reference).dump(2, ' ', false, Json::error_handler_t::replace);

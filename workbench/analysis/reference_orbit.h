@@ -32,6 +32,12 @@ struct ReferenceOrbit {
 /// The averaged orbit with what the recording says about its place.
 ReferenceOrbit referenceFrom(const AveragedOrbit& orbit, const Recording& recording);
 
+/// The mean of all turns of a span as such a reference. Throws AnalysisError as `averageOrbit`, and
+/// ReadingCancelled.
+ReferenceOrbit averagedReference(const Recording& recording, const ShaftTrack& track,
+                                 const TimeSpan& span = {},
+                                 const ReadingProgress& progress = ReadingProgress());
+
 /// Writes the file beside its place and renames it there, so that a reader never meets half of one;
 /// an older file goes. Throws AnalysisError, with nothing left behind, if it cannot be written.
 void saveReference(const ReferenceOrbit& reference, const std::filesystem::path& file);

@@ -1,12 +1,11 @@
 #include "workbench/export/out_actions.h"
 
 #include "host_kit/memory/memory_clipboard.h"
-#include "workbench/bench/run_out.h"
+#include "workbench/bench/source_files.h"
 #include "workbench/export/plane_picture.h"
 #include "workbench/export/plane_report.h"
 #include "workbench/files/usable.h"
 #include "workbench/paint/painting_studio.h"
-#include "workbench/recording/machine_file.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -186,19 +185,8 @@ void OutActions::openReport() {
 /// All planes': what one of them is made from is of use to the others.
 QStringList OutActions::sources() const {
     QStringList files = kept_();
-    const auto add = [&files](const std::filesystem::path& file) {
+    for (const auto& file : sourceFiles(bench_))
         files += QString::fromStdString(file.string());
-    };
-    for (const auto& plane : bench_.planes()) {
-        const PlaneSource& source = plane->original();
-        add(source.recording.file);
-        add(machineFileOf(source.recording.file));
-        if (source.options.machineFile) add(*source.options.machineFile);
-        for (const CurveRequest& curve : plane->curves())
-            if (curve.kind == CurveKind::Reference) add(curve.file);
-        const auto& runOut = plane->shown().runOut;
-        if (runOut && runOut->source.slowRoll) add(*runOut->source.slowRoll);
-    }
     return files;
 }
 

@@ -39,12 +39,15 @@ ReferenceOrbit stored(const std::filesystem::path& file) {
 /// The mean over all turns of a recording.
 ReferenceOrbit averaged(const std::filesystem::path& file, const RecordingOptions& options,
                         const ReadingProgress& progress) {
+    constexpr double PartOfReading = 0.9;
+    const ReadingProgress reading = progress.between(0.0, PartOfReading);
     const Recording recording = readRecording(file, options, [&](double part) {
-        progress.reach(part);
+        reading.reach(part);
         return true;
     });
     try {
-        return referenceFrom(averageOrbit(recording, ShaftTrack(recording)), recording);
+        return averagedReference(recording, ShaftTrack(recording), {},
+                                 progress.between(PartOfReading, 1.0));
     } catch (const AnalysisError& error) {
         throw std::runtime_error(file.string() + ": " + error.what());
     }

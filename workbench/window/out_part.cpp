@@ -4,6 +4,7 @@
 #include "workbench/files/file_actions.h"
 #include "workbench/window/app_settings.h"
 #include "workbench/window/main_window.h"
+#include "workbench/window/run_out/reference_actions.h"
 #include "workbench/window/run_out/rest_actions.h"
 #include "workbench/window/run_out/run_out_actions.h"
 
@@ -58,10 +59,22 @@ void addRest(MainWindow& window) {
     QObject::connect(&window.markedStretch(), &MarkedStretch::changed, actions, refresh);
 }
 
+void addReference(MainWindow& window) {
+    auto* actions = new ReferenceActions(
+        window.bench(), [&window] { return window.currentPlane(); },
+        [&window] { return window.markedStretch().span(); },
+        [&window](const QString& line) { window.statusBar()->showMessage(line); }, window);
+    window.addBar(*actions->makeBar(&window));
+    window.fileMenu().addAction(&actions->save);
+    QObject::connect(&window.tiles(), &OrbitTiles::currentChanged, actions,
+                     [actions] { actions->refresh(); });
+}
+
 }  // namespace
 
 void addOut(MainWindow& window) {
     addPictures(window);
+    addReference(window);
     addRunOut(window);
     addRest(window);
 }
