@@ -54,16 +54,10 @@ public:
 
     bool parse_error(std::size_t position, const std::string&,
                      const nlohmann::detail::exception& error) override {
-        JsonFault fault;
-        fault.kind = error.id == NumberBeyondBoundsId ? JsonFault::Kind::NumberBeyondBounds
-                                                      : JsonFault::Kind::NoJson;
-        fault.pointer = pointer();
-        fault.byte = position > 0 ? position - 1 : 0;
-        const std::string_view before = text_.substr(0, fault.byte);
-        fault.line += static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-        fault.column += before.size() - (before.rfind('\n') + 1);
-        fault.detail = reasonIn(error.what());
-        throw fault;
+        const JsonFault::Kind kind = error.id == NumberBeyondBoundsId
+                                         ? JsonFault::Kind::NumberBeyondBounds
+                                         : JsonFault::Kind::NoJson;
+        throw placed(faultOf(kind, reasonIn(error.what())), position > 0 ? position - 1 : 0);
     }
 
 private:
@@ -98,11 +92,23 @@ private:
 
     /// Bounds are told without line and column: where they are left says nothing about the text.
     [[noreturn]] void refuse(JsonFault::Kind kind, std::string detail = {}) const {
+        throw faultOf(kind, std::move(detail));
+    }
+
+    JsonFault faultOf(JsonFault::Kind kind, std::string detail) const {
         JsonFault fault;
         fault.kind = kind;
         fault.pointer = pointer();
         fault.detail = std::move(detail);
-        throw fault;
+        return fault;
+    }
+
+    JsonFault placed(JsonFault fault, std::size_t byte) const {
+        const std::string_view before = text_.substr(0, byte);
+        fault.byte = byte;
+        fault.line += static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
+        fault.column += before.size() - (before.rfind('\n') + 1);
+        return fault;
     }
 
     /// The lists and objects that are open, each by its place in the one around it.
