@@ -1,5 +1,6 @@
 #include "workbench/analysis/angle_steps.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Rotavue::Workbench {
@@ -15,6 +16,9 @@ class AngleIntegral {
 public:
     AngleIntegral(const Recording& recording, const TurnedSamples& samples,
                   const ReadingProgress& progress) {
+        turns_.reserve(samples.count());
+        values_.reserve(samples.count());
+        sums_.reserve(samples.count());
         for (std::size_t i = 0; i < samples.count(); ++i) {
             if (i % BetweenWords == 0)
                 progress.reach(static_cast<double>(i) / static_cast<double>(samples.count()));
@@ -61,6 +65,7 @@ AngleSteps averageBySteps(const Recording& recording, const TurnedSamples& sampl
     if (integral.empty()) return steps;
     const double width = 1.0 / perTurn;
     const double count = std::floor((samples.turns.back() - steps.firstTurn) * perTurn);
+    steps.values.reserve(static_cast<std::size_t>(std::max(count, 0.0)));
     Complex before = integral.upTo(steps.firstTurn);
     const ReadingProgress rest = progress.between(0.5, 1.0);
     for (double k = 1.0; k <= count; k += 1.0) {

@@ -115,13 +115,15 @@ Signal lowOrders(const Signal& signal, int perTurn, const OrderBand& band,
                  const ReadingProgress& progress) {
     const std::size_t most = ContinuedTurns * static_cast<std::size_t>(perTurn);
     const std::size_t margin = std::min(most, signal.size() - 1);
-    const Signal backward(signal.rbegin(), signal.rend());
+    const Signal backward(signal.rbegin(),
+                          signal.rbegin() + static_cast<std::ptrdiff_t>(margin + 1));
     const Continuation before(signal, perTurn);
     const Continuation behind(backward, perTurn);
     const Complex common = 0.5 * (before.level() + behind.level());
 
     Signal whole = before.outside(margin, common);
     std::reverse(whole.begin(), whole.end());
+    whole.reserve(signal.size() + 3 * margin);
     whole.insert(whole.end(), signal.begin(), signal.end());
     const Signal after = behind.outside(margin, common);
     whole.insert(whole.end(), after.begin(), after.end());

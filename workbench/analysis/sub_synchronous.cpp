@@ -83,23 +83,28 @@ int stepsPerTurn(const TurnedSamples& samples) {
     return static_cast<int>(std::bit_floor(static_cast<unsigned>(most)));
 }
 
-// How much of all is done when the line is found, of the rest when there are steps of the angle,
-// and when these are filtered.
+// How much of all is done when the line is found, and of the rest when the samples have turns, when
+// there are steps of the angle, and when these are filtered.
 constexpr double PartOfLine = 0.2;
+constexpr double PartOfTurns = 0.15;
 constexpr double PartOfSteps = 0.4;
 constexpr double PartOfFilter = 0.7;
 constexpr std::size_t SamplesBetweenWords = 1U << 16U;
 
-void filterSamples(const Recording& recording, const TurnedSamples& samples, SubSyncOrbit& orbit,
-                   const ReadingProgress& progress) {
+void filterSamples(const Recording& recording, const ShaftRun& run, const TimeSpan& span,
+                   SubSyncOrbit& orbit, const ReadingProgress& progress) {
+    const TurnedSamples samples =
+        turnedSamples(recording, run, span, progress.between(0.0, PartOfTurns));
     const AngleSteps steps = averageBySteps(recording, samples, stepsPerTurn(samples),
-                                            progress.between(0.0, PartOfSteps));
+                                            progress.between(PartOfTurns, PartOfSteps));
     if (steps.values.empty()) return;
     const auto low = lowOrders(steps.values, steps.perTurn, orbit.band,
                                progress.between(PartOfSteps, PartOfFilter));
     const ReadingProgress rest = progress.between(PartOfFilter, 1.0);
     std::vector<double> x;
     std::vector<double> y;
+    x.reserve(low.size());
+    y.reserve(low.size());
     for (const std::complex<double>& value : low) {
         x.push_back(value.real());
         y.push_back(value.imag());
@@ -124,7 +129,7 @@ void filterRuns(const Recording& recording, const std::vector<ShaftRun>& runs, S
         const ReadingProgress part =
             progress.between(std::clamp(span.from / recording.duration(), 0.0, 1.0),
                              std::clamp(span.to / recording.duration(), 0.0, 1.0));
-        filterSamples(recording, turnedSamples(recording, runs[i], span), orbit, part);
+        filterSamples(recording, runs[i], span, orbit, part);
         ++used;
     }
     if (used == 0) refuse("needs 4 turns of the shaft in one go, and there are fewer");
@@ -146,8 +151,7 @@ SubSyncOrbit subSynchronousOrbit(const Recording& recording, const ShaftTrack& t
         const double frequency =
             assumedFrequency(recording, options, orbit.notes, progress.between(0.0, PartOfLine));
         const ShaftRun run = evenRun(recording, frequency);
-        filterSamples(recording, turnedSamples(recording, run, {}), orbit,
-                      progress.between(PartOfLine, 1.0));
+        filterSamples(recording, run, {}, orbit, progress.between(PartOfLine, 1.0));
     }
     return orbit;
 }

@@ -20,7 +20,8 @@ struct TurnedSamples {
 };
 
 /// The samples around a stretch of time, from the last one at or before it to the first one behind
-/// it, as far as the recording goes. Two or more.
-TurnedSamples turnedSamples(const Recording& recording, const ShaftRun& run, const TimeSpan& span);
+/// it, as far as the recording goes. Two or more. Throws ReadingCancelled.
+TurnedSamples turnedSamples(const Recording& recording, const ShaftRun& run, const TimeSpan& span,
+                            const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench
