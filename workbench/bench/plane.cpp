@@ -272,6 +272,7 @@ ShownSpan Plane::span() const {
         static_cast<int>(std::wcstol(textOf(settings_, L"revolutions", L"1").c_str(), nullptr, 10));
     span.milliseconds = std::wcstod(textOf(settings_, L"displayTime", L"0").c_str(), nullptr);
     span.time = time();
+    span.sample = 1.0 / recording.sampleRate;
     if (!recording.hasTacho()) return span;
     if (span.byTurns) {
         const TurnWindow window =

@@ -10,10 +10,20 @@ namespace {
 /// Beyond the marks at both ends, so that rounding loses no turn, in s.
 constexpr double Slack = 1e-9;
 
+// As many whole samples as the milliseconds hold, the newest among them.
+TimeSpan stretchByTime(const ShownSpan& span) {
+    constexpr double PartOfSample = 1e-6;  // that rounding may cost
+    const double seconds = span.milliseconds / 1000.0;
+    if (!(span.sample > 0.0)) return {std::max(0.0, span.time - seconds), span.time};
+    const double end = span.time + span.sample / 2.0;
+    const double samples = std::floor(seconds / span.sample + PartOfSample);
+    return {std::max(0.0, end - samples * span.sample), end};
+}
+
 }  // namespace
 
 TimeSpan stretchOf(const ShownSpan& span, const ShaftTrack& track) {
-    if (!span.byTurns) return {std::max(0.0, span.time - span.milliseconds / 1000.0), span.time};
+    if (!span.byTurns) return stretchByTime(span);
     const auto& runs = track.runs();
     for (auto run = runs.rbegin(); run != runs.rend(); ++run) {
         if (run->begin() > span.time) continue;

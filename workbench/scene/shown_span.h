@@ -12,6 +12,7 @@ struct ShownSpan {
     int turnsThere = 0;         ///< whole ones in the first recording
     double milliseconds = 0.0;  ///< where not by turns
     double time = 0.0;          ///< s after the first sample, of the newest one
+    double sample = 0.0;        ///< s from one sample to the next
     double speed = 0.0;         ///< rpm, the mean over the span; 0: not known
 };
 
@@ -20,9 +21,10 @@ inline bool isAnyShown(const ShownSpan& span) {
     return !span.byTurns || span.turnsThere > 0;
 }
 
-/// The same as a stretch of one recording, for what is computed from whole turns: by turns it
-/// begins and ends with a passing of the keyphasor, as many turns apart as there are. Where no turn
-/// is to be had it reaches back to the first sample.
+/// The same as a stretch of one recording, for what is computed from it. By milliseconds it holds
+/// the samples that a control draws, the newest among them, and begins and ends between two. By
+/// turns it begins and ends with a passing of the keyphasor, as many turns apart as there are.
+/// Where no turn is to be had it reaches back to the first sample.
 TimeSpan stretchOf(const ShownSpan& span, const ShaftTrack& track);
 
 }  // namespace Rotavue::Workbench

@@ -1,6 +1,7 @@
 #include "workbench/scene/shown_span.h"
 
 #include "tests/workbench/analysis/generated_recording.h"
+#include "workbench/analysis/mean_position.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +49,23 @@ TEST_F(ShownSpanTest, WithoutAWholeTurnItBeginsWithTheRecording) {
     EXPECT_EQ(found.from, 0.0);
     EXPECT_EQ(found.to, 0.02);
     EXPECT_EQ(track_.mostTurns(found).count(), 0);
+}
+
+// Ten samples a second; the newest is number 5, and 300 ms before it are numbers 3 and 4.
+TEST_F(ShownSpanTest, TheNewestSampleIsOneOfThoseOfATime) {
+    Recording recording;
+    recording.sampleRate = 10.0;
+    recording.x = {1, 2, 4, 8, 16, 32, 64, 128};
+    recording.y = recording.x;
+    ShownSpan span{.milliseconds = 300.0, .time = 0.5, .sample = 0.1};
+    EXPECT_DOUBLE_EQ(meanPosition(recording, stretch(span))->x, (8.0 + 16.0 + 32.0) / 3.0);
+    span.milliseconds = 399.0;  // as a control counts, the last sample is whole or left out
+    EXPECT_DOUBLE_EQ(meanPosition(recording, stretch(span))->x, (8.0 + 16.0 + 32.0) / 3.0);
+    span.time = 0.7;
+    span.milliseconds = 100.0;
+    EXPECT_EQ(meanPosition(recording, stretch(span))->x, 128.0);  // the last of all
+    span.milliseconds = 10'000.0;
+    EXPECT_DOUBLE_EQ(meanPosition(recording, stretch(span))->x, 255.0 / 8.0);
 }
 
 TEST_F(ShownSpanTest, TimeEndsAtTheNewestSample) {
