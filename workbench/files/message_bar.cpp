@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -12,24 +11,14 @@
 namespace Rotavue::Workbench {
 
 MessageBar::MessageBar(QWidget* parent)
-    : QFrame(parent), rows_(new QVBoxLayout), close_(new QToolButton(this)) {
-    setObjectName(QStringLiteral("messageBar"));
-    setFrameShape(QFrame::StyledPanel);
-    close_->setObjectName(QStringLiteral("messageClose"));
-    close_->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    close_->setToolTip(tr("Close these messages"));
-    close_->setAccessibleName(tr("Close these messages"));
-    close_->setAutoRaise(true);
-    connect(close_, &QToolButton::clicked, this, &MessageBar::clear);
-    auto* row = new QHBoxLayout(this);
-    auto* sign = new QLabel(this);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
-    rows_->setSpacing(2);
-    row->addWidget(sign);
-    row->addLayout(rows_, 1);
-    row->addWidget(close_);
-    hide();
+    : SignRow(QStringLiteral("message"), QStyle::SP_MessageBoxWarning, parent) {
+    auto* close = new QToolButton(this);
+    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setToolTip(tr("Close these messages"));
+    close->setAccessibleName(tr("Close these messages"));
+    close->setAutoRaise(true);
+    add(*close, QStringLiteral("Close"));
+    connect(close, &QToolButton::clicked, this, &MessageBar::clear);
 }
 
 QStringList MessageBar::lines() const {
@@ -57,13 +46,13 @@ void MessageBar::drop(const QString& line) {
 
 // A button may be what asks for this: rows go once it has been served.
 void MessageBar::show() {
-    while (QLayoutItem* item = rows_->takeAt(0)) {
+    while (QLayoutItem* item = content().takeAt(0)) {
         item->widget()->setParent(nullptr);
         item->widget()->deleteLater();
         delete item;
     }
     for (const Message& message : messages_)
-        rows_->addWidget(makeRow(message));
+        content().addWidget(makeRow(message));
     setVisible(!messages_.empty());
 }
 

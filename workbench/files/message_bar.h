@@ -1,14 +1,12 @@
 #pragma once
 
-#include <QFrame>
+#include "workbench/files/sign_row.h"
+
 #include <QStringList>
 
 #include <cstddef>
 #include <functional>
 #include <vector>
-
-class QToolButton;
-class QVBoxLayout;
 
 namespace Rotavue::Workbench {
 
@@ -20,7 +18,7 @@ struct MessageRemedy {
 
 /// Tells what went wrong, line by line, above what is shown, and stands in nobody's way: it takes
 /// no focus, and is gone with a click or when it is cleared. Hidden while there is nothing to tell.
-class MessageBar : public QFrame {
+class MessageBar : public SignRow {
     Q_OBJECT
 
 public:
@@ -46,8 +44,6 @@ private:
     QWidget* makeRow(const Message& message);
 
     std::vector<Message> messages_;
-    QVBoxLayout* rows_;
-    QToolButton* close_;
 };
 
 }  // namespace Rotavue::Workbench

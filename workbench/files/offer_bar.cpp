@@ -1,10 +1,9 @@
 #include "workbench/files/offer_bar.h"
 
-#include <QHBoxLayout>
 #include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
+#include <QVBoxLayout>
 
 #include <utility>
 
@@ -20,24 +19,17 @@ void setWords(QPushButton& button, const QString& words) {
 }  // namespace
 
 OfferBar::OfferBar(QWidget* parent)
-    : QFrame(parent), text_(new QLabel(this)), yes_(new QPushButton), no_(new QPushButton) {
-    setObjectName(QStringLiteral("offerBar"));
-    setFrameShape(QFrame::StyledPanel);
+    : SignRow(QStringLiteral("offer"), QStyle::SP_MessageBoxInformation, parent),
+      text_(new QLabel(this)),
+      yes_(new QPushButton),
+      no_(new QPushButton) {
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
-    yes_->setObjectName(QStringLiteral("offerYes"));
-    no_->setObjectName(QStringLiteral("offerNo"));
-    auto* row = new QHBoxLayout(this);
-    auto* sign = new QLabel(this);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(size, size));
-    row->addWidget(sign);
-    row->addWidget(text_, 1);
-    row->addWidget(yes_);
-    row->addWidget(no_);
+    content().addWidget(text_);
+    add(*yes_, QStringLiteral("Yes"));
+    add(*no_, QStringLiteral("No"));
     connect(yes_, &QPushButton::clicked, this, [this] { answer(offer_.take); });
     connect(no_, &QPushButton::clicked, this, [this] { answer(offer_.decline); });
-    hide();
 }
 
 void OfferBar::offer(Offer offer) {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QFrame>
+#include "workbench/files/sign_row.h"
+
 #include <QString>
 
 #include <functional>
@@ -12,7 +13,7 @@ namespace Rotavue::Workbench {
 
 /// Offers something in one line with two buttons, above what is shown. It takes no focus, waits for
 /// as long as it likes, and is hidden while there is nothing to offer.
-class OfferBar : public QFrame {
+class OfferBar : public SignRow {
     Q_OBJECT
 
 public:
