@@ -16,6 +16,9 @@ namespace {
 
 constexpr std::chrono::milliseconds WorkInterval{20};
 
+/// Steps of undo: one of them can be all that keeps a closed recording.
+constexpr int MostSteps = 100;
+
 }  // namespace
 
 Bench::Bench(std::shared_ptr<HostKit::Module> module, QObject* parent)
@@ -24,6 +27,7 @@ Bench::Bench(std::shared_ptr<HostKit::Module> module, QObject* parent)
         placePlanes();
         Q_EMIT cursorMoved(cursor_);
     });
+    undo_.setUndoLimit(MostSteps);
     work_.setInterval(WorkInterval);
     connect(&work_, &QTimer::timeout, this, &Bench::lookForWork);
 }
@@ -194,16 +198,12 @@ void Bench::setCurveOptions(Plane& plane, CurveOptions options) {
         [before = plane.curveOptions()](Plane& one) { one.setCurveOptions(before); });
 }
 
-namespace {
-
-std::function<void(Plane&)> showing(std::shared_ptr<const PlaneSource> form) {
-    return [form = std::move(form)](Plane& plane) { plane.show(form); };
+std::function<void(Plane&)> Bench::showing(const std::shared_ptr<const PlaneSource>& form) {
+    return [this, kept = forms_.keep(form)](Plane& plane) { plane.show(forms_.formOf(kept)); };
 }
 
-}  // namespace
-
 void Bench::showCompensated(Plane& plane, std::shared_ptr<const PlaneSource> left) {
-    change(plane, tr("taking off run-out"), showing(std::move(left)), showing(plane.sharedShown()));
+    change(plane, tr("taking off run-out"), showing(left), showing(plane.sharedShown()));
 }
 
 void Bench::showOriginal(Plane& plane) {
@@ -267,10 +267,24 @@ bool Bench::isWorking() const {
 }
 
 void Bench::watchWork() {
-    if (isWorking() && !work_.isActive()) work_.start();
+    if ((isWorking() || !works_.empty()) && !work_.isActive()) work_.start();
+}
+
+int Bench::beginWork(Work work) {
+    const int number = nextWork_++;
+    works_.emplace(number, std::move(work));
+    watchWork();
+    return number;
+}
+
+void Bench::endWork(int number) {
+    works_.erase(number);
+    if (works_.empty() && !isWorking()) lookForWork();
 }
 
 void Bench::cancelWork() {
+    for (const auto& entry : std::exchange(works_, {}))
+        entry.second.cancel();
     for (const auto& plane : planes_) {
         if (plane->slowCurves().current() == nullptr) continue;
         plane->cancelCurves();
@@ -289,15 +303,25 @@ void Bench::lookForWork() {
         Q_EMIT curvesChanged(plane.get());
         Q_EMIT notesChanged(plane.get());
     }
+    if (tellOfCurves()) return;
+    if (!works_.empty()) {
+        const Work& work = works_.begin()->second;
+        Q_EMIT worked(work.what, work.part());
+        return;
+    }
+    Q_EMIT workEnded();
+    work_.stop();
+}
+
+bool Bench::tellOfCurves() {
     for (const auto& plane : planes_) {
         const CurveRequest* made = plane->slowCurves().current();
         if (made == nullptr) continue;
         const auto what = QString::fromStdString(titleOf(*plane).text() + ", " + wordsOf(*made));
         Q_EMIT worked(what, plane->slowCurves().part());
-        return;
+        return true;
     }
-    Q_EMIT workEnded();
-    work_.stop();
+    return false;
 }
 
 void Bench::stepTurns(const Plane& plane, int turns) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host_kit/loader/module.h"
+#include "workbench/bench/kept_forms.h"
 #include "workbench/bench/plane.h"
 #include "workbench/bench/plane_source.h"
 #include "workbench/bench/plane_titles.h"
@@ -13,6 +14,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -112,18 +114,34 @@ public:
 
     Playback& playback() { return playback_; }
 
-    // Curves that take long; each comes when it is made.
+    // What takes long: curves, each of which comes when it is made, and what others make for a
+    // plane.
 
+    struct Work {
+        QString what;                  ///< "Bearing 1 without run-out"
+        std::function<double()> part;  ///< how much of it is done, 0 to 1
+        std::function<void()> cancel;  ///< lets go of it
+    };
+
+    /// `worked` tells of it until it is ended or cancelled; the number is what ends it. Its
+    /// functions are called on the bench's thread.
+    int beginWork(Work work);
+
+    /// Nothing happens for work that is over.
+    void endWork(int number);
+
+    /// Whether a curve is being made.
     bool isWorking() const;
 
     /// Gives up what is being made for any plane.
     void cancelWork();
 
-    /// Waits until all is made.
+    /// Waits until all curves are made.
     void finishWork();
 
     // The rest.
 
+    /// Holds the newest hundred steps: one of them can be all that keeps a closed recording.
     QUndoStack& undoStack() { return undo_; }
 
     /// The number of the colour scheme that planes are drawn in, scene/scheme_colors.h.
@@ -175,15 +193,20 @@ private:
     HostState hostState() const;
     void watchWork();
     void lookForWork();
+    bool tellOfCurves();
+    std::function<void(Plane&)> showing(const std::shared_ptr<const PlaneSource>& form);
 
     std::shared_ptr<HostKit::Module> module_;
     std::vector<std::shared_ptr<Plane>> planes_;
+    KeptForms forms_;
     QUndoStack undo_;
     double cursor_ = 0.0;
     std::int32_t scheme_;
     int nextRun_ = 0;
     Companions companions_;
     Playback playback_;
+    std::map<int, Work> works_;
+    int nextWork_ = 0;
     QTimer work_;
 };
 

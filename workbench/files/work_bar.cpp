@@ -5,8 +5,7 @@
 namespace Rotavue::Workbench {
 
 WorkBar::WorkBar(Bench& bench, QWidget* parent)
-    : ProgressRow(QStringLiteral("work"), tr("Do without the curves that are not made yet"),
-                  parent) {
+    : ProgressRow(QStringLiteral("work"), tr("Do without what is not made yet"), parent) {
     connect(this, &ProgressRow::cancelled, &bench, &Bench::cancelWork);
     connect(&bench, &Bench::worked, this, [this](const QString& what, double part) {
         if (!clock_.isValid()) clock_.start();

@@ -8,8 +8,8 @@ namespace Rotavue::Workbench {
 
 class Bench;
 
-/// How far the curve is that is being made, with a button that cancels. As the bar of what is
-/// loaded, it leaves out what is quick.
+/// How far the curve, or what else a bench tells of, is that is being made, with a button that
+/// cancels. As the bar of what is loaded, it leaves out what is quick.
 class WorkBar : public ProgressRow {
     Q_OBJECT
 

@@ -31,38 +31,41 @@ void addPictures(MainWindow& window) {
     window.fileMenu().addActions({&out->exportPicture, &out->exportReport});
 }
 
+MarkedPlane markedPlaneOf(MainWindow& window) {
+    return {[&window] { return window.currentPlane(); },
+            [&window] { return window.markedStretch().span(); }};
+}
+
+/// Calls `actions.refresh` whenever another plane or stretch is the current one.
+template <class Actions>
+void followMarked(MainWindow& window, Actions& actions) {
+    const auto refresh = [&actions] { actions.refresh(); };
+    QObject::connect(&window.tiles(), &OrbitTiles::currentChanged, &actions, refresh);
+    QObject::connect(&window.markedStretch(), &MarkedStretch::changed, &actions, refresh);
+}
+
 void addRunOut(MainWindow& window) {
-    auto* actions = new RunOutActions(
-        window.bench(), [&window] { return window.currentPlane(); },
-        [&window] { return window.markedStretch().span(); }, &window);
-    window.addBar(*actions->makeBar(&window));
+    auto* actions = new RunOutActions(window.bench(), markedPlaneOf(window), &window);
     QMenu* menu = window.editMenu().addMenu(MainWindow::tr("&Run-out"));
     menu->addActions({&actions->take, &actions->takeFile});
     menu->addSeparator();
     menu->addActions({&actions->none, &actions->vector, &actions->waveform});
-    const auto refresh = [actions] { actions->refresh(); };
-    QObject::connect(&window.tiles(), &OrbitTiles::currentChanged, actions, refresh);
-    QObject::connect(&window.markedStretch(), &MarkedStretch::changed, actions, refresh);
+    followMarked(window, *actions);
 }
 
 void addRest(MainWindow& window) {
-    auto* actions = new RestActions(
-        window.bench(), [&window] { return window.currentPlane(); },
-        [&window] { return window.markedStretch().span(); }, &window);
+    auto* actions = new RestActions(window.bench(), markedPlaneOf(window), &window);
     QMenu* menu = window.editMenu().addMenu(MainWindow::tr("Shaft at r&est"));
     menu->setToolTipsVisible(true);
     menu->addActions({&actions->atBottom, &actions->atCentre});
     menu->addSeparator();
     menu->addAction(&actions->forget);
-    const auto refresh = [actions] { actions->refresh(); };
-    QObject::connect(&window.tiles(), &OrbitTiles::currentChanged, actions, refresh);
-    QObject::connect(&window.markedStretch(), &MarkedStretch::changed, actions, refresh);
+    followMarked(window, *actions);
 }
 
 void addReference(MainWindow& window) {
     auto* actions = new ReferenceActions(
-        window.bench(), [&window] { return window.currentPlane(); },
-        [&window] { return window.markedStretch().span(); },
+        window.bench(), markedPlaneOf(window),
         [&window](const QString& line) { window.statusBar()->showMessage(line); }, window);
     window.addBar(*actions->makeBar(&window));
     window.fileMenu().addAction(&actions->save);

@@ -10,9 +10,6 @@ namespace {
 class PlaybackTest : public BenchTest {
 protected:
     Playback& playback() { return bench_.playback(); }
-
-    int argumentCount_ = 0;
-    QCoreApplication application_{argumentCount_, nullptr};
 };
 
 TEST_F(PlaybackTest, AnEmptyBenchDoesNotPlay) {

@@ -43,8 +43,6 @@ TEST_F(SlowWork, ACurveThatTakesLongComesWhenItIsMade) {
 }
 
 TEST_F(SlowWork, ComesByItselfToPlanesThatAreShownInThePlaceOfOthers) {
-    int none = 0;
-    const QCoreApplication application(none, nullptr);
     Bench bench(module_);
     const auto plane =
         bench.makePlane(preparePlane(rotor(Long)), {.curves = {{}, {.kind = CurveKind::SubSync}}});

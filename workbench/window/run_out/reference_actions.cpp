@@ -47,11 +47,9 @@ QString proposedFile(const Plane& plane) {
 
 }  // namespace
 
-ReferenceActions::ReferenceActions(Bench& bench, CurrentPlane current, MarkedStretch marked,
-                                   Tell tell, QWidget& window)
+ReferenceActions::ReferenceActions(Bench& bench, MarkedPlane marked, Tell tell, QWidget& window)
     : QObject(&window),
       bench_(bench),
-      current_(std::move(current)),
       marked_(std::move(marked)),
       tell_(std::move(tell)),
       window_(window) {
@@ -75,7 +73,7 @@ ProgressRow* ReferenceActions::makeBar(QWidget* parent) {
 }
 
 void ReferenceActions::refresh() {
-    const Plane* const plane = current_();
+    const Plane* const plane = marked_.plane();
     const bool isTurning = plane != nullptr && plane->shown().track.hasKeyphasor();
     const QString why = plane == nullptr ? tr("nothing is open")
                         : isTurning      ? tr("another one is being saved")
@@ -85,7 +83,7 @@ void ReferenceActions::refresh() {
 
 // A name that the dialog hasn't seen may be that of another file.
 void ReferenceActions::askForFile() {
-    const Plane* const plane = current_();
+    const Plane* const plane = marked_.plane();
     if (plane == nullptr) return;
     QString file = QFileDialog::getSaveFileName(&window_, tr("Save as reference"),
                                                 proposedFile(*plane), tr("References (*.json)"));
@@ -98,14 +96,14 @@ void ReferenceActions::askForFile() {
 }
 
 void ReferenceActions::saveTo(const std::filesystem::path& file) {
-    const Plane* const plane = current_();
+    const Plane* const plane = marked_.plane();
     if (plane == nullptr || isSaving()) return;
     if (isSource(bench_, file))
         return bench_.report(
             tr("%1: found a file that a plane is made from, allowed: another one").arg(text(file)));
     plane_ = QString::fromStdString(bench_.titleOf(*plane).text());
     file_ = file;
-    const TimeSpan span = marked_().value_or(TimeSpan{});
+    const TimeSpan span = marked_.stretch().value_or(TimeSpan{});
     task_ = std::make_unique<Task>(
         [source = plane->sharedShown(), span, file](const ReadingWatch& watch) {
             const ReferenceOrbit reference =

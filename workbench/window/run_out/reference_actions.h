@@ -3,6 +3,7 @@
 #include "workbench/bench/bench.h"
 #include "workbench/files/progress_row.h"
 #include "workbench/recording/background_task.h"
+#include "workbench/window/run_out/marked_plane.h"
 
 #include <QAction>
 #include <QElapsedTimer>
@@ -23,16 +24,11 @@ namespace Rotavue::Workbench {
 /// The bench stays as it is: there is nothing to undo.
 class ReferenceActions final : public QObject {
 public:
-    /// Tell which plane the user speaks of and which stretch of it is marked.
-    using CurrentPlane = std::function<Plane*()>;
-    using MarkedStretch = std::function<std::optional<TimeSpan>()>;
-
     /// Tells the user of what has gone well.
     using Tell = std::function<void(const QString& line)>;
 
     /// `window` is the parent of what asks for a file.
-    ReferenceActions(Bench& bench, CurrentPlane current, MarkedStretch marked, Tell tell,
-                     QWidget& window);
+    ReferenceActions(Bench& bench, MarkedPlane marked, Tell tell, QWidget& window);
 
     QAction save;  ///< asks for the file
 
@@ -58,8 +54,7 @@ private:
     void endProgress();
 
     Bench& bench_;
-    CurrentPlane current_;
-    MarkedStretch marked_;
+    MarkedPlane marked_;
     Tell tell_;
     QWidget& window_;
     QPointer<ProgressRow> bar_;

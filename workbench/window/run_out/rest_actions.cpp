@@ -42,8 +42,8 @@ std::vector<CurveRequest> withShaftCenter(std::vector<CurveRequest> curves) {
 
 }  // namespace
 
-RestActions::RestActions(Bench& bench, CurrentPlane current, MarkedStretch marked, QObject* parent)
-    : QObject(parent), bench_(bench), current_(std::move(current)), marked_(std::move(marked)) {
+RestActions::RestActions(Bench& bench, MarkedPlane marked, QObject* parent)
+    : QObject(parent), bench_(bench), marked_(std::move(marked)) {
     prepare(atBottom, "restAtBottom", tr("Marked stretch is the &bottom of the clearance"),
             tr("The shaft of a horizontal machine stands in the marked stretch, or hardly turns"),
             Qt::CTRL | Qt::SHIFT | Qt::Key_B);
@@ -66,26 +66,26 @@ RestActions::RestActions(Bench& bench, CurrentPlane current, MarkedStretch marke
 void RestActions::refresh() {
     enable(atBottom, RestPosition::BottomOfClearance);
     enable(atCentre, RestPosition::Centre);
-    const Plane* const plane = current_();
+    const Plane* const plane = marked_.plane();
     setUsable(forget, plane != nullptr && plane->curveOptions().shaftCenter.restSpan.has_value(),
               plane != nullptr ? tr("no rest position of this plane has been taken")
                                : tr("nothing is open"));
 }
 
 void RestActions::enable(QAction& action, RestPosition rest) {
-    const Plane* const plane = current_();
+    const Plane* const plane = marked_.plane();
     QString fault;
     if (plane == nullptr) {
         fault = tr("nothing is open");
-    } else if (fault = faultOf(*plane, rest); fault.isEmpty() && !marked_()) {
+    } else if (fault = faultOf(*plane, rest); fault.isEmpty() && !marked_.stretch()) {
         fault = tr("no stretch is marked in the waveforms");
     }
     setUsable(action, fault.isEmpty(), fault);
 }
 
 void RestActions::take(RestPosition rest) {
-    Plane* const plane = current_();
-    const auto stretch = marked_();
+    Plane* const plane = marked_.plane();
+    const auto stretch = marked_.stretch();
     if (plane == nullptr || !stretch) return;
     if (const QString fault = faultOf(*plane, rest, stretch); !fault.isEmpty())
         return bench_.report(QString::fromStdString(bench_.titleOf(*plane).text()) + ": " + fault);
@@ -101,7 +101,7 @@ void RestActions::take(RestPosition rest) {
 
 // Whether the bottom or the centre counts is a choice of its own, in the channel tree.
 void RestActions::drop() {
-    Plane* const plane = current_();
+    Plane* const plane = marked_.plane();
     if (plane == nullptr) return;
     CurveOptions options = plane->curveOptions();
     options.shaftCenter.restSpan.reset();

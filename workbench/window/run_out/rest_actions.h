@@ -1,12 +1,10 @@
 #pragma once
 
 #include "workbench/bench/bench.h"
+#include "workbench/window/run_out/marked_plane.h"
 
 #include <QAction>
 #include <QObject>
-
-#include <functional>
-#include <optional>
 
 namespace Rotavue::Workbench {
 
@@ -15,12 +13,7 @@ namespace Rotavue::Workbench {
 /// is one step of undo; what cannot be done the bench reports.
 class RestActions final : public QObject {
 public:
-    /// Tell which plane the user speaks of and which stretch of it is marked.
-    using CurrentPlane = std::function<Plane*()>;
-    using MarkedStretch = std::function<std::optional<TimeSpan>()>;
-
-    RestActions(Bench& bench, CurrentPlane current, MarkedStretch marked,
-                QObject* parent = nullptr);
+    RestActions(Bench& bench, MarkedPlane marked, QObject* parent = nullptr);
 
     QAction atBottom;  ///< a horizontal machine
     QAction atCentre;  ///< a vertical one
@@ -35,8 +28,7 @@ private:
     void drop();
 
     Bench& bench_;
-    CurrentPlane current_;
-    MarkedStretch marked_;
+    MarkedPlane marked_;
 };
 
 }  // namespace Rotavue::Workbench

@@ -13,25 +13,13 @@
 
 namespace Rotavue::Workbench {
 
-namespace {
-
-constexpr int TickLength = 100;  // ms
-constexpr int ShownAfter = 500;  // ms
-
-}  // namespace
-
 std::optional<CompensationForm> compensationOf(const Plane& plane) {
     const auto& runOut = plane.shown().runOut;
     return runOut ? std::optional(runOut->source.form) : std::nullopt;
 }
 
-RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch marked,
-                             QObject* parent)
-    : QObject(parent),
-      bench_(bench),
-      current_(std::move(current)),
-      marked_(std::move(marked)),
-      forms_(this) {
+RunOutActions::RunOutActions(Bench& bench, MarkedPlane marked, QObject* parent)
+    : QObject(parent), bench_(bench), marked_(std::move(marked)), forms_(this) {
     const auto name = [this](QAction& action, const char* objectName) {
         action.setObjectName(objectName);
         action.setParent(this);
@@ -58,12 +46,6 @@ RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch m
     connect(&none, &QAction::triggered, this, [this] { choose(std::nullopt); });
     connect(&vector, &QAction::triggered, this, [this] { choose(CompensationForm::Vector); });
     connect(&waveform, &QAction::triggered, this, [this] { choose(CompensationForm::Waveform); });
-    tick_.setInterval(TickLength);
-    connect(&tick_, &QTimer::timeout, this, [this] {
-        if (!bar_ || !progress_) return;
-        bar_->tell(tr("Taking run-out off"), progress_->part);
-        if (clock_.elapsed() >= ShownAfter) bar_->show();
-    });
     connect(&bench_, &Bench::curvesChanged, this, [this] { refresh(); });
     connect(&bench_, &Bench::planesChanged, this, [this] { refresh(); });
     refresh();
@@ -72,28 +54,6 @@ RunOutActions::RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch m
 RunOutActions::~RunOutActions() {
     for (auto& entry : works_)
         entry.second.progress->cancelled = true;
-}
-
-ProgressRow* RunOutActions::makeBar(QWidget* parent) {
-    bar_ = new ProgressRow(QStringLiteral("runOut"), tr("Leave the plane as it is"), parent);
-    connect(bar_, &ProgressRow::cancelled, this, [this] {
-        if (progress_) progress_->cancelled = true;
-        endProgress();
-    });
-    return bar_;
-}
-
-std::shared_ptr<RunOutActions::Progress> RunOutActions::beginProgress() {
-    progress_ = std::make_shared<Progress>();
-    clock_.start();
-    tick_.start();
-    return progress_;
-}
-
-void RunOutActions::endProgress() {
-    progress_ = nullptr;
-    tick_.stop();
-    if (bar_) bar_->hide();
 }
 
 std::shared_ptr<Plane> RunOutActions::shared(const Plane* plane) const {
@@ -106,10 +66,10 @@ std::shared_ptr<Plane> RunOutActions::shared(const Plane* plane) const {
 void RunOutActions::refresh() {
     for (const auto& one : bench_.planes())
         if (one->shown().runOut) known_[one] = one->shown().runOut;
-    const auto plane = shared(current_());
+    const auto plane = shared(marked_.plane());
     const bool known = plane && known_.contains(plane);
     const QString nothing = tr("nothing is open");
-    setUsable(take, plane && marked_().has_value(),
+    setUsable(take, plane && marked_.stretch().has_value(),
               plane ? tr("no stretch is marked in the waveforms") : nothing);
     setUsable(takeFile, plane != nullptr, nothing);
     const auto form = plane ? compensationOf(*plane) : std::nullopt;
@@ -143,14 +103,20 @@ RunOutActions::Result RunOutActions::resultOf(const Source& original, const Make
 void RunOutActions::start(Plane& plane, Maker make) {
     forgetGone();
     const std::weak_ptr<Plane> place = shared(&plane);
+    cancel(plane);
     Work& work = works_[place];
-    work.progress = beginProgress();
+    work.progress = std::make_shared<Progress>();
+    const auto progress = work.progress;
+    const int number = work.number = bench_.beginWork(
+        {.what = tr("%1 without run-out").arg(QString::fromStdString(bench_.titleOf(plane).text())),
+         .part = [progress] { return progress->part.load(); },
+         .cancel = [progress] { progress->cancelled = true; }});
     // The plane itself belongs to this thread; what the worker reads outlives it there.
-    work.job->start([this, place, make = std::move(make), progress = work.progress,
+    work.job->start([this, place, make = std::move(make), progress, number,
                      original = plane.sharedOriginal()]() -> LatestJob::Deliver {
         const Result result = resultOf(original, make, *progress);
-        return [this, place, original, result, progress] {
-            if (progress == progress_) endProgress();
+        return [this, place, original, result, progress, number] {
+            bench_.endWork(number);
             if (!progress->cancelled) deliver(place.lock(), original, result);
         };
     });
@@ -185,7 +151,7 @@ void RunOutActions::cancel(const Plane& plane) {
     const Work& work = found->second;
     work.job->forget();
     work.progress->cancelled = true;
-    if (work.progress == progress_) endProgress();
+    bench_.endWork(work.number);
 }
 
 /// The job of a plane that is gone may still run: it goes later.
@@ -213,15 +179,15 @@ void RunOutActions::deliver(const std::shared_ptr<Plane>& plane, const Source& o
 }
 
 void RunOutActions::takeMarked() {
-    Plane* const plane = current_();
-    const auto stretch = marked_();
+    Plane* const plane = marked_.plane();
+    const auto stretch = marked_.stretch();
     if (plane == nullptr || !stretch) return;
     const RunOutSource source{.form = formFor(*plane), .span = *stretch};
     if (!showMade(*plane, source)) find(*plane, source);
 }
 
 void RunOutActions::askForFile() {
-    const Plane* const plane = current_();
+    const Plane* const plane = marked_.plane();
     if (plane == nullptr) return;
     const QString beside =
         QFileInfo(QString::fromStdString(plane->original().recording.file.string())).absolutePath();
@@ -235,13 +201,13 @@ void RunOutActions::askForFile() {
 }
 
 void RunOutActions::takeFrom(const std::filesystem::path& slowRoll) {
-    Plane* const plane = current_();
+    Plane* const plane = marked_.plane();
     if (plane == nullptr) return;
     find(*plane, {.form = formFor(*plane), .slowRoll = slowRoll});
 }
 
 void RunOutActions::choose(std::optional<CompensationForm> form) {
-    Plane* const plane = current_();
+    Plane* const plane = marked_.plane();
     if (plane == nullptr) return;
     if (!form) cancel(*plane);
     if (form == compensationOf(*plane)) return;

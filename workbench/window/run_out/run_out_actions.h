@@ -2,15 +2,12 @@
 
 #include "workbench/bench/bench.h"
 #include "workbench/bench/run_out.h"
-#include "workbench/files/progress_row.h"
 #include "workbench/window/docks/latest_job.h"
+#include "workbench/window/run_out/marked_plane.h"
 
 #include <QAction>
 #include <QActionGroup>
-#include <QElapsedTimer>
 #include <QObject>
-#include <QPointer>
-#include <QTimer>
 
 #include <atomic>
 #include <filesystem>
@@ -25,16 +22,11 @@ namespace Rotavue::Workbench {
 
 /// Run-out compensation in a window: takes the run-out of the current plane from the marked stretch
 /// of its recording, or from a recording of slow roll, and takes it away or lets it back in. What
-/// takes long is done off the window's thread; every change of a plane is undoable; what cannot be
-/// done the bench reports.
+/// takes long is done off the window's thread, as work that the bench tells of and cancels; every
+/// change of a plane is undoable; what cannot be done the bench reports.
 class RunOutActions final : public QObject {
 public:
-    /// Tell which plane the user speaks of and which stretch of it is marked.
-    using CurrentPlane = std::function<Plane*()>;
-    using MarkedStretch = std::function<std::optional<TimeSpan>()>;
-
-    RunOutActions(Bench& bench, CurrentPlane current, MarkedStretch marked,
-                  QObject* parent = nullptr);
+    RunOutActions(Bench& bench, MarkedPlane marked, QObject* parent = nullptr);
 
     QAction take;      ///< from the marked stretch; in the form that is on, vectors at first
     QAction takeFile;  ///< from a recording that the user chooses
@@ -43,10 +35,6 @@ public:
     QAction waveform;  ///< takes all of it away
 
     ~RunOutActions() override;
-
-    /// A line with the progress of what takes long, and a button that cancels it; shown from half a
-    /// second on. The caller owns it.
-    ProgressRow* makeBar(QWidget* parent);
 
     /// To be called when another plane or another stretch has become the current one.
     void refresh();
@@ -74,6 +62,7 @@ private:
     struct Work {
         std::unique_ptr<LatestJob> job = std::make_unique<LatestJob>();
         std::shared_ptr<Progress> progress = {};  ///< of what was begun last
+        int number = 0;                           ///< of that among the bench's work
     };
 
     /// By the plane itself, not by its place in memory: that may be a later plane's.
@@ -87,8 +76,6 @@ private:
     void find(Plane& plane, const RunOutSource& source);
     void deliver(const std::shared_ptr<Plane>& plane, const Source& original, const Result& result);
     bool showMade(Plane& plane, const RunOutSource& source);
-    std::shared_ptr<Progress> beginProgress();
-    void endProgress();
     void cancel(const Plane& plane);
     void forgetGone();
     void takeMarked();
@@ -96,17 +83,12 @@ private:
     void choose(std::optional<CompensationForm> form);
 
     Bench& bench_;
-    CurrentPlane current_;
-    MarkedStretch marked_;
+    MarkedPlane marked_;
     QActionGroup forms_;
     QString folder_;  ///< of the last recording of slow roll; empty: beside the plane's
     OfPlane<std::shared_ptr<const RunOut>> known_;  ///< what was taken off last
     OfPlane<Work> works_;                           ///< of each plane, the newest counts
     OfPlane<std::vector<std::weak_ptr<const PlaneSource>>> made_;  ///< what undo may still hold
-    QPointer<ProgressRow> bar_;
-    QTimer tick_;
-    QElapsedTimer clock_;
-    std::shared_ptr<Progress> progress_;  ///< what the bar tells of; null: nothing
 };
 
 /// How a plane is compensated; empty where it is not.

@@ -38,8 +38,10 @@ protected:
     std::optional<TimeSpan> marked_;
     QStringList told_;
     ReferenceActions* actions_ = new ReferenceActions(
-        bench_, [this] { return bench_.planes().empty() ? nullptr : bench_.planes()[0].get(); },
-        [this] { return marked_; }, [this](const QString& line) { told_ += line; }, window_);
+        bench_,
+        {[this] { return bench_.planes().empty() ? nullptr : bench_.planes()[0].get(); },
+         [this] { return marked_; }},
+        [this](const QString& line) { told_ += line; }, window_);
 };
 
 // Turn n begins at (n - 0.25) / 50 s, so that turns 1 to 49 are whole in the second of the

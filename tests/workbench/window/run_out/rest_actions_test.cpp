@@ -69,7 +69,7 @@ protected:
 
     Plane* plane_ = nullptr;
     std::optional<TimeSpan> marked_;
-    RestActions actions_{bench_, [this] { return plane_; }, [this] { return marked_; }};
+    RestActions actions_{bench_, {[this] { return plane_; }, [this] { return marked_; }}};
 };
 
 TEST_F(RestActionsTest, MeanGapOfTheStretchIsTheCentre) {

@@ -1,6 +1,7 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
 #include "tests/workbench/bench/bench_fixture.h"
+#include "workbench/files/work_bar.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -56,7 +57,7 @@ protected:
 
     Plane* plane_ = nullptr;
     std::optional<TimeSpan> marked_;
-    RunOutActions actions_{bench_, [this] { return plane_; }, [this] { return marked_; }};
+    RunOutActions actions_{bench_, {[this] { return plane_; }, [this] { return marked_; }}};
 };
 
 constexpr const char* VectorWords = "run-out compensated: 1X, 2X vector";
@@ -128,15 +129,27 @@ TEST_F(RunOutActionsTest, LeavingItInWinsOverWhatIsStillBeingTaken) {
 }
 
 TEST_F(RunOutActionsTest, WhatIsCancelledLeavesThePlaneAsItIsWithoutAWord) {
-    ProgressRow* const bar = actions_.makeBar(nullptr);
-    QSignalSpy reports(&bench_, &Bench::troubled);
+    WorkBar bar(bench_);
+    const QSignalSpy reports(&bench_, &Bench::troubled);
     takeFrom({0.1, 0.5});
-    bar->findChild<QPushButton*>("runOutCancel")->click();
+    bar.findChild<QPushButton*>("workCancel")->click();
     QTest::qWait(300);
     EXPECT_EQ(plane_->compensation(), "");
     EXPECT_EQ(reports.count(), 0);
-    EXPECT_TRUE(bar->isHidden());
-    delete bar;
+    EXPECT_TRUE(bar.isHidden());
+}
+
+TEST_F(RunOutActionsTest, TheBenchTellsOfItUntilItIsThere) {
+    const QSignalSpy words(&bench_, &Bench::worked);
+    const QSignalSpy ends(&bench_, &Bench::workEnded);
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    ASSERT_GE(ends.size(), 1);
+    for (const QList<QVariant>& told : words)
+        EXPECT_EQ(told[0].toString(), "rotor without run-out");
+    const auto told = words.size();
+    QTest::qWait(100);
+    EXPECT_EQ(words.size(), told);  // nothing more is being made
 }
 
 TEST_F(RunOutActionsTest, WhatDoubtsTheRunOutIsANoteOfThePlane) {
@@ -286,7 +299,7 @@ TEST_F(RunOutActionsTest, SlowRollIsAskedForInFrontOfTheWindowAndBesideTheRecord
     recording.file = recordings.filePath("pump.csv").toStdString();
     plane_ = &add(std::move(recording));
     QWidget window;
-    RunOutActions actions{bench_, [this] { return plane_; }, [this] { return marked_; }, &window};
+    RunOutActions actions{bench_, {[this] { return plane_; }, [this] { return marked_; }}, &window};
     const DialogSeen first(actions.takeFile, slow.fileName());
     EXPECT_EQ(first.parent, &window);
     EXPECT_EQ(first.folder, recordings.path());

@@ -1,0 +1,32 @@
+#include "workbench/bench/kept_forms.h"
+
+#include "workbench/bench/run_out.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Rotavue::Workbench {
+
+std::shared_ptr<KeptForms::Kept> KeptForms::keep(const std::shared_ptr<const PlaneSource>& form) {
+    if (!form->runOut) return std::make_shared<Kept>(Kept{form, nullptr});
+    hold(form);
+    // The run-out alone: with it, what is left of the recording would be held for ever.
+    return std::make_shared<Kept>(Kept{form->runOut->original, form->runOut, form});
+}
+
+std::shared_ptr<const PlaneSource> KeptForms::formOf(const std::shared_ptr<Kept>& kept) {
+    if (!kept->runOut) return kept->original;
+    auto form = kept->made.lock();
+    if (!form) form = withoutRunOut(kept->original, kept->runOut->source, kept->runOut->slowRoll);
+    kept->made = form;
+    hold(form);
+    return form;
+}
+
+void KeptForms::hold(std::shared_ptr<const PlaneSource> form) {
+    std::erase(held_, form);
+    held_.push_back(std::move(form));
+    if (held_.size() > MostHeld) held_.pop_front();
+}
+
+}  // namespace Rotavue::Workbench

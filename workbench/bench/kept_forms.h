@@ -1,0 +1,36 @@
+#pragma once
+
+#include "workbench/bench/plane_source.h"
+
+#include <cstddef>
+#include <deque>
+#include <memory>
+
+namespace Rotavue::Workbench {
+
+/// Forms of recordings that steps of undo may show again: a recording itself, or what is left of it
+/// without run-out. What is left has as many samples as the recording, so the newest few are held
+/// alone; an older one is made anew of its run-out when it is asked for, which takes as long as the
+/// recording is.
+class KeptForms {
+public:
+    /// Forms without run-out that are held, beside those that planes show.
+    static constexpr std::size_t MostHeld = 3;
+
+    /// Enough to have a form again.
+    struct Kept {
+        std::shared_ptr<const PlaneSource> original;
+        std::shared_ptr<const RunOut> runOut;        ///< null: the original itself
+        std::weak_ptr<const PlaneSource> made = {};  ///< what is left, while anybody holds it
+    };
+
+    std::shared_ptr<Kept> keep(const std::shared_ptr<const PlaneSource>& form);
+    std::shared_ptr<const PlaneSource> formOf(const std::shared_ptr<Kept>& kept);
+
+private:
+    void hold(std::shared_ptr<const PlaneSource> form);
+
+    std::deque<std::shared_ptr<const PlaneSource>> held_;  ///< the newest last
+};
+
+}  // namespace Rotavue::Workbench
