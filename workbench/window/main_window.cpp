@@ -1,5 +1,6 @@
 #include "workbench/window/main_window.h"
 
+#include "workbench/bench/axis_limits.h"
 #include "workbench/files/usable.h"
 #include "workbench/window/about_box.h"
 #include "workbench/window/app_settings.h"
@@ -139,6 +140,10 @@ void MainWindow::addPlotActions() {
     addAction(*viewMenu_, "editLimits", tr("Edit the &limits"), Qt::Key_F2, [this] {
         if (OrbitView* view = tiles_.viewOf(currentPlane())) view->editLimits();
     });
+    addFitAction("fitAcross", tr("&Fit the axis across to the data"), Qt::Key_F3,
+                 OrbitView::Axis::Across);
+    addFitAction("fitUpright", tr("Fit the &upright axis to the data"), Qt::SHIFT | Qt::Key_F3,
+                 OrbitView::Axis::Upright);
     QAction& lock = addAction(*viewMenu_, "lockScale", tr("Lock one scale over all &planes"),
                               Qt::CTRL | Qt::Key_L, [] {});
     lock.setCheckable(true);
@@ -154,6 +159,18 @@ void MainWindow::addPlotActions() {
               [this] {
                   if (OrbitTile* tile = tiles_.tileOf(currentPlane())) tile->toggleNotes();
               });
+}
+
+void MainWindow::addFitAction(const QString& name, const QString& text, const QKeySequence& key,
+                              OrbitView::Axis axis) {
+    addAction(*viewMenu_, name, text, key, [this, axis] {
+        OrbitView* view = tiles_.viewOf(currentPlane());
+        if (view == nullptr) return;
+        if (!axisLimits(view->plane()).manual)
+            return statusBar()->showMessage(
+                tr("The scale is automatic: it fits the data by itself."));
+        view->fitAxis(axis);
+    });
 }
 
 void MainWindow::lockScale(bool on) {
@@ -267,8 +284,9 @@ void MainWindow::enableActions() {
     const auto need = [&](const char* name, std::size_t least, const QString& why) {
         if (auto* action = findChild<QAction*>(name)) setUsable(*action, planes >= least, why);
     };
-    for (const char* name : {"equalAxes", "editLimits", "notes", "closePlane", "play", "start",
-                             "back", "forward", "end", "backMany", "forwardMany"})
+    for (const char* name :
+         {"equalAxes", "editLimits", "fitAcross", "fitUpright", "notes", "closePlane", "play",
+          "start", "back", "forward", "end", "backMany", "forwardMany"})
         need(name, 1, tr("nothing is open"));
     for (const char* name : {"nextPlane", "previousPlane", "planeAlone"})
         need(name, 2, tr("there are no two planes"));

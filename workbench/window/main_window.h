@@ -85,6 +85,8 @@ private:
     void makeViewMenu();
     void addAloneAction();
     void addPlotActions();
+    void addFitAction(const QString& name, const QString& text, const QKeySequence& key,
+                      OrbitView::Axis axis);
     void makeThemeMenu();
     void makeHelpMenu();
     void makeCentre();

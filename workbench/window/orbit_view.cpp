@@ -209,6 +209,17 @@ void OrbitView::editLimit(std::size_t limit, int run) {
     if (alive) bench_.noticeSettings(*plane_, tr("limits"), run);
 }
 
+// The strip runs from the one limit of its axis to the other: their middle is in it.
+void OrbitView::fitAxis(Axis axis) {
+    if (editor_.isEditing()) return;
+    repaint();
+    const std::size_t first = axis == Axis::Across ? 0 : 2;
+    if (limitPlaces_.size() < first + 2) return;
+    click((limitPlaces_[first] + limitPlaces_[first + 1]) / 2);
+    bench_.noticeSettings(*plane_, tr("limits"), bench_.beginRun());
+    returnPointer();
+}
+
 void OrbitView::click(QPoint place) {
     send([place](HostKit::DrivenControl& control) {
         control.movePointer(place.x(), place.y());

@@ -34,6 +34,12 @@ public:
     /// with the first limit that is accepted. All of it is one step of undo.
     void editLimits();
 
+    enum class Axis { Across, Upright };
+
+    /// Does what a click on the strip along that axis does: a control whose limits are manual fits
+    /// them to the data.
+    void fitAxis(Axis axis);
+
     QSize minimumSizeHint() const override { return {220, 220}; }
     QSize sizeHint() const override { return {520, 480}; }
 

@@ -12,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QIcon>
+#include <QLayout>
 #include <QPixmap>
 
 #include <clocale>
@@ -90,6 +91,8 @@ int runWindow(const WindowOrder& order) {
     if (!order.screenshot) window.restoreLayout();
     if (!order.theme.empty()) window.setTheme(themeNamed(QString::fromStdString(order.theme)));
     if (order.width > 0) window.resize(order.width, order.height);
+    // A picture is as small as it is ordered; and a display that is none takes no least size.
+    if (order.screenshot) window.layout()->setSizeConstraint(QLayout::SetNoConstraint);
     window.show();
     if (!order.screenshot) {
         filesOf(window).startAutosave(unsavedFolder());

@@ -1,5 +1,7 @@
 #include "tests/workbench/files/files_application.h"
 
+#include "tests/support/unbound_windows.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -15,6 +17,7 @@ public:
     void SetUp() override {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         application_.emplace(count_, arguments_);
+        new UnboundWindows(*application_);
         QApplication::setQuitOnLastWindowClosed(false);
     }
     void TearDown() override { application_.reset(); }

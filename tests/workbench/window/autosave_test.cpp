@@ -13,9 +13,14 @@
 namespace Rotavue::Workbench {
 namespace {
 
+/// There before the window and gone behind it, which lets go of its lock there.
+struct UnsavedFolder {
+    QTemporaryDir folder_;
+};
+
 /// Windows that end as they should and windows that do not. A process that was killed leaves its
 /// view and a lock that nobody holds; a view without any lock is the same to those who come later.
-class AutosaveTest : public WindowTest {
+class AutosaveTest : protected UnsavedFolder, public WindowTest {
 protected:
     AutosaveTest() { files().startAutosave(unsaved()); }
 
@@ -52,8 +57,6 @@ protected:
         ASSERT_EQ(kept().size(), 1);
         ASSERT_TRUE(QFile::copy(unsaved() + '/' + kept().front(), unsaved() + "/killed.rotavue"));
     }
-
-    QTemporaryDir folder_;
 };
 
 /// The next start of the program.

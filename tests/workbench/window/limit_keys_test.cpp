@@ -184,5 +184,35 @@ TEST_F(LimitKeysTest, APlaneMayBeClosedInTheMiddleOfIt) {
     EXPECT_TRUE(bench().planes().empty());
 }
 
+TEST_F(LimitKeysTest, AKeyFitsAnAxisAsAClickOnItsStripDoes) {
+    OrbitView& view = openPlain();
+    view.setFocus();
+    press(Qt::Key_F3);
+    // The clearance, 200 across and upright, is part of what is fitted and reaches beyond the
+    // orbit.
+    const AxisLimits across = axisLimits(view.plane());
+    EXPECT_DOUBLE_EQ(across.xMin, -100.0);
+    EXPECT_DOUBLE_EQ(across.xMax, 100.0);
+    EXPECT_DOUBLE_EQ(across.yMin, -40.0);
+    EXPECT_DOUBLE_EQ(across.yMax, 20.0);
+    press(Qt::Key_F3, Qt::ShiftModifier);
+    const AxisLimits both = axisLimits(view.plane());
+    EXPECT_DOUBLE_EQ(both.xMin, across.xMin);
+    EXPECT_DOUBLE_EQ(both.yMin, -100.0);
+    EXPECT_DOUBLE_EQ(both.yMax, 100.0);
+    bench().undoStack().undo();
+    EXPECT_DOUBLE_EQ(axisLimits(view.plane()).yMax, 20.0);
+}
+
+TEST_F(LimitKeysTest, AnAutomaticScaleFitsByItselfAndTheKeySaysSo) {
+    OrbitView& view = open();
+    view.setFocus();
+    const int steps = bench().undoStack().count();
+    press(Qt::Key_F3);
+    EXPECT_EQ(bench().undoStack().count(), steps);
+    EXPECT_FALSE(axisLimits(view.plane()).manual);
+    EXPECT_TRUE(window_.statusBar()->currentMessage().contains("automatic"));
+}
+
 }  // namespace
 }  // namespace Rotavue::Workbench

@@ -77,6 +77,25 @@ TEST_F(WindowKeysTest, PagesOfPropertiesAreTurnedWithTheArrowsAndTheTimeStands) 
     EXPECT_EQ(bench().cursor(), before);
 }
 
+TEST_F(WindowKeysTest, PagesOfPropertiesAreTurnedByKeysAloneForEachOfTwoPlanes) {
+    open(rotor("Bearing 1"));
+    open(rotor("Bearing 2"));
+    auto* dock = window_.findChild<QDockWidget*>("propertyDock");
+    for (int plane = 0; plane < 2; ++plane) {
+        QTest::keyClick(&window_, Qt::Key_Tab, Qt::ControlModifier);
+        QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
+        settle();
+        auto* pages = dock->findChild<QTabWidget*>();
+        for (int i = 0; i < 20 && !pages->tabBar()->hasFocus(); ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ASSERT_TRUE(pages->tabBar()->hasFocus());
+        pages->setCurrentIndex(0);
+        press(*pages->tabBar(), Qt::Key_Right);
+        EXPECT_EQ(pages->currentIndex(), 1) << plane;
+        EXPECT_EQ(window_.currentPlane(), bench().planes()[static_cast<std::size_t>(plane)].get());
+    }
+}
+
 TEST_F(WindowKeysTest, BracketsChangeTheSpeedWhereverTheKeyboardIs) {
     open();
     auto& tree = focused<QTreeWidget>();

@@ -62,10 +62,15 @@ void NumberLink::showWarnings() {
 }
 
 void NumberLink::makeEqual() {
-    for (const auto& plane : bench_.planes()) {
-        if (axisLimits(*plane).areEqual()) continue;
-        bench_.setSettings(*plane, withEqualAxes(*plane), tr("one scale for both axes"));
-    }
+    std::vector<Plane*> unequal;
+    for (const auto& plane : bench_.planes())
+        if (!axisLimits(*plane).areEqual()) unequal.push_back(plane.get());
+    if (unequal.empty()) return showWarnings();
+    const QString what = tr("one scale for both axes");
+    bench_.undoStack().beginMacro(what);
+    for (Plane* plane : unequal)
+        bench_.setSettings(*plane, withEqualAxes(*plane), what);
+    bench_.undoStack().endMacro();
     showWarnings();
 }
 

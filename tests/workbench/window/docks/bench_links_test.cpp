@@ -271,5 +271,23 @@ TEST_F(NumberLinkTest, WarnsOfManualLimitsThatDifferAndMendsThem) {
     EXPECT_FALSE(axisLimits(plane).areEqual());
 }
 
+TEST_F(NumberLinkTest, TheScalesOfAllPlanesAreMendedInOneStepOfUndo) {
+    for (int i = 0; i < 3; ++i) {
+        Plane& plane = add();
+        bench_.setSettings(plane, withLimits(plane, {-100, 100, -50, 50, true}));
+    }
+    const int before = bench_.undoStack().index();
+    Q_EMIT table.equalSpansWanted();
+    EXPECT_EQ(bench_.undoStack().index(), before + 1);
+    for (const auto& plane : bench_.planes())
+        EXPECT_TRUE(axisLimits(*plane).areEqual());
+    bench_.undoStack().undo();
+    for (const auto& plane : bench_.planes())
+        EXPECT_FALSE(axisLimits(*plane).areEqual());
+    Q_EMIT table.equalSpansWanted();
+    Q_EMIT table.equalSpansWanted();  // they are equal already
+    EXPECT_EQ(bench_.undoStack().index(), before + 1);
+}
+
 }  // namespace
 }  // namespace Rotavue::Workbench

@@ -1,5 +1,7 @@
 #include "tests/workbench/window/docks/dock_application.h"
 
+#include "tests/support/unbound_windows.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
@@ -20,6 +22,7 @@ public:
     void SetUp() override {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         application_.emplace(count_, arguments_);
+        new UnboundWindows(*application_);
         std::setlocale(LC_NUMERIC, "C");
         QApplication::setStyle("Fusion");
         setTheme(DockTheme::Light);
