@@ -105,11 +105,9 @@ QWidget* ImportDialog::makeEnd(ImportPurpose purpose) {
     const auto machineFile = machineFileOf(preview_.file).filename().string();
     beside_ = new QCheckBox(tr("Keep it &beside the recording, in %1").arg(text(machineFile)), box);
     beside_->setObjectName(QStringLiteral("keepBeside"));
-    const bool further = purpose == ImportPurpose::FurtherPlane;
-    beside_->setChecked(!further);
-    beside_->setHidden(further);
+    beside_->setChecked(true);
     // Without names any other file of as many columns would have this shape.
-    silent_->setHidden(further || !preview_.hasNames);
+    silent_->setHidden(!preview_.hasNames);
     fault_ = new QLabel(box);
     fault_->setObjectName(QStringLiteral("importFault"));
     fault_->setTextFormat(Qt::PlainText);
@@ -135,6 +133,13 @@ void ImportDialog::showUnits() {
         if (roleOf(i) == ColumnRole::Keyphasor) units.keyphasor = unit;
     }
     fields_->setColumnUnits(units);
+}
+
+void ImportDialog::keepNothing() {
+    for (QCheckBox* box : {silent_, beside_}) {
+        box->setChecked(false);
+        box->hide();
+    }
 }
 
 bool ImportDialog::isUsedWithoutAsking() const {

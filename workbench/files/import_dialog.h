@@ -22,7 +22,7 @@ enum class ImportPurpose {
     Open,         ///< a recording that doesn't explain itself
     Mend,         ///< a recording that cannot be read as it was told
     Correct,      ///< a recording that is shown, and may have been misunderstood
-    FurtherPlane  ///< other columns of such a recording; its machine file stays
+    FurtherPlane  ///< other columns of such a recording
 };
 
 /// Asks what the numbers of a recording mean: its first rows, a role for each column, and what the
@@ -35,6 +35,9 @@ public:
     /// Begins with the preview's roles, and with `known` in the fields.
     ImportDialog(const ImportPreview& preview, const RecordingOptions& known,
                  QWidget* parent = nullptr, ImportPurpose purpose = ImportPurpose::Open);
+
+    /// What is told is kept in no machine file and for no other recording: neither is offered.
+    void keepNothing();
 
     /// What was told, complete once the dialog is accepted; the path of a machine file stays as it
     /// is known.

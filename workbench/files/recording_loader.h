@@ -22,8 +22,9 @@ struct LoadRequest {
     RecordingOptions options = {};
     bool isOfView = false;                    ///< wanted for a view, which is shown as a whole
     std::optional<RunOutSource> runOut = {};  ///< to be taken off
-    bool isRemembered = false;  ///< the options are those of an earlier recording of this shape
-    bool isToBeKept = false;    ///< the options become the machine file, once it has been read so
+    bool isRemembered = false;    ///< the options are those of an earlier recording of this shape
+    bool isToBeKept = false;      ///< the options become the machine file, once it has been read so
+    bool isFurtherPlane = false;  ///< other columns than those that the file opens with by itself
 
     /// The recording that is read anew, whose place it takes; null for a further one.
     std::shared_ptr<const PlaneSource> instead = {};

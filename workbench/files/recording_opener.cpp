@@ -1,6 +1,8 @@
 #include "workbench/files/recording_opener.h"
 
 #include <algorithm>
+#include <exception>
+#include <set>
 #include <span>
 
 #include "workbench/analysis/replace_file.h"
@@ -41,6 +43,13 @@ void fillRest(RecordingOptions& known, const Recording& recording) {
     fillRestOf(known.y, recording.y, unitOf(recording, ColumnRole::Y));
 }
 
+std::set<std::string> probesOf(const std::vector<RecordingColumn>& columns) {
+    std::set<std::string> names;
+    for (const RecordingColumn& column : columns)
+        if (column.role == ColumnRole::X || column.role == ColumnRole::Y) names.insert(column.name);
+    return names;
+}
+
 }  // namespace
 
 RecordingOpener::RecordingOpener(QSettings& settings, QWidget* window)
@@ -56,13 +65,36 @@ void RecordingOpener::open(const std::filesystem::path& file, const RecordingOpt
 }
 
 void RecordingOpener::correct(std::shared_ptr<const PlaneSource> source) {
-    enqueue({{.file = source->recording.file, .options = source->options, .instead = source},
+    enqueue({{.file = source->recording.file,
+              .options = source->options,
+              .isFurtherPlane = isFurtherPlane(*source),
+              .instead = source},
              ImportPurpose::Correct});
 }
 
 void RecordingOpener::openFurtherPlane(const PlaneSource& source) {
-    enqueue(
-        {{.file = source.recording.file, .options = source.options}, ImportPurpose::FurtherPlane});
+    enqueue({{.file = source.recording.file, .options = source.options, .isFurtherPlane = true},
+             ImportPurpose::FurtherPlane});
+}
+
+// Whether the file would open with other columns, by its machine file, what is remembered for its
+// shape, or its names.
+bool RecordingOpener::isFurtherPlane(const PlaneSource& source) const {
+    const Recording& recording = source.recording;
+    try {
+        ImportPreview usual = previewImport(recording.file, withSoundItems(recording.file, {}));
+        const auto remembered = memory_.find(usual.shape);
+        std::error_code fault;
+        if (remembered && !std::filesystem::exists(machineFileOf(recording.file), fault))
+            usual = previewImport(recording.file, remembered->options);
+        const auto own = probesOf(recording.columns);
+        const auto others = probesOf(usual.columns);
+        const bool shared = std::any_of(others.begin(), others.end(),
+                                        [&](const auto& name) { return own.contains(name); });
+        return !others.empty() && !shared;
+    } catch (const RecordingError&) {
+        return false;
+    }
 }
 
 void RecordingOpener::mend(const LoadRequest& request) {
@@ -81,7 +113,7 @@ void RecordingOpener::takeNext() {
         waiting_.pop_front();
         try {
             take(waiting);
-        } catch (const RecordingError& error) {
+        } catch (const std::exception& error) {
             Q_EMIT failed(QString::fromUtf8(error.what()));
         }
     }
@@ -131,7 +163,7 @@ void RecordingOpener::takeUnread(const LoadRequest& request, const QString& line
     try {
         if (request.isOfView) return Q_EMIT failed(line);
         refuseSingleProbe(previewImport(request.file));
-    } catch (const RecordingError&) {
+    } catch (const std::exception&) {
         return Q_EMIT failed(line);
     }
     Q_EMIT misread(request, line);
@@ -140,6 +172,7 @@ void RecordingOpener::takeUnread(const LoadRequest& request, const QString& line
 void RecordingOpener::ask(const Waiting& waiting, const ImportPreview& preview,
                           const RecordingOptions& known) {
     dialog_ = new ImportDialog(preview, known, window_, waiting.purpose);
+    if (waiting.request.isFurtherPlane) dialog_->keepNothing();
     dialog_->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog_, &QDialog::finished, this, [this, waiting, shape = preview.shape](int result) {
         const QPointer<ImportDialog> answered = std::exchange(dialog_, nullptr);
@@ -157,7 +190,7 @@ void RecordingOpener::takeAnswer(const Waiting& waiting, const std::string& shap
                                  const ImportDialog& dialog) {
     const RecordingOptions& told = dialog.options();
     // Other columns of one file say nothing about what the next one holds.
-    if (waiting.purpose != ImportPurpose::FurtherPlane)
+    if (!waiting.request.isFurtherPlane)
         memory_.remember(shape, {ofItsShape(told), !dialog.isUsedWithoutAsking()});
     LoadRequest request = waiting.request;
     request.isRemembered = false;

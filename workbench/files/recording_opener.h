@@ -38,7 +38,7 @@ public:
     void openFurtherPlane(const PlaneSource& source);
 
     /// Asks what a recording holds that could not be read as it was told: what is wrong in its
-    /// machine file is left out of the question.
+    /// machine file is left out of the question. Another plane of a file stays one.
     void mend(const LoadRequest& request);
 
     /// What was told of shapes of recordings, to be used again.
@@ -66,6 +66,7 @@ private:
     void enqueue(Waiting waiting);
     void takeNext();
     void take(const Waiting& waiting);
+    bool isFurtherPlane(const PlaneSource& source) const;
     void takeUnread(const LoadRequest& request, const QString& line);
     /// False where a person has to be asked.
     bool takeKnown(const LoadRequest& request, const ImportPreview& preview);

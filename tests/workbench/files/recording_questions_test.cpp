@@ -174,6 +174,43 @@ TEST_F(RecordingQuestionsTest, FurtherPlaneComesBesideAndLeavesTheMachineFile) {
     EXPECT_FALSE(action("forgetAnswers").isEnabled());
 }
 
+// Its columns have two units: it fails, and is told what it holds once more.
+TEST_F(RecordingQuestionsTest, FurtherPlaneThatFailsLeavesTheMachineFileWhenItIsMended) {
+    write("r.machine.json", R"({"x": {"column": "P1.X"}, "y": {"column": "P1.Y"}})");
+    open(write("r.csv", table("t,P1.X [um],P1.Y [um],P2.X [um],P2.Y [mil]", 4)));
+    accept(ask("openFurtherPlane"));
+    ASSERT_NE(told().find("\"um\" and y in \"mil\""), std::string::npos) << told();
+    files_->messages().findChild<QAbstractButton*>("messageRemedy")->click();
+    auto* dialog = window_.findChild<ImportDialog*>();
+    ASSERT_TRUE(dialog);
+    EXPECT_FALSE(dialog->findChild<QCheckBox*>("keepBeside")->isVisibleTo(dialog));
+    EXPECT_FALSE(dialog->findChild<QCheckBox*>("useWithoutAsking")->isVisibleTo(dialog));
+    EXPECT_EQ(dialog->findChild<QComboBox*>("role4")->currentText(), "X probe");
+    type(dialog, "/unit", "um");
+    type(dialog, "/y/sensitivity", "0.03937");
+    accept(dialog);
+    ASSERT_EQ(bench_.planes().size(), 2U) << told();
+    EXPECT_EQ(recording(1).x.front(), 2.0);
+    EXPECT_EQ(readMachineFile(at("r.machine.json")).x.column, "P1.X");
+    EXPECT_FALSE(action("forgetAnswers").isEnabled());
+}
+
+// By a machine file and by names alone.
+TEST_F(RecordingQuestionsTest, CorrectedFurtherPlaneIsKeptNeitherBesideNorForOthers) {
+    for (const char* first : {R"({"x": {"column": "P1.X"}, "y": {"column": "P1.Y"}})", "{}"}) {
+        write("r.machine.json", first);
+        open(write("r.csv", table("t,P1.X,P1.Y,P2.X,P2.Y", 4)));
+        accept(ask("openFurtherPlane"));
+        ImportDialog* dialog = ask("correctRecording");
+        EXPECT_FALSE(dialog->findChild<QCheckBox*>("keepBeside")->isVisibleTo(dialog));
+        type(dialog, "/unit", "mil");
+        accept(dialog);
+        EXPECT_EQ(bench_.planes().back()->original().recording.machine.unit, "mil");
+        EXPECT_EQ(readMachineFile(at("r.machine.json")).unit, std::nullopt);
+        EXPECT_FALSE(action("forgetAnswers").isEnabled());
+    }
+}
+
 TEST_F(RecordingQuestionsTest, AnswersThatAreUsedAgainCanBeForgotten) {
     EXPECT_FALSE(action("forgetAnswers").isEnabled());
     open(write("r.csv", table("t,x,y", 2)));
