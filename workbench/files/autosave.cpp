@@ -7,7 +7,12 @@
 namespace Rotavue::Workbench {
 
 Autosave::Autosave(Bench& bench, OfferBar& bar, QString folder, MakeView view, QObject* parent)
-    : QObject(parent), bench_(bench), bar_(bar), views_(std::move(folder)), view_(std::move(view)) {
+    : QObject(parent),
+      bench_(bench),
+      bar_(bar),
+      views_(std::move(folder)),
+      view_(std::move(view)),
+      exceptions_(std::uncaught_exceptions()) {
     timer_.setSingleShot(true);
     timer_.setInterval(Interval);
     connect(&timer_, &QTimer::timeout, this, &Autosave::keepNow);
@@ -23,7 +28,7 @@ Autosave::Autosave(Bench& bench, OfferBar& bar, QString folder, MakeView view, Q
 }
 
 Autosave::~Autosave() {
-    views_.forget();
+    if (std::uncaught_exceptions() == exceptions_) views_.forget();
 }
 
 void Autosave::keepNow() {

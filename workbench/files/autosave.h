@@ -26,7 +26,7 @@ public:
     /// does, as parts of a window that ends, but not while events are handled.
     Autosave(Bench& bench, OfferBar& bar, QString folder, MakeView view, QObject* parent = nullptr);
 
-    /// An orderly end keeps nothing.
+    /// An orderly end keeps nothing. Where an exception ends the window, what was kept stays.
     ~Autosave() override;
 
     /// Keeps the view now, if there are changes.
@@ -57,6 +57,7 @@ private:
     UnsavedViews views_;
     MakeView view_;
     QTimer timer_;
+    const int exceptions_;  ///< that were on their way when it was made
     std::deque<UnsavedViews::Left> left_;
 };
 

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -162,7 +163,8 @@ void MachineReader::refuseUnknown(const Pointer& pointer) const {
 std::optional<std::filesystem::path> namedOrBeside(const std::filesystem::path& recording,
                                                    const RecordingOptions& options) {
     const std::filesystem::path beside = machineFileOf(recording);
-    const bool found = options.machineFile || std::filesystem::exists(beside);
+    std::error_code fault;  // a name that is too long for a file is that of none
+    const bool found = options.machineFile || std::filesystem::exists(beside, fault);
     const std::filesystem::path machineFile = options.machineFile.value_or(beside);
     if (!found || machineFile.empty()) return std::nullopt;
     return machineFile;

@@ -145,6 +145,21 @@ TEST_F(ImportTest, WhatAMachineFileSaysWronglyCanBeToldAnew) {
     EXPECT_EQ(readRecording(at("a.csv")).machine.unit, "um");  // with the machine file of now
 }
 
+// 247 letters and the 13 of ".machine.json" are 260 bytes; a name of a file has 255 at the most.
+TEST_F(ImportTest, NameThatIsTooLongForAMachineFileIsOpenedAndMended) {
+    const std::string name = std::string(247, 'n') + ".csv";
+    open({qt(write(name, "t,x [um],y [mil]\n0,1,2\n1,2,3\n2,3,1\n"))});
+    EXPECT_NE(told().find("found x in \"um\" and y in \"mil\""), std::string::npos) << told();
+    files_->messages().findChild<QAbstractButton*>("messageRemedy")->click();
+    ASSERT_TRUE(asked());
+    asked()->findChild<QLineEdit*>("/unit")->setText("um");
+    asked()->accept();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    wait();
+    EXPECT_EQ(planes().size(), 1);
+    EXPECT_NE(told().find("a folder to write to"), std::string::npos) << told();
+}
+
 TEST_F(ImportTest, TwoUnitsCanBeToldOf) {
     open({qt(write("a.csv", "t,x [um],y [mil]\n0,1,2\n1,2,3\n2,3,1\n"))});
     EXPECT_NE(told().find("found x in \"um\" and y in \"mil\""), std::string::npos) << told();

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include <fstream>
+#include <stdexcept>
 
 namespace Rotavue::Workbench {
 namespace {
@@ -181,6 +182,24 @@ TEST_F(AutosaveTest, AnOrderlyEndLeavesNothing) {
         EXPECT_EQ(kept().size(), 1);
     }
     EXPECT_TRUE(QDir(unsaved()).entryList(QDir::Files).isEmpty());
+}
+
+TEST_F(AutosaveTest, AWindowThatAnExceptionEndsLeavesItsView) {
+    openFiles({"a.csv"});
+    try {
+        NextWindow one(unsaved());
+        one.files().open({recording("b.csv")});
+        Bench& bench = one.window.bench();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return bench.planes().size() == 1; }));
+        bench.setSettings(*bench.planes()[0], with(*bench.planes()[0], L"graphType", L"1"));
+        one.files().autosave()->keepNow();
+        ASSERT_EQ(kept().size(), 1);
+        throw std::runtime_error("out of the event loop");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_EQ(kept().size(), 1);
+    NextWindow next(unsaved());
+    EXPECT_TRUE(next.offers());
 }
 
 }  // namespace
