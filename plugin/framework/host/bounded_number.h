@@ -38,7 +38,8 @@ public:
         std::basic_string<Char> result(text_.substr(0, begin_));
         const std::size_t first = nextNonZero(begin_);
         if (first == mantissaEnd_) {
-            result += Char('0');
+            for (const char c : {'0', 'e', '0'})  // what follows is no part of the number
+                result += Char(c);
         } else {
             appendFrom(first, result);
         }

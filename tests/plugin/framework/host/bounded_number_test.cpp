@@ -43,7 +43,20 @@ TEST(BoundedNumber, KeepsWhatStandsBeforeAndBehind) {
 TEST(BoundedNumber, FindsThePowerOfTheFirstDigit) {
     EXPECT_EQ(bounded("0." + zeros(900) + "5"), "5.e-901");
     EXPECT_EQ(bounded("12" + zeros(898)), "1.2" + zeros(798) + "e899");
-    EXPECT_EQ(bounded("0." + zeros(900)), "0");
+    EXPECT_EQ(bounded("0." + zeros(900)), "0e0");
+}
+
+// A single zero would make one number of both.
+TEST(BoundedNumber, ZeroJoinsNothingThatFollows) {
+    for (const std::string& text :
+         {zeros(900) + "x1F", "0." + zeros(900) + ".5", zeros(900) + "e5", zeros(900) + "e"}) {
+        const std::string shortened = bounded(text);
+        char* end = nullptr;
+        EXPECT_EQ(std::strtod(shortened.c_str(), &end), 0.0) << text;
+        char* whole = nullptr;
+        EXPECT_EQ(std::strtod(text.c_str(), &whole), 0.0);
+        EXPECT_STREQ(end, whole);
+    }
 }
 
 TEST(BoundedNumber, TakesThePointOfTheLocale) {
