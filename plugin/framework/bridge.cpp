@@ -21,12 +21,12 @@ public:
 
 /// Holds the host's two objects as a message finds them. The message may hand in others while calls
 /// on these are under way, in it or in one round it: what one inside another has found stays until
-/// the outermost ends.
+/// the outermost ends. A host that has handed in too many raises 0x80004005.
 class HeldHost {
 public:
     explicit HeldHost(BridgeParts& parts)
         : parts_(parts), found_{parts.hostApp, parts.hostControl} {
-        if (parts_.depth > 0 && !isHeld()) parts_.heldInside.push_back(found_);
+        if (parts_.depth > 0 && !isHeld()) hold();
         ++parts_.depth;
     }
     HeldHost(const HeldHost&) = delete;
@@ -40,6 +40,12 @@ public:
 private:
     bool isHeld() const {
         return std::ranges::find(parts_.heldInside, found_) != parts_.heldInside.end();
+    }
+
+    void hold() {
+        constexpr std::size_t Most = 1000;  // a host has two objects for as long as it lives
+        if (parts_.heldInside.size() == Most) throw Host::HostError(Host::Status::Unspecified);
+        parts_.heldInside.push_back(found_);
     }
 
     BridgeParts& parts_;

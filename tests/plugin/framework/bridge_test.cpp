@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <stdexcept>
 #include <utility>
 
@@ -100,9 +101,9 @@ TEST_F(Bridge, ReferenceTakenWhileItEndsEndsItOnce) {
 }
 
 TEST_F(Bridge, MessageInsideAMessageIsServed) {
-    record.during = [this] {
-        record.during = nullptr;
-        send(MessageCode::PointerLeft);
+    bool inside = false;
+    record.during = [&] {
+        if (!std::exchange(inside, true)) send(MessageCode::PointerLeft);
     };
     send(MessageCode::PointerEntered);
     EXPECT_EQ(record.calls, (Calls{"onMouseEnter", "onMouseLeave"}));
@@ -124,6 +125,30 @@ TEST_F(Bridge, HostObjectsThatAreReplacedInsideACallbackLiveUntilItIsOver) {
     send(MessageCode::PointerEntered);
     EXPECT_EQ(app.count, 0);
     EXPECT_EQ(hostControl.count, 0);
+}
+
+TEST_F(Bridge, HostThatIsReplacedWithoutEndInsideACallbackIsRefused) {
+    Calls log;
+    std::deque<Host::CountedApp> apps;
+    int served = 0;
+    bool inside = false;
+    record.during = [&] {
+        if (std::exchange(inside, true)) return;
+        try {
+            for (; served < 5000; ++served) {
+                Host::CountedApp& app = apps.emplace_back("app", log);
+                send(MessageCode::Attach,
+                     {object(Host::Ref<Host::IHostApp>::share(&app)), nullObject()});
+            }
+        } catch (const Host::HostError& error) {
+            EXPECT_EQ(error.status, 0x80004005U);
+        }
+    };
+    send(MessageCode::PointerEntered);
+    EXPECT_EQ(served, 1000) << "the host of the outer message among them";
+    plugin = nullptr;
+    for (const Host::CountedApp& app : apps)
+        EXPECT_EQ(app.count, 0);
 }
 
 TEST_F(Bridge, ErrorOfAnyKindPasses) {
