@@ -21,11 +21,6 @@ std::int64_t cellOf(double edge) {
     return canvasInteger(std::floor(limitedTo(edge, -FarthestEdge, FarthestEdge) / CellSize));
 }
 
-bool isFree(const std::vector<Rectangle>& placed, const Rectangle& box) {
-    return std::ranges::none_of(placed,
-                                [&](const Rectangle& other) { return overlaps(box, other); });
-}
-
 }  // namespace
 
 /// The cells from the first to the last column and row. Two boxes that overlap share one, also
@@ -64,13 +59,19 @@ std::uint64_t LabelRoom::keyOf(std::int64_t column, std::int64_t row) {
     return static_cast<std::uint64_t>(column) << 32 ^ static_cast<std::uint32_t>(row);
 }
 
-bool LabelRoom::isFreeAt(std::uint64_t key, const Rectangle& box) const {
+bool LabelRoom::isFree(const std::vector<Rectangle>& placed, const Rectangle& box) {
+    comparisons_ += placed.size();
+    return std::ranges::none_of(placed,
+                                [&](const Rectangle& other) { return overlaps(box, other); });
+}
+
+bool LabelRoom::isFreeAt(std::uint64_t key, const Rectangle& box) {
     const auto cell = cells_.find(key);
     return cell == cells_.end() || isFree(cell->second, box);
 }
 
-bool LabelRoom::hasRoom(const Rectangle& box) const {
-    if (placed_.size() >= MostPlacedLabels) return false;
+bool LabelRoom::hasRoom(const Rectangle& box) {
+    if (placed_.size() >= MostPlacedLabels || comparisons_ >= MostLabelComparisons) return false;
     const Cells cells = cellsUnder(box);
     if (!cells.areFew()) return isFree(placed_, box);
     return isFree(wide_, box) && cells.all([&](auto key) { return isFreeAt(key, box); });

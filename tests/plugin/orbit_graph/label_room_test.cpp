@@ -40,6 +40,21 @@ TEST(LabelRoom, EndsWithTheMostLabels) {
     EXPECT_FALSE(room.take({-100, 0, -90, 10}));
 }
 
+// Labels without a size have room beside each other in one cell, where each further one meets all.
+TEST(LabelRoom, EndsWithTheMostComparisons) {
+    Room room;
+    for (std::size_t i = 0; i < 4000; ++i) {
+        const double left = 0.01 * static_cast<double>(i);
+        ASSERT_TRUE(room.take({left, 0, left, 0}));
+    }
+    const Rectangle elsewhere{1000, 0, 1010, 10};
+    EXPECT_TRUE(room.room.hasRoom(elsewhere));
+    // 4,000 * 3,999 / 2 comparisons are made; 24,000 times 4,000 more leave none of 100,000,000.
+    for (int i = 0; i < 24'000; ++i)
+        ASSERT_FALSE(room.take({39.99, 0, 39.99, 0}));
+    EXPECT_FALSE(room.room.hasRoom(elsewhere));
+}
+
 /// The edges of labels of all sizes and orders, also hostile ones.
 Rectangle anyBox(std::mt19937_64& random) {
     constexpr double Infinity = std::numeric_limits<double>::infinity();
