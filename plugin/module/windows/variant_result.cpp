@@ -29,9 +29,12 @@ void VariantResult::putFourIntegers() {
 }
 
 void VariantResult::setInteger(std::size_t index, std::int32_t value) {
-    // The variant is the host's: it may have emptied it while the control was asked.
-    if (result_.vt != Integers || result_.parray == nullptr || index >= Count) return;
-    static_cast<LONG*>(result_.parray->pvData)[index] = value;
+    // The variant is the host's: it may have emptied it or put another array there while the
+    // control was asked.
+    if (result_.vt != Integers || result_.parray == nullptr) return;
+    const SAFEARRAY& array = *result_.parray;
+    if (array.cDims != 1 || index >= array.rgsabound[0].cElements) return;
+    static_cast<LONG*>(array.pvData)[index] = value;
 }
 
 }  // namespace Meridax::VisualControls::Rotavue

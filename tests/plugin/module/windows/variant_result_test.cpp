@@ -42,6 +42,15 @@ TEST_F(VariantResultTest, FourIntegersAreAnArrayFromZeroThatStartsWithZeros) {
     EXPECT_EQ(numbers[3], -9);
 }
 
+TEST_F(VariantResultTest, NumberBeyondAListThatTheHostPutThereIsDropped) {
+    variant.vt = VT_ARRAY | VT_I4;
+    variant.parray = ::SafeArrayCreateVector(VT_I4, 0, 2);
+    result.setInteger(1, 7);
+    result.setInteger(2, 5);
+    const auto* numbers = static_cast<const LONG*>(variant.parray->pvData);
+    EXPECT_EQ(std::vector<LONG>(numbers, numbers + 2), (std::vector<LONG>{0, 7}));
+}
+
 TEST_F(VariantResultTest, NumberForAListThatTheHostTookAwayIsDropped) {
     result.putFourIntegers();
     ::VariantClear(&variant);
