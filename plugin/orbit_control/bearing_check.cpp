@@ -7,6 +7,7 @@ namespace Meridax::VisualControls::Rotavue {
 
 bool RotavueVisualControl::checkBearingConfig() {
     pointAllowance_.renew();
+    turnAllowance_.renew();
     stampAllowance_.renew();
     textAllowance_.renew();
     bearingConfigs_.clear();

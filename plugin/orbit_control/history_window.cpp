@@ -52,7 +52,7 @@ HistoryWindow RotavueVisualControl::findRevolutionWindow(Host::IHostChannel& tac
 std::optional<std::int32_t> RotavueVisualControl::findNewestTurn(Host::IHostChannel& tacho,
                                                                  std::int64_t last) {
     double previous = getSample(tacho, 0, 0, Component::Plain);
-    for (std::int32_t i = 1; i < last && pointAllowance_.take(); ++i) {
+    for (std::int32_t i = 1; i < last && turnAllowance_.take(); ++i) {
         const double current = getSample(tacho, i, 0, Component::Plain);
         if (isTurn(current, previous)) return i;
         if (isSilent(current, previous)) return std::nullopt;
@@ -66,7 +66,7 @@ std::int32_t RotavueVisualControl::findEndOfTurns(Host::IHostChannel& tacho, std
     double previous = getSample(tacho, first, 0, Component::Plain);
     std::int64_t turns = revolutions_;
     std::int32_t i = first;
-    for (; i < last && pointAllowance_.take(); ++i) {
+    for (; i < last && turnAllowance_.take(); ++i) {
         const double current = getSample(tacho, i, 0, Component::Plain);
         if (isTurn(current, previous)) --turns;
         if (turns == 0 || isSilent(current, previous)) break;

@@ -29,7 +29,9 @@ ChannelInfo RotavueVisualControl::readInfo(Host::IHostChannel& channel) {
     ChannelInfo info = fillChannelInfo(channel);
     for (std::wstring* text : {&info.unit, &info.name}) {
         const auto length = static_cast<std::int64_t>(text->size());
-        text->resize(static_cast<std::size_t>(textAllowance_.take(length)));
+        const std::int32_t kept = textAllowance_.take(length);
+        // A new text: one that is only shortened keeps its memory.
+        if (kept < length) std::wstring(*text, 0, static_cast<std::size_t>(kept)).swap(*text);
     }
     return info;
 }

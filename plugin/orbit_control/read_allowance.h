@@ -5,10 +5,10 @@
 
 namespace Meridax::VisualControls::Rotavue {
 
-/// How many places one pass over the channels may still read. Sample counts, array sizes and the
-/// length of the history come from outside and may be anything; this keeps time and memory within
-/// bounds whatever they say. What lies beyond is not read: a curve ends early, a search ends
-/// without a find.
+/// How many places one pass over the channels may still read, of all curves together. Sample
+/// counts, array sizes and the length of the history come from outside and may be anything; this
+/// keeps time and memory within bounds whatever they say. What lies beyond is not read: a curve
+/// ends early, a search ends without a find.
 ///
 /// The characters of names and units are allowed for in the same way: some two thousand for each of
 /// as many curves as are walked through.

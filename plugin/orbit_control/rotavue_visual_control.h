@@ -219,7 +219,8 @@ private:
     Host::Ref<Host::IHostChannelList> dataRequestList_;  ///< made on first need, then kept
     std::int32_t unsent_ = 0;                            ///< channels in it from failed requests
     std::vector<BearingConfig> bearingConfigs_;          ///< of the last check, the first two kinds
-    ReadAllowance pointAllowance_;                       ///< for points and turns of a frame
+    ReadAllowance pointAllowance_;                       ///< for points of a frame
+    ReadAllowance turnAllowance_;                        ///< for its search for turns
     ReadAllowance stampAllowance_;                       ///< for time stamps of a frame
     ReadAllowance textAllowance_;                        ///< for names and units of a frame
     RepeatedQuotient cursorQuotient_;                    ///< the cursor's sample by the master rate

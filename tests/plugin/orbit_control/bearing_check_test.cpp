@@ -88,9 +88,11 @@ TEST_F(BearingCheck, NullChannelIsAnInvalidPointer) {
 
 TEST_F(BearingCheck, GivesWhatFollowsAWholeAllowance) {
     key.pointAllowance.take(ReadAllowance::Places);
+    key.turnAllowance.take(ReadAllowance::Places);
     key.stampAllowance.take(ReadAllowance::Places);
     key.checkBearingConfig();
     EXPECT_TRUE(key.pointAllowance.take());
+    EXPECT_TRUE(key.turnAllowance.take());
     EXPECT_TRUE(key.stampAllowance.take());
 }
 

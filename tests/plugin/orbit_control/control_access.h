@@ -27,6 +27,7 @@ struct RotavueVisualControlAccess {
           dataRequestList(opened.dataRequestList_),
           bearingConfigs(opened.bearingConfigs_),
           pointAllowance(opened.pointAllowance_),
+          turnAllowance(opened.turnAllowance_),
           stampAllowance(opened.stampAllowance_) {}
 
     bool checkBearingConfig() { return control.checkBearingConfig(); }
@@ -98,6 +99,7 @@ struct RotavueVisualControlAccess {
     Host::Ref<Host::IHostChannelList>& dataRequestList;
     std::vector<BearingConfig>& bearingConfigs;
     ReadAllowance& pointAllowance;
+    ReadAllowance& turnAllowance;
     ReadAllowance& stampAllowance;
 };
 

@@ -195,11 +195,11 @@ TEST_F(RevolutionWindow, HostileCountEndsWithTheAllowance) {
     HostKit::ChannelDescription& tacho = describeTacho("tacho", {});
     tacho.sampleCount = Largest;
     tacho.scale = {0.0, 90.0};
-    key.pointAllowance.take(ReadAllowance::Places - 100);
+    key.turnAllowance.take(ReadAllowance::Places - 100);
     EXPECT_EQ(key.findHistoryWindow(host.channel("tacho").get()), (HistoryWindow{0, 1}))
         << "the search has taken all 100";
-    key.pointAllowance.renew();
-    key.pointAllowance.take(ReadAllowance::Places - 100);
+    key.turnAllowance.renew();
+    key.turnAllowance.take(ReadAllowance::Places - 100);
     key.revolutions = Largest;
     tacho.sampleCount = 60;
     EXPECT_EQ(key.findHistoryWindow(host.channel("tacho").get()), (HistoryWindow{0, 43}))

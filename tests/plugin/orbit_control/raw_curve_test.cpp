@@ -44,6 +44,8 @@ TEST_F(RawCurve, NamesAndUnitsEndWhereTheAllowanceOfTheFrameIsUsedUp) {
     const OrbitCurve second = read({"orbit"});  // 2,000,000 characters are left
     EXPECT_EQ(second.info.unit.size(), 2'000'000U);
     EXPECT_EQ(second.info.name, L"");
+    EXPECT_LT(second.info.unit.capacity(), 3'000'000U) << "nor does it take memory";
+    EXPECT_LT(second.info.name.capacity(), 100U);
     ASSERT_TRUE(key.checkBearingConfig());
     EXPECT_EQ(read({"orbit"}).info.name.size(), 5'000'000U) << "each frame has its own";
 }
