@@ -8,7 +8,8 @@
 
 namespace Rotavue::Fuzz {
 
-/// The bytes of one input, taken from the front; behind the last one all are 0.
+/// The bytes of one input, taken from the front if nothing else is said; behind the last one all
+/// are 0.
 class ByteSource {
 public:
     explicit ByteSource(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
@@ -20,6 +21,14 @@ public:
         const std::uint8_t first = bytes_.front();
         bytes_ = bytes_.subspan(1);
         return first;
+    }
+
+    /// Taken from the end.
+    std::uint8_t last() {
+        if (bytes_.empty()) return 0;
+        const std::uint8_t back = bytes_.back();
+        bytes_ = bytes_.first(bytes_.size() - 1);
+        return back;
     }
 
     /// One of 0 to `end` - 1; `end` is 1 to 256.

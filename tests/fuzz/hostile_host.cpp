@@ -125,14 +125,16 @@ std::int64_t HostileHost::leftBehind() {
     return host_.references();
 }
 
-// Where a host may come back into the plug-in, it does now and then.
+// Where a host may come back into the plug-in, it does now and then. The bytes that say so come
+// from the end of the input: what its front spells stays what it is, however many calls there are.
 void HostileHost::onCall(HostKit::Operation operation) {
     if (++calls_ > MostCalls) {
         throw Meridax::Host::HostError(Meridax::Host::Status::Unspecified);
     }
     const bool modal = HostKit::rowOf(operation).group == HostKit::CallGroup::Control;
     if (depth_ >= DeepestMessage || bytes_.empty()) return;
-    if (modal ? bytes_.flag() : calls_ % 64 == 0 && bytes_.below(16) == 0) step();
+    if (!modal && calls_ % 64 != 0) return;
+    if (bytes_.last() % 16 < (modal ? 8 : 1)) step();
 }
 
 void HostileHost::step() {
@@ -171,7 +173,7 @@ void HostileHost::step() {
 }
 
 void HostileHost::playNext() {
-    if (session_ == nullptr || next_ == session_->steps().size()) return sendAny();
+    if (session_ == nullptr || next_ == session_->steps().size()) return;
     std::visit([this](const auto& step) { play(step); }, session_->steps()[next_++]);
 }
 
