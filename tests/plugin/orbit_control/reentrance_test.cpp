@@ -46,21 +46,29 @@ protected:
     /// What is interrupted: a frame, where nothing else is said.
     std::function<void()> run = [this] { draw(); };
 
-    /// A run that is interrupted after its n-th call. It ends whole, or at an object that has gone.
-    void runInterrupted(std::int64_t n, const std::function<void()>& act) {
+    /// How a run ends that was interrupted.
+    enum class End { Whole, MayMissAnObject };
+
+    /// A run that is interrupted after its n-th call. What the interruption raises is a failure of
+    /// its own and never reaches the run.
+    void runInterrupted(std::int64_t n, const std::function<void()>& act, End end) {
         Interruption interruption(n, [&] {
             host.gate.watch(nullptr, {});
-            act();
+            EXPECT_NO_THROW(act()) << "inside, after call " << n;
         });
         watch(interruption);
         try {
             run();
         } catch (const Host::HostError& error) {
-            EXPECT_EQ(error.status, 0x80004003U) << n;
+            EXPECT_EQ(end, End::MayMissAnObject) << "after call " << n;
+            EXPECT_EQ(error.status, 0x80004003U) << "after call " << n;
+            ++missed;
         }
         host.gate.watch(nullptr, {});
         EXPECT_TRUE(interruption.happened()) << n;
     }
+
+    int missed = 0;  ///< the runs that ended at an object that had gone
 
     /// The places in a run where it is interrupted: between any two operations that follow each
     /// other somewhere in it, and every sixty-fourth call besides.
@@ -81,50 +89,84 @@ protected:
 
     /// Interrupts a run at each of its places and mends the host again; then a frame is what it
     /// was.
-    void interruptEverywhere(const std::function<void()>& act, const std::function<void()>& mend) {
+    void interruptEverywhere(const std::function<void()>& act, const std::function<void()>& mend,
+                             End end = End::Whole) {
         const Lines whole = callsOf([&] { draw(); }, drawing());
         const std::int64_t held = host.references();
         const std::vector<std::int64_t> all = places();
+        mend();
+        host.takeCalls();
         ASSERT_GT(all.size(), leastPlaces);
         for (const std::int64_t n : all) {
-            runInterrupted(n, act);
+            runInterrupted(n, act, end);
+            ++interrupted;
             mend();
             ASSERT_EQ(host.references(), held) << "after call " << n;
+            host.description.canvas = {};
+            ASSERT_EQ(callsOf([&] { draw(); }, drawing()), whole) << "after call " << n;
+            ASSERT_FALSE(HasFailure()) << "after call " << n;
         }
-        host.description.canvas = {};
-        EXPECT_EQ(callsOf([&] { draw(); }, drawing()), whole);
     }
 
-    /// One of each message but the draw. The setup that is saved is the one that is loaded.
+    /// One of each message that reaches the control, by their codes, but the draw. The setup that
+    /// is saved is the one that is loaded, the widget that is read the one that was filled.
+    std::map<int, std::function<void()>> otherMessages() {
+        return {
+            {3, [this] { EXPECT_FALSE(control.acceptsChannel(host.channel("orbit"))); }},
+            {6, [this] { control.requestData(first, second); }},
+            {8, [this] { control.onMouseWheel({}, 65, 245, true); }},
+            {9, [this] { control.onMouseWheel({}, 65, 245, false); }},
+            {10, [this] { control.onMouseUp(0, {}, 65, 245); }},
+            {11, [this] { control.onMouseDown(0, {}, 65, 245); }},
+            {12, [this] { control.onMouseMove({}, 65, 245); }},
+            {18, [this] { control.onClose(); }},
+            {24, [this] { EXPECT_TRUE(control.acceptsGroup(host.group(0))); }},
+            {25, [this] { control.onMouseEnter(); }},
+            {26, [this] { control.onMouseLeave(); }},
+            {29, [this] { control.onGroupChanged(host.group(0)); }},
+            {30, [this] { EXPECT_TRUE(control.canCopyToClipboard()); }},
+            {31, [this] { EXPECT_FALSE(control.clipboardText().empty()); }},
+            {33, [this] { saveAndLoad(); }},
+            {34, [this] { control.buildProperties(host.panel()); }},
+            {35, [this] { control.fillProperties(host.panel()); }},
+            {36, [this] { readWidgets(); }},
+            {37, [this] { control.onPropertyEvent(L"TickCount", host.widget(L"TickCount"), 0); }},
+            {45, [this] { control.onChannelsChanged(0); }},
+        };
+    }
+
+    /// In an order in which each finds what it is about: limits to edit, a panel that is filled.
     void sendEveryOtherMessage() {
-        control.requestData(first, second);
-        control.onChannelsChanged(0);
         key.graph.setManualLimits(1);
-        control.onMouseMove({}, 65, 245);
-        control.onMouseDown(0, {}, 65, 245);
-        control.onMouseUp(0, {}, 65, 245);
-        control.onMouseWheel({}, 65, 245, true);
-        control.onMouseLeave();
-        control.onMouseEnter();
-        control.buildProperties(host.panel());
-        control.fillProperties(host.panel());
-        control.readProperty(L"Nothing", nullptr);
-        control.onPropertyEvent(L"Nothing", nullptr, 0);
-        control.acceptsChannel(host.channel("orbit"));
-        control.acceptsGroup(host.group(0));
-        control.onGroupChanged(host.group(0));
-        EXPECT_TRUE(control.canCopyToClipboard());
-        EXPECT_FALSE(control.clipboardText().empty());
+        const auto messages = otherMessages();
+        for (const int code :
+             {6, 45, 12, 11, 10, 8, 9, 26, 25, 34, 35, 36, 37, 3, 24, 29, 30, 31, 33, 18}) {
+            EXPECT_NO_THROW(messages.at(code)()) << "message " << code;
+            ++sent[code];
+        }
+    }
+
+    Host::Ref<Host::IHostPropertyControl> widget(const std::wstring& name) {
+        return host.widget(name).offered<Host::IHostPropertyControl>();
+    }
+
+    void readWidgets() {
+        control.readProperty(L"TickCount", widget(L"TickCount"));
+        control.readProperty(L"Nothing", widget(L"Nothing"));
+        expectHostError(0x80004003, [this] { control.readProperty(L"Nothing", nullptr); });
+    }
+
+    void saveAndLoad() {
         Tests::EntryNode setup;
         setup.writing = true;
         control.persistSetup(setup);
         setup.writing = false;
         control.persistSetup(setup);
-        control.onClose();
     }
 
     /// What the messages have changed.
     void takeMessagesBack() {
+        control.onMouseEnter();
         control.onMouseMove({}, 0, 0);
         key.graph.setManualLimits(0);
         key.propertyRoot = nullptr;
@@ -141,11 +183,21 @@ protected:
         const auto act = [this] {
             sendEveryOtherMessage();
             draw();
+            ++sent[42];
         };
         interruptEverywhere(act, [this] { takeMessagesBack(); });
+        expectEachSent(21);
+    }
+
+    void expectEachSent(std::size_t messages) {
+        EXPECT_EQ(sent.size(), messages);
+        for (const auto& [code, times] : sent)
+            EXPECT_EQ(times, interrupted) << "message " << code;
     }
 
     std::size_t leastPlaces = 100;
+    int interrupted = 0;      ///< the places at which a run was
+    std::map<int, int> sent;  ///< how often each message came back
     Host::DataPosition first;
     Host::DataPosition second;
 };
@@ -171,7 +223,8 @@ TEST_F(Reentrance, AnotherFrameMayBeDrawnBetweenAnyTwoCallsOfADraw) {
 TEST_F(Reentrance, AssignmentMayGoBetweenAnyTwoCallsOfADraw) {
     const HostKit::Assignment assigned = host.description.assigned;
     interruptEverywhere([&] { host.description.assigned = {}; },
-                        [&] { host.description.assigned = assigned; });
+                        [&] { host.description.assigned = assigned; }, End::MayMissAnObject);
+    EXPECT_GT(missed, 0);
 }
 
 TEST_F(Reentrance, DataMayGoBetweenAnyTwoCallsOfADraw) {
@@ -187,23 +240,25 @@ TEST_F(Reentrance, DataMayGoBetweenAnyTwoCallsOfADraw) {
         }
         host.description.host.acquiring = !host.description.host.acquiring;
     };
-    interruptEverywhere(empty, [&] {
+    const auto mend = [&] {
         for (const auto& [id, described] : whole)
             channel(id) = described;
         host.description.host.acquiring = true;
-    });
+    };
+    interruptEverywhere(empty, mend, End::MayMissAnObject);
+    EXPECT_GT(missed, 0);
 }
 
 TEST_F(Reentrance, EveryOtherMessageMayComeBetweenAnyTwoCallsOfADraw) {
     host.description.assigned.slots = {{1}};
     host.description.host.editText = {true, L"2"};
     interruptEverywhere([&] { sendEveryOtherMessage(); }, [&] { takeMessagesBack(); });
+    expectEachSent(20);
 }
 
 TEST_F(Reentrance, EveryMessageMayComeBetweenAnyTwoCallsOfACopy) {
     const std::wstring text = control.clipboardText();
-    sendEveryMessageBetween([this] { control.clipboardText(); }, 50);
-    EXPECT_EQ(control.clipboardText(), text);
+    sendEveryMessageBetween([&] { EXPECT_EQ(control.clipboardText(), text); }, 50);
 }
 
 TEST_F(Reentrance, EveryMessageMayComeBetweenAnyTwoCallsOfADataRequest) {
