@@ -27,6 +27,7 @@ constexpr std::int64_t UsualMessages = 1'000'000;
 #endif
 constexpr std::int64_t Stretch = 1000;
 constexpr std::int64_t PlannedAtOnce = 16;
+constexpr std::int32_t GroupSlot = 1;
 
 /// As many as `tools/soak` asks for.
 std::int64_t messageCount() {
@@ -43,6 +44,19 @@ std::int64_t residentKilobytes() {
     return resident * ::sysconf(_SC_PAGESIZE) / 1024;
 }
 
+/// Enters 12.5 in every editor, and counts how often the control has changed a setting by itself.
+class SoakListener : public HostListener {
+public:
+    void setupRefreshed() override { ++refreshes; }
+
+    EditAnswer editText(std::int32_t /*x*/, std::int32_t /*y*/,
+                        const std::wstring& /*text*/) override {
+        return {true, L"12.5"};
+    }
+
+    std::int64_t refreshes = 0;
+};
+
 /// A host whose channels, settings and pointer change between the messages that it sends.
 class Soak : public testing::Test {
 protected:
@@ -56,8 +70,8 @@ protected:
         describeChannel("center", L"", 40, 2).array = true;
         host_.description.host.sampleRate = 1000.0;
         host_.description.host.currentPosition = {2, 0};
-        host_.description.assigned.slots = {{0}};
-        host_.description.host.editText = {true, L"12.5"};
+        host_.description.assigned.slots = {{GroupSlot}};
+        host_.listen(&listener_);
         attach();
         send(MessageCode::BuildProperties, {host_.panel()});
         for (std::int64_t i = 0; i < PlannedAtOnce; ++i)
@@ -108,6 +122,7 @@ protected:
             if (below(2) == 0) assigned.channels.emplace_back(id);
         assigned.groups.clear();
         if (below(2) == 0) assigned.groups.push_back({{"orbit", "tacho"}, {}});
+        if (below(4) == 0) assigned.groups.push_back({{"orbit"}, {}});
         host_.description.host.acquiring = below(2) == 0;
         host_.description.host.currentPosition = {below(3), below(1000)};
         send(MessageCode::ChannelsChanged, {0});
@@ -151,11 +166,15 @@ protected:
     }
 
     void ask() {
+        send(MessageCode::InterfaceQuery, {});
+        send(MessageCode::RefusedQuery, {});
         send(MessageCode::DataWindow, {});
         send(MessageCode::CanCopy, {});
         send(MessageCode::ChannelCheck, {host_.channel("orbit")});
         if (!host_.description.assigned.groups.empty())
             send(MessageCode::GroupCheck, {host_.group(0)});
+        send(MessageCode::GroupChanged, {host_.group(0)});
+        if (below(16) == 0) send(MessageCode::Close, {});
     }
 
     /// A frame with a call that fails; one that is not reached waits for the next frame.
@@ -214,7 +233,7 @@ protected:
 
     /// What is taken of the heap in a state that is always the same.
     Living livingAtRest() {
-        host_.description.assigned = {{}, {}, {{0}}};
+        host_.description.assigned = {{}, {}, {{GroupSlot}}};
         host_.description.setup.clear();
         settle();
         send(MessageCode::ChannelsChanged, {0});
@@ -225,6 +244,7 @@ protected:
     }
 
     std::mt19937 random_{8};
+    SoakListener listener_;
     MemoryHost host_;
     MessageAnswer answer_;
     std::int64_t errors_ = 0;
@@ -251,9 +271,11 @@ TEST_F(Soak, MemoryIsFlatFromTheThousandthMessageToTheLast) {
     expectFlat(livingAtRest(), living);
     std::cout << living << " and " << resident << " kB after " << Stretch << " steps, "
               << livingAtRest() << " and " << residentKilobytes() << " kB after " << messages
-              << ", " << errors_ << " errors, " << edits_ << " savings of an edited limit\n";
+              << ", " << errors_ << " errors, " << edits_ << " savings of an edited limit, "
+              << listener_.refreshes << " settings changed by the control\n";
     EXPECT_GT(errors_, messages / 100) << "calls fail";
     EXPECT_GT(edits_, 0);
+    EXPECT_GT(listener_.refreshes, 0) << "a group without tacho has moved the history to time";
     EXPECT_LT(errors_, messages / 10) << "most messages do something";
     control_ = nullptr;
     EXPECT_EQ(host_.references(), 0);
