@@ -8,14 +8,16 @@ namespace Rotavue::Workbench {
 
 namespace {
 
-TreePlane treePlane(const Bench& bench, const Plane& plane) {
+TreePlane treePlane(const Bench& bench, const std::shared_ptr<Plane>& shared) {
+    const Plane& plane = *shared;
     const Recording& recording = plane.shown().recording;
     TreePlane shown{.name = QString::fromStdString(bench.titleOf(plane).text()),
                     .file = QString::fromStdString(recording.file.string()),
                     .hasTacho = recording.hasTacho(),
                     .hasMeanPosition = recording.coupling == Coupling::Dc,
                     .shown = {},
-                    .rest = plane.curveOptions().shaftCenter.rest};
+                    .rest = plane.curveOptions().shaftCenter.rest,
+                    .identity = shared};
     for (std::size_t i = 0; i < plane.curves().size(); ++i)
         shown.shown.push_back({plane.curves()[i], fromHostColor(plane.colorOf(i))});
     return shown;
@@ -61,7 +63,7 @@ void ChannelLink::setCurrent(const Plane* plane) {
 void ChannelLink::show() {
     std::vector<TreePlane> planes;
     for (const auto& plane : bench_.planes())
-        planes.push_back(treePlane(bench_, *plane));
+        planes.push_back(treePlane(bench_, plane));
     tree_.setPlanes(std::move(planes));
     setCurrent(current_);  // which may have come before its row
 }

@@ -329,6 +329,17 @@ void ChannelTree::addReference(std::size_t plane, const QString& file) {
     add(plane, {CurveKind::Reference, {}, file.toStdString()});
 }
 
+// While a dialog is open planes come and go. Nothing, and a line, for one that is gone.
+std::optional<std::size_t> ChannelTree::placeOf(const TreePlane& asked) {
+    const auto found = std::find_if(planes_.begin(), planes_.end(), [&](const TreePlane& one) {
+        return !one.identity.owner_before(asked.identity) &&
+               !asked.identity.owner_before(one.identity);
+    });
+    if (found != planes_.end()) return static_cast<std::size_t>(found - planes_.begin());
+    failed(tr("%1 is not open any more: no curve is added").arg(asked.name));
+    return {};
+}
+
 void ChannelTree::askOrders() {
     const auto plane = selectedPlane();
     if (!plane) return;
@@ -337,7 +348,9 @@ void ChannelTree::askOrders() {
     dialog->setWindowTitle(tr("Orders"));
     dialog->setLabelText(tr("Orders of the shaft's speed, such as 1+2+0.43:"));
     connect(dialog, &QInputDialog::textValueSelected, this,
-            [this, plane](const QString& text) { addOrders(*plane, text); });
+            [this, asked = planes_[*plane]](const QString& text) {
+                if (const auto place = placeOf(asked)) addOrders(*place, text);
+            });
     dialog->open();
 }
 
@@ -350,7 +363,9 @@ void ChannelTree::askReference() {
     dialog->setNameFilters(
         {tr("Reference orbits and recordings (*.json *.csv *.txt *.wav)"), tr("All files (*)")});
     connect(dialog, &QFileDialog::fileSelected, this,
-            [this, plane](const QString& file) { addReference(*plane, file); });
+            [this, asked = planes_[*plane]](const QString& file) {
+                if (const auto place = placeOf(asked)) addReference(*place, file);
+            });
     dialog->open();
 }
 

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -30,6 +31,7 @@ struct TreePlane {
     bool hasMeanPosition = true;  ///< the recording is DC coupled
     std::vector<TreeCurve> shown;
     RestPosition rest = RestPosition::Centre;  ///< of the shaft centre
+    std::weak_ptr<const void> identity = {};   ///< the same wherever the plane stands
 };
 
 /// The planes with their channels, and what is shown of them: a check box for each curve that the
@@ -88,6 +90,7 @@ private:
     void enableActions();
     void askOrders();
     void askReference();
+    std::optional<std::size_t> placeOf(const TreePlane& asked);
     void removeSelected();
     void showOnlySelected();
     void toggleRest();

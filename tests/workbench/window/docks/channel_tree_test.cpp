@@ -128,6 +128,46 @@ TEST_F(ChannelTreeTest, OrdersAreAddedByKeyboardAndStayUntilTheyAreRemoved) {
     EXPECT_THROW(row(0, "1X, 2X, 0.43X"), std::logic_error);
 }
 
+TEST_F(ChannelTreeTest, OrdersGoToThePlaneTheyWereAskedForWhereverItStandsNow) {
+    const auto first = std::make_shared<int>(1);
+    const auto second = std::make_shared<int>(2);
+    planes[0].identity = first;
+    planes[1].identity = second;
+    planes[1].hasTacho = true;
+    tree.setPlanes(planes);
+    press(1, "raw", Qt::Key_Insert);
+    auto* dialog = tree.findChild<QInputDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    planes.erase(planes.begin());
+    tree.setPlanes(planes);
+    QSignalSpy spy(&tree, &ChannelTree::curvesWanted);
+    dialog->setTextValue("3");
+    dialog->accept();
+    ASSERT_EQ(spy.count(), 1);
+    EXPECT_EQ(spy[0][0].toULongLong(), 0U);
+    EXPECT_EQ(lastWanted(), (Curves{Raw, {CurveKind::Harmonic, {3.0}}}));
+}
+
+TEST_F(ChannelTreeTest, OrdersOfAPlaneThatIsGoneAreToldOfAndNotAdded) {
+    const auto first = std::make_shared<int>(1);
+    const auto second = std::make_shared<int>(2);
+    planes[0].identity = first;
+    planes[1].identity = second;
+    planes[1].hasTacho = true;
+    tree.setPlanes(planes);
+    press(1, "raw", Qt::Key_Insert);
+    auto* dialog = tree.findChild<QInputDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    planes.pop_back();
+    tree.setPlanes(planes);
+    QSignalSpy spy(&tree, &ChannelTree::failed);
+    dialog->setTextValue("3");
+    dialog->accept();
+    ASSERT_EQ(spy.count(), 1);
+    EXPECT_EQ(spy[0][0].toString(), "Bearing 2 is not open any more: no curve is added");
+    EXPECT_TRUE(wanted.empty());
+}
+
 TEST_F(ChannelTreeTest, ReferenceIsShownUntilItIsRemoved) {
     tree.addReference(0, "/data/slow-roll.json");
     const CurveRequest reference{CurveKind::Reference, {}, "/data/slow-roll.json"};
