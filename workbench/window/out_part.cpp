@@ -67,10 +67,8 @@ void addReference(MainWindow& window) {
     auto* actions = new ReferenceActions(
         window.bench(), markedPlaneOf(window),
         [&window](const QString& line) { window.statusBar()->showMessage(line); }, window);
-    window.addBar(*actions->makeBar(&window));
     window.fileMenu().addAction(&actions->save);
-    QObject::connect(&window.tiles(), &OrbitTiles::currentChanged, actions,
-                     [actions] { actions->refresh(); });
+    followMarked(window, *actions);
 }
 
 }  // namespace

@@ -1,13 +1,13 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
 #include "workbench/files/usable.h"
+#include "workbench/window/run_out/held_plane.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeySequence>
 #include <QWidget>
 
-#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -57,10 +57,7 @@ RunOutActions::~RunOutActions() {
 }
 
 std::shared_ptr<Plane> RunOutActions::shared(const Plane* plane) const {
-    const auto& planes = bench_.planes();
-    const auto found = std::find_if(planes.begin(), planes.end(),
-                                    [&](const auto& one) { return one.get() == plane; });
-    return found == planes.end() ? nullptr : *found;
+    return heldPlane(bench_, plane);
 }
 
 void RunOutActions::refresh() {
@@ -187,8 +184,9 @@ void RunOutActions::takeMarked() {
 }
 
 void RunOutActions::askForFile() {
-    const Plane* const plane = marked_.plane();
-    if (plane == nullptr) return;
+    const auto plane = shared(marked_.plane());
+    if (!plane) return;
+    const auto name = QString::fromStdString(bench_.titleOf(*plane).text());
     const QString beside =
         QFileInfo(QString::fromStdString(plane->original().recording.file.string())).absolutePath();
     const QString file =
@@ -197,7 +195,9 @@ void RunOutActions::askForFile() {
                                      tr("Recordings (*.csv *.txt *.tsv *.wav);;All files (*)"));
     if (file.isEmpty()) return;
     folder_ = QFileInfo(file).absolutePath();
-    takeFrom(file.toStdString());
+    if (!bench_.has(*plane))
+        return bench_.report(tr("%1 is not open any more: no run-out is taken off").arg(name));
+    find(*plane, {.form = formFor(*plane), .slowRoll = file.toStdString()});
 }
 
 void RunOutActions::takeFrom(const std::filesystem::path& slowRoll) {

@@ -308,5 +308,23 @@ TEST_F(RunOutActionsTest, SlowRollIsAskedForInFrontOfTheWindowAndBesideTheRecord
     EXPECT_EQ(second.folder, others.path());
 }
 
+TEST_F(RunOutActionsTest, BehindTheDialogThePlaneThatWasAskedForIsCompensatedOrNone) {
+    QSignalSpy reports(&bench_, &Bench::troubled);
+    const QTemporaryDir folder;
+    QFile slow(folder.filePath("slow.csv"));
+    ASSERT_TRUE(slow.open(QIODevice::WriteOnly));
+    slow.close();
+    Plane& other = add(rotor());
+    QTimer::singleShot(0, [this, &other] {
+        bench_.removePlane(*plane_);
+        plane_ = &other;
+    });
+    const DialogSeen dialog(actions_.takeFile, slow.fileName());
+    ASSERT_EQ(reports.count(), 1);
+    EXPECT_TRUE(
+        reports[0][0].toString().endsWith(" is not open any more: no run-out is taken off"));
+    EXPECT_FALSE(bench_.isWorking());
+}
+
 }  // namespace
 }  // namespace Rotavue::Workbench
