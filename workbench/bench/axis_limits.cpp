@@ -70,7 +70,10 @@ Settings withEqualAxes(Plane& plane) {
 }
 
 Settings withLimits(const Plane& plane, const AxisLimits& limits) {
-    Settings settings = plane.settings();
+    return withLimits(plane.settings(), limits);
+}
+
+Settings withLimits(Settings settings, const AxisLimits& limits) {
     settings[ManualKey] = limits.manual ? L"True" : L"False";
     settings[XMinKey] = textOf(limits.xMin);
     settings[XMaxKey] = textOf(limits.xMax);

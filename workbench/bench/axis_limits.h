@@ -32,6 +32,8 @@ AxisLimits axisLimits(Plane& plane);
 /// limits stay automatic.
 Settings withEqualAxes(Plane& plane);
 
+Settings withLimits(Settings settings, const AxisLimits& limits);
+
 /// The plane's settings with these limits; those of an automatic scale are of its last frame.
 Settings withLimits(const Plane& plane, const AxisLimits& limits);
 

@@ -49,11 +49,15 @@ bool Bench::has(const Plane& plane) const {
 
 PlaneTitle Bench::titleOf(const Plane& plane) const {
     const std::size_t place = placeOf(plane);
-    if (place == planes_.size()) return {plane.name()};
+    return place == planes_.size() ? PlaneTitle{plane.name()} : titles_[place];
+}
+
+// They are asked for with each frame, and change with the planes alone.
+void Bench::findTitles() {
     std::vector<const PlaneSource*> sources;
     for (const auto& one : planes_)
         sources.push_back(&one->original());
-    return planeTitles(sources)[place];
+    titles_ = planeTitles(sources);
 }
 
 std::shared_ptr<Plane> Bench::shared(const Plane& plane) const {
@@ -64,6 +68,7 @@ void Bench::insert(std::size_t place, std::shared_ptr<Plane> plane) {
     const bool first = planes_.empty();
     plane->setLight(scheme_ == LightNumber);
     planes_.insert(planes_.begin() + static_cast<std::ptrdiff_t>(place), std::move(plane));
+    findTitles();
     if (first) cursor_ = duration();
     planes_[place]->resumeCurves();
     planes_[place]->showMoment(cursor_, hostState());
@@ -75,6 +80,7 @@ void Bench::insert(std::size_t place, std::shared_ptr<Plane> plane) {
 void Bench::take(std::size_t place) {
     planes_[place]->suspendCurves();
     planes_.erase(planes_.begin() + static_cast<std::ptrdiff_t>(place));
+    findTitles();
     if (planes_.empty()) playback_.pause();
     Q_EMIT planesChanged();
     if (cursor_ > duration()) setCursor(duration());
@@ -115,12 +121,14 @@ Plane& Bench::addPlane(std::shared_ptr<const PlaneSource> source, const PlaneSet
 void Bench::showPlanes(std::vector<std::shared_ptr<Plane>> planes, double cursor) {
     playback_.pause();
     const auto gone = std::exchange(planes_, std::move(planes));
+    findTitles();
     cursor_ = std::clamp(cursor, 0.0, duration());
     placePlanes();
     watchWork();
     Q_EMIT planesChanged();
     Q_EMIT cursorMoved(cursor_);
     undo_.clear();
+    forms_.letGo();
 }
 
 namespace {
@@ -138,7 +146,8 @@ Settings settingsFor(const PlaneSource& source, const Plane& plane) {
 }  // namespace
 
 Plane& Bench::replacePlane(Plane& plane, std::shared_ptr<const PlaneSource> source) {
-    PlaneSetup setup{plane.curves(), settingsFor(*source, plane), plane.curveOptions()};
+    PlaneSetup setup{plane.curves(), settingsFor(*source, plane), plane.curveOptions(),
+                     plane.colorNumbers()};
     setup.options.reference = source->options;
     const auto fresh = makePlane(std::move(source), setup);
     const std::size_t place = placeOf(plane);

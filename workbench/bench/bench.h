@@ -189,6 +189,7 @@ private:
     void replace(std::size_t place, const std::shared_ptr<Plane>& plane);
     std::size_t placeOf(const Plane& plane) const;
     std::shared_ptr<Plane> shared(const Plane& plane) const;
+    void findTitles();
     void placePlanes();
     HostState hostState() const;
     void watchWork();
@@ -198,6 +199,7 @@ private:
 
     std::shared_ptr<HostKit::Module> module_;
     std::vector<std::shared_ptr<Plane>> planes_;
+    std::vector<PlaneTitle> titles_;  ///< of each of them
     KeptForms forms_;
     QUndoStack undo_;
     double cursor_ = 0.0;

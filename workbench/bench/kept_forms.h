@@ -27,6 +27,9 @@ public:
     std::shared_ptr<Kept> keep(const std::shared_ptr<const PlaneSource>& form);
     std::shared_ptr<const PlaneSource> formOf(const std::shared_ptr<Kept>& kept);
 
+    /// Holds none any more: no step of undo will ask for one.
+    void letGo() { held_.clear(); }
+
 private:
     void hold(std::shared_ptr<const PlaneSource> form);
 

@@ -69,6 +69,7 @@ Plane::Plane(std::shared_ptr<const PlaneSource> source, HostKit::Module& module,
       options_(setup.options),
       light_(light),
       position_(original_->recording.sampleCount() - 1) {
+    colors_.restore(curves_, setup.colors);
     takeRaw();
     control_ = std::make_unique<HostKit::DrivenControl>(module, host_);
     control_->load(setup.settings.value_or(usualSettings(*original_)));
@@ -105,6 +106,13 @@ void Plane::setCurveOptions(CurveOptions options) {
     options_ = std::move(options);
     useShown();
     assign();
+}
+
+std::vector<std::size_t> Plane::colorNumbers() const {
+    std::vector<std::size_t> numbers;
+    for (const CurveRequest& curve : curves_)
+        numbers.push_back(colors_.numberOf(curve));
+    return numbers;
 }
 
 std::uint32_t Plane::colorOf(std::size_t curve) const {
@@ -148,8 +156,7 @@ void Plane::assign() {
         host.assigned.groups.push_back(std::move(group));
         orbit.name = channelText(nameOf({}));
     }
-    for (const CurveRequest& curve : curves_)
-        colors_.add(curve);
+    colors_.show(curves_);
     host.assigned.slots = {{host.assigned.groups.empty() ? PlainSlot : GroupSlot}};
     notesOfCurves_.assign(curves_.size(), {});
     dropCurves();

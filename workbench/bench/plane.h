@@ -25,6 +25,7 @@ struct PlaneSetup {
     std::vector<CurveRequest> curves{CurveRequest{}};
     std::optional<Settings> settings = {};  ///< unset: what suits the recording, `usualSettings`
     CurveOptions options = {};
+    std::vector<std::size_t> colors = {};  ///< of each curve, `ColorBook`; empty: the usual ones
 };
 
 /// Whether the host of a plane is measuring or looks at stored data.
@@ -77,6 +78,9 @@ public:
     /// The colour of a curve by its place in `curves`, in the host's encoding. A curve keeps it,
     /// whatever else is shown.
     std::uint32_t colorOf(std::size_t curve) const;
+
+    /// The numbers of the curves' colours, for `PlaneSetup`.
+    std::vector<std::size_t> colorNumbers() const;
 
     /// The curves' colours suit a light or a dark background.
     void setLight(bool light);

@@ -1,6 +1,7 @@
 #include "workbench/export/out_actions.h"
 
 #include "host_kit/memory/memory_clipboard.h"
+#include "workbench/bench/safe_name.h"
 #include "workbench/bench/source_files.h"
 #include "workbench/export/plane_picture.h"
 #include "workbench/export/plane_report.h"
@@ -47,10 +48,8 @@ private:
 
 /// A name that any file may have.
 QString fileName(const std::string& name) {
-    QString text = QString::fromStdString(name).simplified();
-    for (QChar& character : text)
-        if (QStringLiteral("/\\:*?\"<>|").contains(character)) character = u'-';
-    return text.isEmpty() ? QStringLiteral("orbit") : text.left(80);
+    const QString text = safeName(QString::fromStdString(name));
+    return text.isEmpty() ? QStringLiteral("orbit") : text;
 }
 
 /// Beside the recording.

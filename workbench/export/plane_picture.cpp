@@ -1,5 +1,6 @@
 #include "workbench/export/plane_picture.h"
 
+#include "workbench/bench/axis_limits.h"
 #include "workbench/scene/bearing_facts.h"
 #include "workbench/scene/fact_words.h"
 #include "workbench/scene/picture_facts.h"
@@ -7,29 +8,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <cwchar>
 
 namespace Rotavue::Workbench {
 
 namespace {
-
-constexpr const wchar_t* LimitKeys[] = {L"minXValue", L"maxXValue", L"minYValue", L"maxYValue"};
-constexpr const wchar_t* ManualKey = L"useManualMagnitudeLimits";
-
-/// A limit that a control leaves out has the value that a missing key reads as.
-double limitIn(const Settings& settings, int place) {
-    const auto found = settings.find(LimitKeys[place]);
-    if (found == settings.end()) return place % 2 == 0 ? -1.0 : 1.0;
-    return std::wcstod(found->second.c_str(), nullptr);
-}
-
-/// Fixed-point notation, the form in which a control writes its numbers.
-std::wstring textOf(double value) {
-    char digits[512];
-    const int length = std::snprintf(digits, sizeof digits, "%.15f", value);
-    return {digits, digits + length};
-}
 
 bool isOn(const Settings& settings, const wchar_t* key) {
     const auto found = settings.find(key);
@@ -53,19 +36,21 @@ std::int32_t ticksOf(const Settings& settings) {
 PlanePicture::PlanePicture(Plane& plane, Bench& bench)
     : plane_(plane),
       title_(bench.titleOf(plane)),
-      wasLight_(bench.scheme() == LightNumber),
-      listener_(plane.host().listener()),
+      host_(plane, bench.scheme() == LightNumber),
       settings_(plane.settings()) {
-    plane_.host().listen(nullptr);
-    plane_.setLight(true);
     control_.emplace(bench.module(), plane_.host());
     control_->assignmentChanged();
     control_->load(settings_);
     findLimits();
 }
 
-PlanePicture::~PlanePicture() {
-    control_.reset();
+PlanePicture::LentHost::LentHost(Plane& plane, bool wasLight)
+    : plane_(plane), wasLight_(wasLight), listener_(plane.host().listener()) {
+    plane_.host().listen(nullptr);
+    plane_.setLight(true);
+}
+
+PlanePicture::LentHost::~LentHost() {
     plane_.setLight(wasLight_);
     plane_.host().listen(listener_);
 }
@@ -73,26 +58,22 @@ PlanePicture::~PlanePicture() {
 void PlanePicture::findLimits() {
     constexpr std::int32_t Side = 600;
     control_->draw(plane_.host().canvas(), Side, Side, LightNumber);
-    const Settings found = control_->save();
-    limit_ = 0.0;
-    for (int i = 0; i < 4; ++i)
-        limit_ = std::max(limit_, std::abs(limitIn(found, i)));
+    const AxisLimits found = limitsIn(control_->save());
+    const std::initializer_list<double> reaches{std::abs(found.xMin), std::abs(found.xMax),
+                                                std::abs(found.yMin), std::abs(found.yMax)};
+    limit_ = std::max(reaches);
     constexpr double Visible = 1e-3;
-    alike_ = true;
-    for (int i = 0; i < 4; ++i)
-        alike_ = alike_ && std::abs(std::abs(limitIn(found, i)) - limit_) <= Visible * limit_;
+    alike_ = limit_ - std::min(reaches) <= Visible * limit_;
 }
 
 double PlanePicture::extent() const {
     // The plug-in's automatic limit is so many times the largest value.
     constexpr double AutomaticHeadroom = 1.1;
-    return isOn(settings_, ManualKey) ? limit_ : limit_ / AutomaticHeadroom;
+    return limitsIn(settings_).manual ? limit_ : limit_ / AutomaticHeadroom;
 }
 
 void PlanePicture::setLimit(double limit) {
-    settings_[ManualKey] = L"True";
-    for (int i = 0; i < 4; ++i)
-        settings_[LimitKeys[i]] = textOf(i % 2 == 0 ? -limit : limit);
+    settings_ = withLimits(settings_, {-limit, limit, -limit, limit, true});
     control_->load(settings_);
     limit_ = limit;
     alike_ = true;

@@ -22,9 +22,6 @@ class PlanePicture {
 public:
     /// Raises `std::runtime_error` where the plug-in fails.
     PlanePicture(Plane& plane, Bench& bench);
-    ~PlanePicture();
-    PlanePicture(const PlanePicture&) = delete;
-    PlanePicture& operator=(const PlanePicture&) = delete;
 
     /// The axes' largest limit, as the plane has it or as its automatic scale finds it.
     double limit() const { return limit_; }
@@ -49,13 +46,26 @@ public:
     std::string paint(PictureStudio& studio, const PictureOrder& order, bool withHeader);
 
 private:
+    /// The plane's host in light colours and without its listener, for as long as this lives.
+    class LentHost {
+    public:
+        LentHost(Plane& plane, bool wasLight);
+        ~LentHost();
+        LentHost(const LentHost&) = delete;
+        LentHost& operator=(const LentHost&) = delete;
+
+    private:
+        Plane& plane_;
+        bool wasLight_;
+        HostKit::HostListener* listener_;
+    };
+
     void findLimits();
     GraphScale scaleWith(std::int32_t ticks) const;
 
     Plane& plane_;
     PlaneTitle title_;
-    bool wasLight_;
-    HostKit::HostListener* listener_;
+    LentHost host_;
     std::optional<HostKit::DrivenControl> control_;
     Settings settings_;
     double limit_ = 0.0;

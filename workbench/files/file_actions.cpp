@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "workbench/bench/safe_name.h"
 #include "workbench/files/usable.h"
 
 namespace Rotavue::Workbench {
@@ -43,14 +44,6 @@ QString planeNames(const Bench& bench) {
         names += QString::fromStdString(plane->name());
     names.removeDuplicates();
     return names.join(QStringLiteral(", "));
-}
-
-// As any file system takes it, without an ending.
-QString fileName(QString name) {
-    constexpr qsizetype Longest = 80;
-    for (QChar& character : name)
-        if (QStringLiteral("/\\:*?\"<>|").contains(character)) character = u'-';
-    return name.left(Longest);
 }
 
 }  // namespace
@@ -162,7 +155,7 @@ void FileActions::leaveViewFile() {
 // to say.
 void FileActions::nameRecovered() {
     leaveViewFile();
-    name_ = fileName(tr("Recovered %1").arg(planeNames(bench_)));
+    name_ = safeName(tr("Recovered %1").arg(planeNames(bench_)));
     Q_EMIT viewNamed(name_);
 }
 
@@ -329,7 +322,7 @@ bool FileActions::saveOrAsk() {
 
 QString FileActions::proposedFile() const {
     if (!viewFile_.isEmpty()) return viewFile_;
-    const QString name = name_.isEmpty() ? fileName(planeNames(bench_)) : name_;
+    const QString name = name_.isEmpty() ? safeName(planeNames(bench_)) : name_;
     return QDir(recent_.folder()).filePath(name + ViewSuffix);
 }
 

@@ -11,6 +11,7 @@
 #include "workbench/recording/json_text.h"
 #include "workbench/recording/machine_file.h"
 #include "workbench/recording/recording_error.h"
+#include "workbench/scene/curve_colors.h"
 #include "workbench/setup/setup_rules.h"
 
 namespace Rotavue::Workbench {
@@ -90,6 +91,10 @@ std::map<std::string, std::string> setupOf(const JsonPlace& place) {
     return setup;
 }
 
+std::size_t colorOf(const JsonPlace& place) {
+    return static_cast<std::size_t>(place.number(0.0, CurveColorsOnLight.size() - 1.0));
+}
+
 View ViewReader::read() const {
     const Json json = parseJson(file_, readSmallFile(file_, LargestFile), Bounds);
     const JsonPlace top(file_, json);
@@ -111,8 +116,11 @@ ViewPlane ViewReader::planeOf(const JsonPlace& place) const {
         plane.options = readMachineText(file_, options->value().dump());
     if (const auto file = place.find("machineFile"))
         plane.options.machineFile = namedMachineFile(*file);
-    for (const JsonPlace& curve : place.at("curves").list(0, MostCurves))
+    for (const JsonPlace& curve : place.at("curves").list(0, MostCurves)) {
         plane.curves.push_back(curveOf(curve));
+        if (const auto color = curve.find("color")) plane.colors.push_back(colorOf(*color));
+    }
+    if (plane.colors.size() != plane.curves.size()) plane.colors.clear();
     plane.curveOptions.reference = plane.options;
     if (const auto speed = place.find("speed"))
         plane.curveOptions.speed = speed->number(0.0, LargestSpeed);
@@ -135,7 +143,7 @@ Path ViewReader::namedMachineFile(const JsonPlace& place) const {
 }
 
 CurveRequest ViewReader::curveOf(const JsonPlace& place) const {
-    place.checkMembers({"kind", "orders", "file"});
+    place.checkMembers({"kind", "orders", "file", "color"});
     CurveRequest curve;
     curve.kind = static_cast<CurveKind>(place.at("kind").word(
         {KindWords[0], KindWords[1], KindWords[2], KindWords[3], KindWords[4], KindWords[5]}));
@@ -211,8 +219,11 @@ Json ViewWriter::planeOf(const ViewPlane& plane) const {
     if (const auto& file = plane.options.machineFile)
         json["machineFile"] = file->empty() ? "" : pathText(*file, folder_);
     json["curves"] = Json::array();
-    for (const CurveRequest& curve : plane.curves)
-        json["curves"].push_back(curveOf(curve));
+    for (std::size_t i = 0; i < plane.curves.size(); ++i) {
+        Json curve = curveOf(plane.curves[i]);
+        if (i < plane.colors.size()) curve["color"] = plane.colors[i];
+        json["curves"].push_back(std::move(curve));
+    }
     if (plane.curveOptions.speed) json["speed"] = *plane.curveOptions.speed;
     if (plane.compensation) json["compensation"] = compensationOf(*plane.compensation);
     return json;

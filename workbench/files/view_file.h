@@ -21,6 +21,7 @@ struct ViewPlane {
     CurveOptions curveOptions;                 ///< `reference` is not kept: it follows `options`
     std::map<std::string, std::string> setup;  ///< the control's settings as it saved them
     std::optional<RunOutSource> compensation;
+    std::vector<std::size_t> colors;  ///< the number of each curve's colour; empty: the usual ones
 };
 
 /// What a window shows: enough to show it again. docs/views.md tells the file member by member.

@@ -26,8 +26,8 @@ Settings settingsOf(const std::map<std::string, std::string>& setup) {
 ViewPlane viewOf(Plane& plane) {
     const PlaneSource& source = plane.original();
     ViewPlane view{
-        source.recording.file,           source.options, plane.curves(), plane.curveOptions(),
-        setupOf(plane.control().save()), std::nullopt};
+        source.recording.file,           source.options, plane.curves(),      plane.curveOptions(),
+        setupOf(plane.control().save()), std::nullopt,   plane.colorNumbers()};
     if (const auto& runOut = plane.shown().runOut) view.compensation = runOut->source;
     return view;
 }
@@ -47,7 +47,8 @@ void showView(Bench& bench, const View& view,
     std::vector<std::shared_ptr<Plane>> planes;
     for (std::size_t i = 0; i < view.planes.size(); ++i) {
         const ViewPlane& saved = view.planes[i];
-        const PlaneSetup setup{saved.curves, settingsOf(saved.setup), saved.curveOptions};
+        const PlaneSetup setup{saved.curves, settingsOf(saved.setup), saved.curveOptions,
+                               saved.colors};
         planes.push_back(bench.makePlane(sources[i], setup));
     }
     bench.showPlanes(std::move(planes), view.cursor);

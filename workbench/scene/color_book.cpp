@@ -3,6 +3,7 @@
 #include "workbench/scene/curve_colors.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Rotavue::Workbench {
 
@@ -29,30 +30,62 @@ std::size_t usualNumber(const CurveRequest& request) {
 
 }  // namespace
 
-std::size_t ColorBook::usersOf(std::size_t number) const {
+const ColorBook::Entry* ColorBook::entryOf(const CurveRequest& request) const {
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& entry) { return entry.request == request; });
+    return found == entries_.end() ? nullptr : &*found;
+}
+
+std::size_t ColorBook::shownWith(std::size_t number) const {
+    return static_cast<std::size_t>(std::count_if(
+        entries_.begin(), entries_.end(),
+        [number](const Entry& entry) { return entry.isShown && entry.number == number; }));
+}
+
+std::size_t ColorBook::knownWith(std::size_t number) const {
     return static_cast<std::size_t>(
         std::count_if(entries_.begin(), entries_.end(),
                       [number](const Entry& entry) { return entry.number == number; }));
 }
 
+// What no curve has ever had goes first, so that one that comes back finds its own.
 std::size_t ColorBook::freeNumber(std::size_t wanted) const {
-    if (usersOf(wanted) == 0) return wanted;
+    if (shownWith(wanted) == 0) return wanted;
+    const auto users = [this](std::size_t number) {
+        return std::pair(shownWith(number), knownWith(number));
+    };
     std::size_t best = 0;
     for (std::size_t number = 1; number < CurveColorsOnLight.size(); ++number)
-        if (usersOf(number) < usersOf(best)) best = number;
+        if (users(number) < users(best)) best = number;
     return best;
 }
 
-void ColorBook::add(const CurveRequest& request) {
-    const auto isIt = [&](const Entry& entry) { return entry.request == request; };
-    if (std::any_of(entries_.begin(), entries_.end(), isIt)) return;
-    entries_.push_back({request, freeNumber(usualNumber(request))});
+void ColorBook::give(const CurveRequest& request) {
+    const Entry* const known = entryOf(request);
+    if (known != nullptr && known->isShown) return;
+    const std::size_t number = freeNumber(numberOf(request));
+    std::erase_if(entries_, [&](const Entry& entry) { return entry.request == request; });
+    entries_.push_back({request, number});
+}
+
+void ColorBook::show(const std::vector<CurveRequest>& curves) {
+    for (Entry& entry : entries_)
+        entry.isShown =
+            entry.isShown && std::find(curves.begin(), curves.end(), entry.request) != curves.end();
+    for (const CurveRequest& curve : curves)
+        give(curve);
+}
+
+void ColorBook::restore(const std::vector<CurveRequest>& curves,
+                        const std::vector<std::size_t>& numbers) {
+    if (numbers.size() != curves.size()) return;
+    for (std::size_t i = 0; i < curves.size(); ++i)
+        entries_.push_back({curves[i], numbers[i] % CurveColorsOnLight.size()});
 }
 
 std::size_t ColorBook::numberOf(const CurveRequest& request) const {
-    for (const Entry& entry : entries_)
-        if (entry.request == request) return entry.number;
-    return usualNumber(request);
+    const Entry* const known = entryOf(request);
+    return known == nullptr ? usualNumber(request) : known->number;
 }
 
 }  // namespace Rotavue::Workbench

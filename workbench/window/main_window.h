@@ -110,7 +110,6 @@ private:
     QMenu* viewMenu_ = nullptr;
     QMenu* timeMenu_ = nullptr;
     QMenu* helpMenu_ = nullptr;
-    QMenu* dockMenu_ = nullptr;
     QWidget* centre_ = nullptr;
     std::vector<std::function<bool()>> closeChecks_;
     QByteArray firstLayout_;

@@ -73,6 +73,21 @@ TEST_F(UndoMemoryTest, ManyTakesOfRunOutKeepFewCopiesAndAllCanBeUndone) {
     EXPECT_EQ(plane.sharedShown(), plane.sharedOriginal());
 }
 
+TEST_F(UndoMemoryTest, PlanesThatAreShownInThePlaceOfAllLeaveNoFormBehind) {
+    Plane& plane = add();
+    const std::weak_ptr original = plane.sharedOriginal();
+    std::weak_ptr<const PlaneSource> left;
+    {
+        const auto form = still(plane);
+        left = form;
+        bench_.showCompensated(plane, form);
+    }
+    ASSERT_FALSE(left.expired());
+    bench_.showPlanes({}, 0.0);
+    EXPECT_TRUE(left.expired());
+    EXPECT_TRUE(original.expired());
+}
+
 TEST_F(UndoMemoryTest, AHundredStepsCanBeTakenBackAndNoMore) {
     Plane& plane = add();
     for (int i = 0; i < 150; ++i)

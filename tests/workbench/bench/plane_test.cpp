@@ -68,6 +68,20 @@ TEST_F(PlaneTest, ACurveKeepsItsColourWhateverElseIsTicked) {
     EXPECT_EQ(plane.colorOf(0), color);
 }
 
+// The reference was ticked first and has the colour that the second order would have.
+TEST_F(PlaneTest, ColoursComeBackWithTheirNumbers) {
+    const CurveRequest second{.kind = CurveKind::Harmonic, .orders = {2.0}};
+    const CurveRequest reference{.kind = CurveKind::Reference, .file = "none.json"};
+    Plane& ticked = add();
+    ticked.setCurves({reference});
+    ticked.setCurves({second, reference});
+    Plane& again = add(rotor(), {.curves = ticked.curves(), .colors = ticked.colorNumbers()});
+    for (std::size_t i = 0; i < 2; ++i)
+        EXPECT_EQ(again.colorOf(i), ticked.colorOf(i));
+    Plane& usual = add(rotor(), {.curves = ticked.curves()});
+    EXPECT_NE(usual.colorOf(0), ticked.colorOf(0));
+}
+
 TEST_F(PlaneTest, NotesWhyACurveCannotBeHadAndShowsTheOthers) {
     Plane& plane = add(withoutKeyphasor(rotor()));
     plane.setCurves({{}, {.kind = CurveKind::Average}});

@@ -1,6 +1,9 @@
 #include "workbench/bench/settings_command.h"
 
 #include "tests/workbench/bench/bench_fixture.h"
+#include "workbench/bench/undo_macro.h"
+
+#include <stdexcept>
 
 namespace Rotavue::Workbench {
 namespace {
@@ -17,6 +20,20 @@ protected:
     std::wstring turnsOf(const Plane& plane) { return plane.settings().at(L"revolutions"); }
     int steps() { return bench_.undoStack().count(); }
 };
+
+TEST_F(SettingsCommandTest, AStepOfSeveralThatFailsOnTheWayLeavesTheUndoUsable) {
+    Plane& plane = add();
+    const int before = steps();
+    const auto fail = [&] {
+        const UndoMacro macro(bench_.undoStack(), "turns");
+        bench_.setSettings(plane, turns(plane, L"7"));
+        throw std::runtime_error("the plug-in fails");
+    };
+    EXPECT_THROW(fail(), std::runtime_error);
+    EXPECT_EQ(steps(), before + 1);
+    bench_.undoStack().undo();  // would be refused inside a macro
+    EXPECT_EQ(turnsOf(plane), L"8");
+}
 
 TEST_F(SettingsCommandTest, ChangesOfOneRunAreOneStep) {
     Plane& plane = add();

@@ -62,6 +62,19 @@ TEST_F(ViewFileTest, ReadsBackAllThatItWrites) {
     EXPECT_EQ(plane.compensation->slowRoll, at("slow.csv"));
 }
 
+TEST_F(ViewFileTest, KeepsTheColoursOfCurvesAndGivesNoneWhereOneIsMissing) {
+    View view = full();
+    view.planes[0].colors = {0, 5, 3};
+    writeView(at("v.rotavue"), view);
+    EXPECT_EQ(readView(at("v.rotavue")).planes[0].colors, (std::vector<std::size_t>{0, 5, 3}));
+    write("one.rotavue", R"({"rotavueView":1,"planes":[{"recording":"a.csv","setup":{},
+        "curves":[{"kind":"raw","color":2},{"kind":"average"}]}]})");
+    EXPECT_TRUE(readView(at("one.rotavue")).planes[0].colors.empty());
+    EXPECT_EQ(faultOf(R"({"rotavueView":1,"planes":[{"recording":"a.csv","setup":{},
+        "curves":[{"kind":"raw","color":6}]}]})"),
+              "v.rotavue: found 6 at /planes/0/curves/0/color, allowed: a number from 0 to 5");
+}
+
 TEST_F(ViewFileTest, KeepsWhichMachineFileCounts) {
     using File = std::optional<std::filesystem::path>;
     for (const File& file : {File{}, File{""}, File{at("data/other.json")}}) {

@@ -13,9 +13,8 @@ const CurveRequest First{CurveKind::Harmonic, {1.0}};
 const CurveRequest Second{CurveKind::Harmonic, {2.0}};
 const CurveRequest Third{CurveKind::Harmonic, {3.0}};
 
-std::size_t added(ColorBook& book, const CurveRequest& request) {
-    book.add(request);
-    return book.numberOf(request);
+CurveRequest ofOrder(double order) {
+    return {CurveKind::Harmonic, {order}};
 }
 
 TEST(ColorBook, TheCurvesOfEveryPlaneHaveAColourEachHoweverTheyCome) {
@@ -23,11 +22,11 @@ TEST(ColorBook, TheCurvesOfEveryPlaneHaveAColourEachHoweverTheyCome) {
         Raw, Average, First, Second, {CurveKind::SubSync}, {CurveKind::ShaftCenter}};
     ColorBook forwards;
     ColorBook backwards;
+    forwards.show(usual);
+    backwards.show({usual.rbegin(), usual.rend()});
     std::set<std::size_t> numbers;
-    for (std::size_t i = 0; i < usual.size(); ++i) {
-        numbers.insert(added(forwards, usual[i]));
-        backwards.add(usual[usual.size() - 1 - i]);
-    }
+    for (const CurveRequest& curve : usual)
+        numbers.insert(forwards.numberOf(curve));
     EXPECT_EQ(numbers.size(), 6U);
     for (const CurveRequest& curve : usual)
         EXPECT_EQ(forwards.numberOf(curve), backwards.numberOf(curve));
@@ -36,25 +35,72 @@ TEST(ColorBook, TheCurvesOfEveryPlaneHaveAColourEachHoweverTheyCome) {
 // 2X has the number of orders above the first; 3X gets the first that nobody has, that of raw.
 TEST(ColorBook, TwoCurvesOfAKindAreToldApart) {
     ColorBook book;
-    const std::size_t second = added(book, Second);
-    EXPECT_EQ(added(book, Third), 0U);
-    EXPECT_NE(second, 0U);
+    book.show({Second, Third});
+    EXPECT_EQ(book.numberOf(Third), 0U);
+    EXPECT_NE(book.numberOf(Second), 0U);
 }
 
 TEST(ColorBook, ACurveKeepsItsNumberWhenTheOwnerOfThatComes) {
     ColorBook book;
-    book.add(Second);
-    book.add(Third);
-    EXPECT_NE(added(book, Raw), 0U);
-    EXPECT_EQ(added(book, Third), 0U);
+    book.show({Second, Third});
+    book.show({Raw, Second, Third});
+    EXPECT_NE(book.numberOf(Raw), 0U);
+    EXPECT_EQ(book.numberOf(Third), 0U);
 }
 
 TEST(ColorBook, ManyCurvesShareTheColoursEvenly) {
     ColorBook book;
-    std::vector<int> users(6);
+    std::vector<CurveRequest> curves;
     for (int order = 1; order <= 12; ++order)
-        ++users[added(book, {CurveKind::Harmonic, {order / 4.0}})];
+        curves.push_back(ofOrder(order / 4.0));
+    book.show(curves);
+    std::vector<int> users(6);
+    for (const CurveRequest& curve : curves)
+        ++users[book.numberOf(curve)];
     EXPECT_EQ(users, std::vector<int>(6, 2));  // 12 curves, 6 colours
+}
+
+// Raw has 0 and 3X to 7X would use up the other five, were theirs not free again.
+TEST(ColorBook, TheColourOfACurveThatHasGoneIsFree) {
+    ColorBook book;
+    for (int order = 3; order <= 7; ++order) {
+        book.show({Raw, ofOrder(order)});
+        book.show({Raw});
+    }
+    book.show({Raw, ofOrder(8)});
+    EXPECT_EQ(book.numberOf(Raw), 0U);
+    EXPECT_NE(book.numberOf(ofOrder(8)), 0U);
+}
+
+// 3 is the number of both, and 0 the first free one: second's for as long as the third is shown.
+TEST(ColorBook, ACurveThatComesBackHasItsOwnColourUnlessThatIsTaken) {
+    ColorBook book;
+    book.show({Second, Third});
+    book.show({Second});
+    book.show({Second, Average});
+    book.show({Second, Average, Third});
+    EXPECT_EQ(book.numberOf(Third), 0U);
+    book.show({Second, Average});
+    book.show({Second, Average, Raw});
+    book.show({Second, Average, Raw, Third});
+    EXPECT_EQ(book.numberOf(Raw), 0U);
+    EXPECT_EQ(std::set({book.numberOf(Second), book.numberOf(Average), book.numberOf(Raw),
+                        book.numberOf(Third)})
+                  .size(),
+              4U);
+}
+
+// Ticked the other way round than they are listed: the reference has come first.
+TEST(ColorBook, RestoredNumbersDoNotDependOnTheOrder) {
+    const CurveRequest reference{CurveKind::Reference, {}, "as-new.json"};
+    ColorBook before;
+    before.show({reference});
+    before.show({Second, reference});
+    ColorBook after;
+    after.restore({Second, reference}, {before.numberOf(Second), before.numberOf(reference)});
+    after.show({Second, reference});
+    EXPECT_EQ(after.numberOf(reference), 3U);
+    EXPECT_EQ(after.numberOf(Second), before.numberOf(Second));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "workbench/analysis/short_text.h"
 #include "workbench/bench/axis_limits.h"
+#include "workbench/bench/undo_macro.h"
 #include "workbench/scene/shown_span.h"
 
 namespace Rotavue::Workbench {
@@ -67,10 +68,11 @@ void NumberLink::makeEqual() {
         if (!axisLimits(*plane).areEqual()) unequal.push_back(plane.get());
     if (unequal.empty()) return showWarnings();
     const QString what = tr("one scale for both axes");
-    bench_.undoStack().beginMacro(what);
-    for (Plane* plane : unequal)
-        bench_.setSettings(*plane, withEqualAxes(*plane), what);
-    bench_.undoStack().endMacro();
+    {
+        const UndoMacro macro(bench_.undoStack(), what);
+        for (Plane* plane : unequal)
+            bench_.setSettings(*plane, withEqualAxes(*plane), what);
+    }
     showWarnings();
 }
 

@@ -2,6 +2,7 @@
 
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/shaft_center.h"
+#include "workbench/bench/undo_macro.h"
 #include "workbench/files/usable.h"
 
 #include <QKeySequence>
@@ -92,11 +93,10 @@ void RestActions::take(RestPosition rest) {
     CurveOptions options = plane->curveOptions();
     options.shaftCenter.rest = rest;
     options.shaftCenter.restSpan = stretch;
-    bench_.undoStack().beginMacro(tr("where the shaft rests"));
+    const UndoMacro macro(bench_.undoStack(), tr("where the shaft rests"));
     bench_.setCurveOptions(*plane, std::move(options));
     const std::vector<CurveRequest> curves = withShaftCenter(plane->curves());
     if (curves != plane->curves()) bench_.setCurves(*plane, curves);
-    bench_.undoStack().endMacro();
 }
 
 // Whether the bottom or the centre counts is a choice of its own, in the channel tree.

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeySequence>
+#include <QPointer>
 #include <QWidget>
 
 #include <exception>
@@ -61,8 +62,9 @@ std::shared_ptr<Plane> RunOutActions::shared(const Plane* plane) const {
 }
 
 void RunOutActions::refresh() {
+    forgetGone();
     for (const auto& one : bench_.planes())
-        if (one->shown().runOut) known_[one] = one->shown().runOut;
+        if (const auto& taken = one->shown().runOut) known_[one] = {taken->source, taken->slowRoll};
     const auto plane = shared(marked_.plane());
     const bool known = plane && known_.contains(plane);
     const QString nothing = tr("nothing is open");
@@ -98,7 +100,6 @@ RunOutActions::Result RunOutActions::resultOf(const Source& original, const Make
 }
 
 void RunOutActions::start(Plane& plane, Maker make) {
-    forgetGone();
     const std::weak_ptr<Plane> place = shared(&plane);
     cancel(plane);
     Work& work = works_[place];
@@ -107,7 +108,11 @@ void RunOutActions::start(Plane& plane, Maker make) {
     const int number = work.number = bench_.beginWork(
         {.what = tr("%1 without run-out").arg(QString::fromStdString(bench_.titleOf(plane).text())),
          .part = [progress] { return progress->part.load(); },
-         .cancel = [progress] { progress->cancelled = true; }});
+         .cancel =
+             [actions = QPointer(this), progress] {
+                 progress->cancelled = true;
+                 if (actions) actions->refresh();
+             }});
     // The plane itself belongs to this thread; what the worker reads outlives it there.
     work.job->start([this, place, make = std::move(make), progress, number,
                      original = plane.sharedOriginal()]() -> LatestJob::Deliver {
@@ -141,7 +146,7 @@ bool RunOutActions::showMade(Plane& plane, const RunOutSource& source) {
     return false;
 }
 
-/// What is still being made for a plane is no longer wanted.
+/// What is still being made for a plane is no longer wanted; whatever is wished next wins.
 void RunOutActions::cancel(const Plane& plane) {
     const auto found = works_.find(shared(&plane));
     if (found == works_.end() || !found->second.job->isRunning()) return;
@@ -209,21 +214,17 @@ void RunOutActions::takeFrom(const std::filesystem::path& slowRoll) {
 void RunOutActions::choose(std::optional<CompensationForm> form) {
     Plane* const plane = marked_.plane();
     if (plane == nullptr) return;
-    if (!form) cancel(*plane);
-    if (form == compensationOf(*plane)) return;
-    if (!form) {
-        bench_.showOriginal(*plane);
-        return;
-    }
+    cancel(*plane);
+    if (form == compensationOf(*plane)) return refresh();
+    if (!form) return bench_.showOriginal(*plane);
     const auto known = known_.find(shared(plane));
-    if (known == known_.end()) return;
-    RunOutSource source = known->second->source;
-    source.form = *form;
-    if (showMade(*plane, source)) return;
-    start(*plane,
-          [source, runOut = known->second](const Source& original, const ReadingWatch& /*watch*/) {
-              return withoutRunOut(original, source, runOut->slowRoll);
-          });
+    if (known == known_.end()) return refresh();
+    Known runOut = known->second;
+    runOut.source.form = *form;
+    if (showMade(*plane, runOut.source)) return;
+    start(*plane, [runOut](const Source& original, const ReadingWatch& /*watch*/) {
+        return withoutRunOut(original, runOut.source, runOut.slowRoll);
+    });
 }
 
 }  // namespace Rotavue::Workbench

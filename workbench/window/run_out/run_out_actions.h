@@ -65,6 +65,12 @@ private:
         int number = 0;                           ///< of that among the bench's work
     };
 
+    /// Enough to take it off again, without the recordings that it was of.
+    struct Known {
+        RunOutSource source;
+        SlowRoll slowRoll;
+    };
+
     /// By the plane itself, not by its place in memory: that may be a later plane's.
     template <class Value>
     using OfPlane = std::map<std::weak_ptr<Plane>, Value, std::owner_less<>>;
@@ -85,9 +91,9 @@ private:
     Bench& bench_;
     MarkedPlane marked_;
     QActionGroup forms_;
-    QString folder_;  ///< of the last recording of slow roll; empty: beside the plane's
-    OfPlane<std::shared_ptr<const RunOut>> known_;  ///< what was taken off last
-    OfPlane<Work> works_;                           ///< of each plane, the newest counts
+    QString folder_;        ///< of the last recording of slow roll; empty: beside the plane's
+    OfPlane<Known> known_;  ///< what was taken off last
+    OfPlane<Work> works_;   ///< of each plane, the newest counts
     OfPlane<std::vector<std::weak_ptr<const PlaneSource>>> made_;  ///< what undo may still hold
 };
 

@@ -128,6 +128,38 @@ TEST_F(RunOutActionsTest, LeavingItInWinsOverWhatIsStillBeingTaken) {
     EXPECT_EQ(plane_->sharedShown(), plane_->sharedOriginal());
 }
 
+TEST_F(RunOutActionsTest, TheFormThatIsShownWinsOverOneThatIsStillBeingMade) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    actions_.waveform.trigger();
+    actions_.vector.trigger();
+    QTest::qWait(300);
+    EXPECT_EQ(plane_->compensation(), VectorWords);
+    EXPECT_TRUE(actions_.vector.isChecked());
+}
+
+TEST_F(RunOutActionsTest, AfterACancelTheMenuTicksTheFormThatIsShown) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    actions_.waveform.trigger();
+    EXPECT_TRUE(actions_.waveform.isChecked());
+    bench_.cancelWork();
+    EXPECT_TRUE(actions_.vector.isChecked());
+    QTest::qWait(300);
+    EXPECT_EQ(plane_->compensation(), VectorWords);
+    EXPECT_TRUE(actions_.vector.isChecked());
+}
+
+TEST_F(RunOutActionsTest, WhatIsKnownOfRunOutHoldsNoRecording) {
+    takeFrom({0.1, 0.5});
+    ASSERT_TRUE(becomes(VectorWords));
+    const std::weak_ptr original = plane_->sharedOriginal();
+    plane_ = nullptr;
+    bench_.showPlanes({}, 0.0);
+    QTest::qWait(50);
+    EXPECT_TRUE(original.expired());
+}
+
 TEST_F(RunOutActionsTest, WhatIsCancelledLeavesThePlaneAsItIsWithoutAWord) {
     WorkBar bar(bench_);
     const QSignalSpy reports(&bench_, &Bench::troubled);
