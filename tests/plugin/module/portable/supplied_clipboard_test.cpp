@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <utility>
 
 namespace Meridax::VisualControls::Rotavue {
 namespace {
@@ -58,9 +59,9 @@ TEST_F(SuppliedClipboardTest, HostMayTakeItsClipboardAwayInsideTheCall) {
 }
 
 TEST_F(SuppliedClipboardTest, CopyInsideACopyKeepsBothTexts) {
-    host.during = [this] {
-        host.during = nullptr;
-        Api::copyToClipboard(clipboard, L"inner");
+    bool inside = false;
+    host.during = [&] {
+        if (!std::exchange(inside, true)) Api::copyToClipboard(clipboard, L"inner");
     };
     Api::copyToClipboard(clipboard, L"outer");
     EXPECT_EQ(host.texts, (std::vector<std::wstring>{L"outer", L"inner"}));
