@@ -2,7 +2,6 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QPointer>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
 
@@ -49,13 +48,18 @@ HostKit::EditAnswer LimitEditor::edit(QPoint place, const QString& text) {
     selectAll();
     show();
     setFocus(Qt::PopupFocusReason);
-    const QPointer<LimitEditor> alive(this);
-    const int result = loop_.exec();
-    if (!alive) return {.accepted = false, .text = text.toStdWString()};
+    const int result = run();
     const bool hadFocus = hasFocus();
     hide();
     if (hadFocus) below_.setFocus(Qt::PopupFocusReason);
     return {.accepted = result == Accepted && isModified(), .text = this->text().toStdWString()};
+}
+
+int LimitEditor::run() {
+    ++calls_;
+    const int result = loop_.exec();
+    if (--calls_ == 0) Q_EMIT returned();
+    return result;
 }
 
 void LimitEditor::cancel() {

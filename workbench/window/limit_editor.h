@@ -29,6 +29,10 @@ public:
 
     bool isEditing() const { return loop_.isRunning(); }
 
+    /// Whether a call of `edit` has not returned yet, even though its editing may have ended: who
+    /// owns the editor must keep it until `returned`.
+    bool isInUse() const { return calls_ > 0; }
+
     enum class Way { Nowhere, Next, Previous };
 
     /// Where the user wanted to go from the last text; after that, nowhere.
@@ -36,6 +40,10 @@ public:
 
     /// Ends the editing as Escape does.
     void cancel();
+
+Q_SIGNALS:
+    /// No call of `edit` waits any more.
+    void returned();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -46,9 +54,11 @@ private:
     enum Result { Cancelled, Accepted };
 
     void placeAt(QPoint place, const QString& text);
+    int run();
 
     QWidget& below_;
     QEventLoop loop_;
+    int calls_ = 0;
     Way way_ = Way::Nowhere;
 };
 

@@ -12,6 +12,7 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -132,11 +133,18 @@ void MainWindow::addAloneAction() {
     alone.setCheckable(true);
     connect(&alone, &QAction::triggered, &tiles_, &OrbitTiles::setAlone);
     connect(&tiles_, &OrbitTiles::aloneChanged, &alone, &QAction::setChecked);
+    // Wherever the focus is, but in an editor; while none is alone the key is anybody's.
+    auto* end = new QShortcut(Qt::Key_Escape, this, [this] { tiles_.setAlone(false); });
+    end->setEnabled(false);
+    connect(&tiles_, &OrbitTiles::aloneChanged, end, &QShortcut::setEnabled);
 }
 
 void MainWindow::addPlotActions() {
     addAction(*viewMenu_, "equalAxes", tr("One scale for both &axes"), Qt::CTRL | Qt::Key_E,
-              [this] { facts_.makeEqual(); });
+              [this] {
+                  if (!facts_.makeEqual())
+                      statusBar()->showMessage(tr("The axes have one scale already."));
+              });
     addAction(*viewMenu_, "editLimits", tr("Edit the &limits"), Qt::Key_F2, [this] {
         if (OrbitView* view = tiles_.viewOf(currentPlane())) view->editLimits();
     });

@@ -1,7 +1,5 @@
 #include "workbench/window/orbit_tiles.h"
 
-#include <QKeyEvent>
-
 #include <algorithm>
 #include <cmath>
 
@@ -42,7 +40,17 @@ OrbitTile* OrbitTiles::makeTile(const std::shared_ptr<Plane>& plane) {
     return tile;
 }
 
-// A tile that is in the middle of editing goes once its editor has returned.
+namespace {
+
+/// The loop of an editor that has been told to end is still on the stack.
+void deleteWhenDone(OrbitTile& tile) {
+    const LimitEditor& editor = tile.view().editor();
+    if (!editor.isInUse()) return tile.deleteLater();
+    QObject::connect(&editor, &LimitEditor::returned, &tile, &QObject::deleteLater);
+}
+
+}  // namespace
+
 void OrbitTiles::dropTiles() {
     const auto isGone = [this](OrbitTile* tile) { return !bench_.has(tile->view().plane()); };
     for (OrbitTile* tile : tiles_) {
@@ -50,7 +58,7 @@ void OrbitTiles::dropTiles() {
         tile->view().editor().cancel();
         tile->hide();
         tile->view().plane().host().listen(nullptr);
-        QMetaObject::invokeMethod(tile, &QObject::deleteLater, Qt::QueuedConnection);
+        deleteWhenDone(*tile);
     }
     std::erase_if(tiles_, isGone);
 }
@@ -99,11 +107,6 @@ void OrbitTiles::setAlone(bool alone) {
     isAlone_ = alone;
     layOut();
     Q_EMIT aloneChanged(isAlone_);
-}
-
-void OrbitTiles::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape || !isAlone_) return QWidget::keyPressEvent(event);
-    setAlone(false);
 }
 
 void OrbitTiles::step(int planes) {

@@ -23,7 +23,7 @@ public:
     Plane* current() const { return current_; }
     void setCurrent(Plane* plane);
 
-    /// Whether the current plane has the room of all; Escape and a plane that comes or goes end it.
+    /// Whether the current plane has the room of all; a plane that comes or goes ends it.
     bool isAlone() const { return isAlone_; }
     void setAlone(bool alone);
 
@@ -42,9 +42,6 @@ public:
 Q_SIGNALS:
     void currentChanged(Plane* plane);
     void aloneChanged(bool alone);
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void rebuild();

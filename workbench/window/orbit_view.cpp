@@ -165,24 +165,34 @@ void OrbitView::editLimits() {
     const QPointer<OrbitView> alive(this);
     const int run = bench_.beginRun();
     setFocus(Qt::ShortcutFocusReason);
-    const Settings original = plane_->settings();
-    const bool fixed = fixScale(run);
-    const Settings before = plane_->settings();
+    fixScale();
     editLimit(0, run);
     if (alive) walkFrom(0, run);
-    if (!alive || !bench_.has(*plane_)) return;
-    returnPointer();
-    if (fixed && plane_->settings() == before) {
-        bench_.setSettings(*plane_, original, tr("limits"), run);
-    }
+    if (!alive) return;
+    freeScale();
+    if (bench_.has(*plane_)) returnPointer();
 }
 
-/// A control lets its limits be edited while they are manual. True where they were not.
-bool OrbitView::fixScale(int run) {
+/// A control lets its limits be edited while they are manual. It is no step of undo before one of
+/// them is accepted: what could be redone stays.
+void OrbitView::fixScale() {
     AxisLimits limits = axisLimits(*plane_);
-    if (std::exchange(limits.manual, true)) return false;
-    bench_.setSettings(*plane_, withLimits(*plane_, limits), tr("limits"), run);
-    return true;
+    if (std::exchange(limits.manual, true)) return;
+    automatic_ = plane_->settings();
+    plane_->load(withLimits(*plane_, limits));
+}
+
+/// Nothing was accepted.
+void OrbitView::freeScale() {
+    if (automatic_) plane_->load(*std::exchange(automatic_, {}));
+}
+
+void OrbitView::noticeLimits(int run) {
+    if (!automatic_) return bench_.noticeSettings(*plane_, tr("limits"), run);
+    if (!bench_.has(*plane_) || !plane_->readBack()) return;
+    const Settings accepted = plane_->settings();
+    freeScale();
+    bench_.setSettings(*plane_, accepted, tr("limits"), run);
 }
 
 /// Edits one limit after the other for as long as the user goes on from the last one.
@@ -206,7 +216,7 @@ void OrbitView::editLimit(std::size_t limit, int run) {
     repaint();
     if (limit >= limitPlaces_.size()) return;
     click(limitPlaces_[limit]);
-    if (alive) bench_.noticeSettings(*plane_, tr("limits"), run);
+    if (alive) noticeLimits(run);
 }
 
 // The strip runs from the one limit of its axis to the other: their middle is in it.

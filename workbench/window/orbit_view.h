@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Rotavue::Workbench {
@@ -72,7 +73,9 @@ private:
     template <class Message>
     void send(Message message);
 
-    bool fixScale(int run);
+    void fixScale();
+    void freeScale();
+    void noticeLimits(int run);
     void editLimit(std::size_t limit, int run);
     void walkFrom(std::size_t limit, int run);
     std::size_t nearestLimit(QPoint place) const;
@@ -83,7 +86,8 @@ private:
     std::shared_ptr<Plane> plane_;
     LimitEditor editor_;
     QString lastFailure_;
-    std::vector<QPoint> limitPlaces_;  ///< where the last frame has its limits
+    std::optional<Settings> automatic_;  ///< what the plane had before its limits were opened
+    std::vector<QPoint> limitPlaces_;    ///< where the last frame has its limits
 };
 
 }  // namespace Rotavue::Workbench

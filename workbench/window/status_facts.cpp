@@ -95,10 +95,11 @@ void StatusFacts::tellScale(Plane& plane) {
                                   "orbit. Click for one scale (Ctrl+E)"));
 }
 
-void StatusFacts::makeEqual() {
+bool StatusFacts::makeEqual() {
     Plane* plane = tiles_.current();
-    if (plane == nullptr || axisLimits(*plane).areEqual()) return;
+    if (plane == nullptr || axisLimits(*plane).areEqual()) return false;
     bench_.setSettings(*plane, withEqualAxes(*plane), tr("one scale for both axes"));
+    return true;
 }
 
 }  // namespace Rotavue::Workbench

@@ -19,8 +19,9 @@ public:
     /// The bar owns the labels, the caller this object.
     StatusFacts(Bench& bench, OrbitTiles& tiles, QStatusBar& bar);
 
-    /// Gives both axes the scale of the one that reaches further.
-    void makeEqual();
+    /// Gives both axes the scale of the one that reaches further. False where they have one
+    /// already.
+    bool makeEqual();
 
 private:
     void tell();

@@ -2,6 +2,7 @@
 
 #include "tests/workbench/window/window_fixture.h"
 
+#include <QPointer>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -150,6 +151,31 @@ TEST_F(LimitKeysTest, EscapeLeavesAnAutomaticScaleAutomatic) {
     EXPECT_TRUE(view.hasFocus());
 }
 
+TEST_F(LimitKeysTest, EscapeOnAnAutomaticScaleLeavesRedoAndTheSavedStateAlone) {
+    OrbitView& view = open();
+    bench().setCurves(view.plane(), {});
+    bench().undoStack().setClean();
+    bench().undoStack().undo();
+    editByKey(view, {type("150", Qt::Key_Escape)});
+    EXPECT_FALSE(axisLimits(view.plane()).manual);
+    ASSERT_TRUE(bench().undoStack().canRedo());
+    bench().undoStack().redo();
+    EXPECT_TRUE(bench().undoStack().isClean());
+}
+
+TEST_F(LimitKeysTest, ATileStaysUntilItsEditorHasReturned) {
+    OrbitView& view = openPlain();
+    const QPointer<OrbitView> tile(&view);
+    editByKey(view, {[&](LimitEditor&) {
+                  bench().showPlanes({}, 0.0);
+                  // Whatever is posted and deleted in one go, the loop of the editor is below.
+                  QCoreApplication::sendPostedEvents();
+                  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                  EXPECT_TRUE(tile);
+              }});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !tile; }));
+}
+
 // The control's pointer was on the label; a label that stays lit would take the next click.
 TEST_F(LimitKeysTest, NothingStaysLitBehindTheEditor) {
     OrbitView& view = openPlain();
@@ -202,6 +228,16 @@ TEST_F(LimitKeysTest, AKeyFitsAnAxisAsAClickOnItsStripDoes) {
     EXPECT_DOUBLE_EQ(both.yMax, 100.0);
     bench().undoStack().undo();
     EXPECT_DOUBLE_EQ(axisLimits(view.plane()).yMax, 20.0);
+}
+
+TEST_F(LimitKeysTest, OneScaleAlreadyIsSaid) {
+    OrbitView& view = openPlain();
+    press(Qt::Key_E, Qt::ControlModifier);
+    ASSERT_TRUE(axisLimits(view.plane()).areEqual());
+    const int steps = bench().undoStack().count();
+    press(Qt::Key_E, Qt::ControlModifier);
+    EXPECT_EQ(bench().undoStack().count(), steps);
+    EXPECT_EQ(window_.statusBar()->currentMessage(), "The axes have one scale already.");
 }
 
 TEST_F(LimitKeysTest, AnAutomaticScaleFitsByItselfAndTheKeySaysSo) {

@@ -49,6 +49,21 @@ TEST_F(MainWindowTest, ThePlaneThatIsAloneHasTheRoomOfAll) {
     EXPECT_EQ(tiles.tiles()[2]->size(), shared);
 }
 
+TEST_F(MainWindowTest, EscapeEndsAloneWhereverTheFocusIs) {
+    open(rotor("Bearing 1"));
+    open(rotor("Bearing 2"));
+    for (const char* name : {"waveformDock", "numberDock", "channelDock"}) {
+        auto* const dock = window_.findChild<QDockWidget*>(name);
+        ASSERT_NE(dock, nullptr) << name;
+        dock->raise();
+        action("planeAlone").trigger();
+        dock->widget()->setFocus();
+        ASSERT_TRUE(window_.tiles().isAlone());
+        press(Qt::Key_Escape);
+        EXPECT_FALSE(window_.tiles().isAlone()) << name;
+    }
+}
+
 TEST_F(MainWindowTest, ADoubleClickOnTheLineAboveAPlotGivesItTheRoomAndTakesItBack) {
     open(rotor("Bearing 1"));
     open(rotor("Bearing 2"));

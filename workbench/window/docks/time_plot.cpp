@@ -117,8 +117,12 @@ void TimePlot::changeMark(const std::optional<TimeSpan>& mark) {
     markChanged(mark_);
 }
 
+// Beyond the other end of the mark a new one begins: from there to the end of the recordings, or
+// from their start to there.
 void TimePlot::markFromCursor(bool begin) {
-    TimeSpan span = mark_.value_or(TimeSpan{0.0, duration_});
+    const TimeSpan whole{0.0, duration_};
+    TimeSpan span = mark_.value_or(whole);
+    if (begin ? cursor_ >= span.to : cursor_ <= span.from) span = whole;
     (begin ? span.from : span.to) = cursor_;
     if (span.length() > 0.0) changeMark(span);
 }

@@ -129,12 +129,19 @@ TEST_F(TimePlotTest, KeysMarkFromCursorToCursor) {
     ASSERT_TRUE(plot.mark());
     EXPECT_EQ(plot.mark()->from, 2.0);
     EXPECT_EQ(plot.mark()->to, 5.0);
-    plot.setCursor(1.0);
-    QTest::keyClick(&plot, Qt::Key_O);  // would end before it begins
-    EXPECT_EQ(plot.mark()->to, 5.0);
     QTest::keyClick(&plot, Qt::Key_Delete);
     EXPECT_FALSE(plot.mark());
     EXPECT_EQ(marks.size(), 3U);
+}
+
+TEST_F(TimePlotTest, KeysBeyondTheOtherEndBeginANewMark) {
+    plot.setMark(TimeSpan{2.0, 5.0});
+    plot.setCursor(7.0);
+    QTest::keyClick(&plot, Qt::Key_I);
+    EXPECT_EQ(plot.mark(), (TimeSpan{7.0, plot.timeRange().to}));
+    plot.setCursor(1.0);
+    QTest::keyClick(&plot, Qt::Key_O);
+    EXPECT_EQ(plot.mark(), (TimeSpan{0.0, 1.0}));
 }
 
 TEST_F(TimePlotTest, WheelZoomsBothAxesAboutThePointer) {
