@@ -1,8 +1,11 @@
 #include "tests/workbench/window/window_fixture.h"
+#include "workbench/window/docks/number_table.h"
 #include "workbench/window/steady_label.h"
 
 #include <QDockWidget>
 #include <QEvent>
+#include <QSignalSpy>
+#include <QTest>
 
 #include <map>
 
@@ -46,8 +49,22 @@ protected:
             dock->show();
         bench().setCursor(0.5);
         settle();
+        waitForNumbers();
         bench().playback().play();
         moment();
+    }
+
+    /// Until those of the cursor stand, which come from another thread: none is on its way any
+    /// more.
+    void waitForNumbers() {
+        constexpr int MoreThanOneTakes = 250;
+        auto& table = *window_.findChild<NumberTable*>();
+        const QSignalSpy computed(&table, &NumberTable::computed);
+        for (qsizetype seen = -1; seen != computed.count();) {
+            seen = computed.count();
+            QTest::qWait(MoreThanOneTakes);
+        }
+        EXPECT_EQ(table.model().columnCount(), 4);
     }
 
     static Recording runUp(const std::string& point) {
