@@ -128,15 +128,25 @@ TEST_F(ChannelTreeTest, OrdersAreAddedByKeyboardAndStayUntilTheyAreRemoved) {
     EXPECT_THROW(row(0, "1X, 2X, 0.43X"), std::logic_error);
 }
 
-TEST_F(ChannelTreeTest, OrdersGoToThePlaneTheyWereAskedForWhereverItStandsNow) {
-    const auto first = std::make_shared<int>(1);
-    const auto second = std::make_shared<int>(2);
-    planes[0].identity = first;
-    planes[1].identity = second;
-    planes[1].hasTacho = true;
-    tree.setPlanes(planes);
-    press(1, "raw", Qt::Key_Insert);
-    auto* dialog = tree.findChild<QInputDialog*>();
+/// Two planes that can be told apart, and the question for orders of the second.
+class AskedChannelTree : public ChannelTreeTest {
+protected:
+    QInputDialog* askForOrdersOfTheSecond() {
+        planes[0].identity = first_;
+        planes[1].identity = second_;
+        planes[1].hasTacho = true;
+        tree.setPlanes(planes);
+        press(1, "raw", Qt::Key_Insert);
+        return tree.findChild<QInputDialog*>();
+    }
+
+private:
+    std::shared_ptr<int> first_ = std::make_shared<int>(1);
+    std::shared_ptr<int> second_ = std::make_shared<int>(2);
+};
+
+TEST_F(AskedChannelTree, OrdersGoToThePlaneTheyWereAskedForWhereverItStandsNow) {
+    QInputDialog* const dialog = askForOrdersOfTheSecond();
     ASSERT_NE(dialog, nullptr);
     planes.erase(planes.begin());
     tree.setPlanes(planes);
@@ -148,15 +158,8 @@ TEST_F(ChannelTreeTest, OrdersGoToThePlaneTheyWereAskedForWhereverItStandsNow) {
     EXPECT_EQ(lastWanted(), (Curves{Raw, {CurveKind::Harmonic, {3.0}}}));
 }
 
-TEST_F(ChannelTreeTest, OrdersOfAPlaneThatIsGoneAreToldOfAndNotAdded) {
-    const auto first = std::make_shared<int>(1);
-    const auto second = std::make_shared<int>(2);
-    planes[0].identity = first;
-    planes[1].identity = second;
-    planes[1].hasTacho = true;
-    tree.setPlanes(planes);
-    press(1, "raw", Qt::Key_Insert);
-    auto* dialog = tree.findChild<QInputDialog*>();
+TEST_F(AskedChannelTree, OrdersOfAPlaneThatIsGoneAreToldOfAndNotAdded) {
+    QInputDialog* const dialog = askForOrdersOfTheSecond();
     ASSERT_NE(dialog, nullptr);
     planes.pop_back();
     tree.setPlanes(planes);
