@@ -198,7 +198,7 @@ void FileActions::openView(const QString& file) {
 
 void FileActions::loadPending() {
     const std::vector<ViewPlane> planes = pending_->view.planes;
-    if (planes.empty()) return showPendingView();
+    if (planes.empty()) return showLoadedView();
     for (std::size_t i = 0; i < planes.size(); ++i)
         loader().load({planes[i].recording, planes[i].options, true, planes[i].compensation});
 }
@@ -210,7 +210,7 @@ void FileActions::takeLoaded(const LoadRequest& request,
     if (!request.isOfView) return addRecording(request, source);
     if (!pending_) return;
     pending_->planes.push_back(source);
-    if (pending_->planes.size() == pending_->view.planes.size()) showPendingView();
+    showLoadedView();
 }
 
 // Without one of its recordings a view is not shown, and what was shown stays.
@@ -220,6 +220,11 @@ void FileActions::dropPendingView(const LoadRequest& request) {
     pending_.reset();
     loader().cancelWaitingOfView();
     if (isUnsaved) endUnsaved(false);
+}
+
+// What a question is about stays while it is open.
+void FileActions::showLoadedView() {
+    if (pending_ && pending_->isLoaded() && asking_ == 0) showPendingView();
 }
 
 // A view is long in coming: its user may have gone on with what is shown. The question waits until
@@ -286,7 +291,7 @@ void FileActions::endUnsaved(bool restored) {
 }
 
 void FileActions::askForPendingView() {
-    if (!pending_) return;
+    if (!pending_ || asking_ > 0) return;
     pending_->changes = changes_;
     const bool isWanted = mayLoseChanges();
     if (isWanted) return showPendingView();
@@ -314,10 +319,12 @@ void FileActions::save() {
     saveOrAsk();
 }
 
+void FileActions::saveAs() {
+    saveUnderNewName();
+}
+
 bool FileActions::saveOrAsk() {
-    if (!viewFile_.isEmpty()) return saveTo(viewFile_);
-    saveAs();
-    return bench_.undoStack().isClean();
+    return viewFile_.isEmpty() ? saveUnderNewName() : saveTo(viewFile_);
 }
 
 QString FileActions::proposedFile() const {
@@ -326,26 +333,55 @@ QString FileActions::proposedFile() const {
     return QDir(recent_.folder()).filePath(name + ViewSuffix);
 }
 
-void FileActions::saveAs() {
-    QString file = QFileDialog::getSaveFileName(&window_, tr("Save view as"), proposedFile(),
-                                                tr("Views (*.rotavue)"));
-    if (file.isEmpty()) return;
+template <class Question>
+auto FileActions::whileAsking(Question question) {
+    ++asking_;
+    const auto answer = question();
+    --asking_;
+    if (pending_) QTimer::singleShot(0, this, &FileActions::showLoadedView);
+    return answer;
+}
+
+/// Empty where the user thinks better of it.
+QString FileActions::askForName() {
+    QString file = whileAsking([this] {
+        return QFileDialog::getSaveFileName(&window_, tr("Save view as"), proposedFile(),
+                                            tr("Views (*.rotavue)"));
+    });
     // A name that the dialog hasn't seen may be that of another file.
-    const bool named = file.endsWith(ViewSuffix);
-    if (!named) file += ViewSuffix;
-    if (!named && QFileInfo::exists(file))
-        return tell(tr("%1: found a file of this name, allowed: a new one").arg(file));
-    saveTo(file);
+    if (file.isEmpty() || file.endsWith(ViewSuffix)) return file;
+    file += ViewSuffix;
+    if (!QFileInfo::exists(file)) return file;
+    tell(tr("%1: found a file of this name, allowed: a new one").arg(file));
+    return {};
+}
+
+bool FileActions::saveUnderNewName() {
+    return write([this] { return askForName(); });
 }
 
 bool FileActions::saveTo(const QString& file) {
+    return write([&file] { return file; });
+}
+
+// The view is that of the moment in which its user wants it saved. What comes while the name is
+// asked for is not in the file, and stays a change.
+bool FileActions::write(const std::function<QString()>& name) {
     try {
-        writeView(pathOf(file), viewOf(bench_));
+        const View view = viewOf(bench_);
+        const int changes = changes_;
+        const QString file = name();
+        if (file.isEmpty()) return false;
+        writeView(pathOf(file), view);
+        setViewFile(file);
+        if (changes != changes_) {
+            bench_.undoStack().resetClean();
+            return true;
+        }
     } catch (const std::exception& error) {
         tell(QString::fromUtf8(error.what()));
         return false;
     }
-    setViewFile(file);
     bench_.undoStack().setClean();
     if (autosave_ != nullptr) autosave_->forget();
     return true;
@@ -353,11 +389,12 @@ bool FileActions::saveTo(const QString& file) {
 
 bool FileActions::mayLoseChanges() {
     if (bench_.undoStack().isClean()) return true;
+    if (asking_ > 0) return false;
     QMessageBox question(QMessageBox::Question, tr("Unsaved changes"),
                          tr("Save the changes of this view?"),
                          QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window_);
     question.setObjectName(QStringLiteral("saveQuestion"));
-    const int answer = question.exec();
+    const int answer = whileAsking([&question] { return question.exec(); });
     if (answer == QMessageBox::Save) return saveOrAsk();
     return answer == QMessageBox::Discard;
 }

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -65,7 +66,8 @@ public:
     /// Saves the view. False, having told why, if that fails.
     bool saveTo(const QString& file);
 
-    /// Asks whether changes shall be saved, if there are any. False where the user wants to stay.
+    /// Asks whether changes shall be saved, if there are any. False where the user wants to stay,
+    /// and behind a question that is open already: that one comes first.
     bool mayLoseChanges();
 
     RecordingOpener& opener() { return opener_; }
@@ -93,6 +95,13 @@ private:
     void save();
     void saveAs();
     bool saveOrAsk();
+    bool saveUnderNewName();
+    bool write(const std::function<QString()>& name);
+    QString askForName();
+
+    /// A view that has come is not shown before the user has answered.
+    template <class Question>
+    auto whileAsking(Question question);
 
     void enableActions();
     void openView(const QString& file);
@@ -102,6 +111,7 @@ private:
     void endUnsaved(bool restored);
     void takeLoaded(const LoadRequest& request, const std::shared_ptr<const PlaneSource>& source);
     void dropPendingView(const LoadRequest& request);
+    void showLoadedView();
     void showPendingView();
     void askForPendingView();
     void addRecording(const LoadRequest& request, const std::shared_ptr<const PlaneSource>& source);
@@ -116,6 +126,8 @@ private:
         int changes = 0;         ///< that its user may lose
         bool isUnsaved = false;  ///< a crash left it behind
         bool isComplete = true;  ///< with all of its recordings
+
+        bool isLoaded() const { return planes.size() == view.planes.size(); }
     };
 
     Bench& bench_;
@@ -126,6 +138,7 @@ private:
     QString name_;  ///< under which a view without a file is offered to be saved
     std::optional<PendingView> pending_;
     int changes_ = 0;  ///< of the bench, so far
+    int asking_ = 0;   ///< questions that are open
     std::optional<Settings> first_;
     std::vector<CurveRequest> curves_{CurveRequest{}};
     QMenu* recentMenu_;
