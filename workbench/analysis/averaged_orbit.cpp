@@ -11,30 +11,31 @@
 namespace Rotavue::Workbench {
 namespace {
 
-constexpr const char* Purpose = "the averaged orbit";
 constexpr int LeastPointsPerTurn = 8;
 
-void checkRange(const std::string& thing, int value, int least, int most) {
+void checkRange(const std::string& purpose, const std::string& thing, int value, int least,
+                int most) {
     if (value >= least && value <= most) return;
-    throw AnalysisError(std::string(Purpose) + " takes " + std::to_string(least) + " to " +
+    throw AnalysisError(purpose + " takes " + std::to_string(least) + " to " +
                         std::to_string(most) + ' ' + thing + ", not " + std::to_string(value));
 }
 
 void check(const AverageOptions& options) {
-    checkRange("revolutions", options.revolutions, 1, MostRevolutions);
-    checkRange("points a turn", options.pointsPerTurn, LeastPointsPerTurn, MostPointsPerTurn);
+    checkRange(options.purpose, "revolutions", options.revolutions, 1, MostRevolutions);
+    checkRange(options.purpose, "points a turn", options.pointsPerTurn, LeastPointsPerTurn,
+               MostPointsPerTurn);
     if (!std::has_single_bit(static_cast<unsigned>(options.pointsPerTurn)))
-        throw AnalysisError(std::string(Purpose) + " takes a power of two of points a turn, not " +
+        throw AnalysisError(options.purpose + " takes a power of two of points a turn, not " +
                             std::to_string(options.pointsPerTurn));
     if (options.averages < 0)
-        throw AnalysisError(std::string(Purpose) + " takes a mean over 0 stretches (all) or more");
+        throw AnalysisError(options.purpose + " takes a mean over 0 stretches (all) or more");
 }
 
 // The newest stretches of `revolutions` turns each.
 WholeTurns stretches(WholeTurns turns, const AverageOptions& options) {
     const std::int64_t there = turns.count() / options.revolutions;
     if (there == 0)
-        throw AnalysisError(std::string(Purpose) + " of " + std::to_string(options.revolutions) +
+        throw AnalysisError(options.purpose + " of " + std::to_string(options.revolutions) +
                             " turns needs as many, and there are " + std::to_string(turns.count()));
     const std::int64_t wanted = options.averages > 0 ? options.averages : there;
     turns.first = turns.end - std::min(there, wanted) * options.revolutions;
@@ -108,7 +109,7 @@ private:
 AveragedOrbit averageOrbit(const Recording& recording, const ShaftTrack& track,
                            const AverageOptions& options, const ReadingProgress& progress) {
     check(options);
-    const WholeTurns turns = stretches(track.wholeTurns(options.span, Purpose), options);
+    const WholeTurns turns = stretches(track.wholeTurns(options.span, options.purpose), options);
     AveragedOrbit orbit;
     orbit.span = turns.span();
     orbit.speed = turns.speed();
@@ -123,7 +124,7 @@ AveragedOrbit averageOrbit(const Recording& recording, const ShaftTrack& track,
         averager.take(sampler, static_cast<double>(turn), options.pointsPerTurn);
     }
     if (averager.count() == 0)
-        throw AnalysisError(std::string(Purpose) + " finds a gap in every stretch of " +
+        throw AnalysisError(options.purpose + " finds a gap in every stretch of " +
                             std::to_string(options.revolutions) + " turns");
     orbit.averages = averager.count();
     averager.mean(orbit);

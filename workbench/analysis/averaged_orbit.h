@@ -18,6 +18,7 @@ struct AverageOptions {
     int revolutions = 1;      ///< turns that the orbit shows, 1 to MostRevolutions
     int averages = 0;         ///< stretches of so many turns in the mean; 0: all, 1: no averaging
     int pointsPerTurn = 256;  ///< a power of two, 8 to MostPointsPerTurn
+    std::string purpose = "the averaged orbit";  ///< what errors begin with
 };
 
 /// An orbit by shaft angle. Point k stands at k * step() degrees behind the pulse. With a power of
