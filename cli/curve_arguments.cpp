@@ -17,6 +17,8 @@ constexpr double LargestInterval = 1e9;
 constexpr const char* ShowHelp =
     "what is drawn of each recording, joined by commas (raw):\n"
     "raw - the samples\n"
+    "by-angle - the same turns by the shaft's angle, with the keyphasor's dots\n"
+    "not-1x - what is left of these turns without 1X\n"
     "average - the mean of the shown turns\n"
     "harmonic:1+2+0.43 - ellipses of these orders, from the shown turns\n"
     "subsync - what is below 1X, over the newest 100 ms or --time\n"

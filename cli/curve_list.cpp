@@ -18,13 +18,16 @@ constexpr double LeastOrder = 0.01;
 constexpr double LargestOrder = 1000.0;
 constexpr const char* Option = "--show";
 constexpr const char* Allowed =
-    "raw, average, harmonic:1+2, subsync, reference:FILE and shaft-center, joined by commas, each "
-    "once";
+    "raw, by-angle, not-1x, average, harmonic:1+2, subsync, reference:FILE and shaft-center, "
+    "joined "
+    "by commas, each once";
 constexpr const char* AllowedOrders =
     "up to 64 orders such as 1+2+0.43, each once, from 0.01 to 1000";
 
 constexpr auto PlainKinds = std::to_array<std::pair<std::string_view, CurveKind>>({
     {"raw", CurveKind::Raw},
+    {"by-angle", CurveKind::ByAngle},
+    {"not-1x", CurveKind::NotFirst},
     {"average", CurveKind::Average},
     {"subsync", CurveKind::SubSync},
     {"shaft-center", CurveKind::ShaftCenter},

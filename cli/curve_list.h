@@ -9,8 +9,9 @@
 /// Curves and orders as `--show` and `--orders` spell them.
 namespace Rotavue::Cli {
 
-/// The items of "raw,average,harmonic:1+2,subsync,reference:FILE,shaft-center", of which any may be
-/// left out and none comes twice, but for references to different files. Raises `UsageError`.
+/// The items of "raw,by-angle,not-1x,average,harmonic:1+2,subsync,reference:FILE,shaft-center", of
+/// which any may be left out and none comes twice, but for references to different files. Raises
+/// `UsageError`.
 std::vector<Workbench::CurveRequest> curveRequests(const std::string& text);
 
 /// The orders of "1+2+0.43". Raises `UsageError`.

@@ -12,8 +12,9 @@ namespace Rotavue::Cli {
 namespace {
 
 constexpr const char* AllowedCurves =
-    "raw, average, harmonic:1+2, subsync, reference:FILE and shaft-center, joined by commas, each "
-    "once";
+    "raw, by-angle, not-1x, average, harmonic:1+2, subsync, reference:FILE and shaft-center, "
+    "joined "
+    "by commas, each once";
 
 /// What one sample of a written recording holds: x, y and, where it is not negative, the
 /// keyphasor's volts.
@@ -79,15 +80,16 @@ TEST_F(ShowTest, EachKindMakesAPictureOfItsOwn) {
     ASSERT_EQ(rotavue({"analyze", "rotor.csv", "--save-reference", "old.json"}).status, 0);
     std::set<std::string> pictures;
     const char* const kinds[] = {
-        "raw",          "average",     "harmonic", "subsync", "reference:old.json",
-        "shaft-center", "harmonic:1+2"};
+        "raw",     "by-angle",           "not-1x",       "average",     "harmonic",
+        "subsync", "reference:old.json", "shaft-center", "harmonic:1+2"};
     for (const char* kind : kinds) {
         const ProcessEnd end = render("rotor.csv", kind, {"--light"});
         EXPECT_EQ(end.status, 0) << end.error;
         EXPECT_TRUE(pictures.insert(read("p.svg")).second) << kind;
     }
     const ProcessEnd all =
-        render("rotor.csv", "raw,average,harmonic:1+2,subsync,reference:rotor.csv,shaft-center");
+        render("rotor.csv",
+               "raw,by-angle,not-1x,average,harmonic:1+2,subsync,reference:rotor.csv,shaft-center");
     EXPECT_EQ(all.status, 0) << all.error;
 }
 
@@ -145,6 +147,8 @@ TEST_F(ShowTest, WrongValuesAreToldWithWhatIsAllowed) {
 TEST_F(ShowTest, WhatNeedsTheShaftsAngleIsRefusedWithoutAKeyphasor) {
     writeRows("bare.csv", turning);
     const std::string none = "needs the shaft's angle, and the recording has no keyphasor";
+    expectRefused("bare.csv", "by-angle", "bare.csv: the direct orbit by angle " + none);
+    expectRefused("bare.csv", "not-1x", "bare.csv: the direct orbit by angle " + none);
     expectRefused("bare.csv", "average", "bare.csv: the averaged orbit " + none);
     expectRefused("bare.csv", "harmonic:1+2", "bare.csv: the harmonic analysis " + none);
     expectRefused("rotor.csv", "reference:bare.csv", "bare.csv: the averaged orbit " + none);

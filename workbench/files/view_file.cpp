@@ -33,8 +33,8 @@ constexpr double LargestOrder = 1000.0;
 constexpr double LargestSpeed = 1e9;
 
 // In the order of their enumerators.
-constexpr std::array KindWords = {"raw",     "average",   "orders",
-                                  "below1X", "reference", "shaftCentre"};
+constexpr std::array KindWords = {"raw",    "byAngle", "not1X",     "average",
+                                  "orders", "below1X", "reference", "shaftCentre"};
 constexpr std::array RestWords = {"centre", "bottom"};
 constexpr std::array LabelWords = {"speed", "time"};
 constexpr std::array FormWords = {"vector", "waveform"};
@@ -145,8 +145,9 @@ Path ViewReader::namedMachineFile(const JsonPlace& place) const {
 CurveRequest ViewReader::curveOf(const JsonPlace& place) const {
     place.checkMembers({"kind", "orders", "file", "color"});
     CurveRequest curve;
-    curve.kind = static_cast<CurveKind>(place.at("kind").word(
-        {KindWords[0], KindWords[1], KindWords[2], KindWords[3], KindWords[4], KindWords[5]}));
+    curve.kind = static_cast<CurveKind>(
+        place.at("kind").word({KindWords[0], KindWords[1], KindWords[2], KindWords[3], KindWords[4],
+                               KindWords[5], KindWords[6], KindWords[7]}));
     if (curve.kind == CurveKind::Harmonic) {
         for (const JsonPlace& order : place.at("orders").list(1, MostOrders))
             curve.orders.push_back(order.number(std::numeric_limits<double>::min(), LargestOrder));

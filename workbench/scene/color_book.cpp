@@ -9,11 +9,15 @@ namespace Rotavue::Workbench {
 
 namespace {
 
-/// The curves that every plane offers have six colours.
+/// The curves that every plane offers have a colour each.
 std::size_t usualNumber(const CurveRequest& request) {
     switch (request.kind) {
         case CurveKind::Raw:
             return 0;
+        case CurveKind::ByAngle:
+            return 6;
+        case CurveKind::NotFirst:
+            return 7;
         case CurveKind::Average:
             return 2;
         case CurveKind::Harmonic:

@@ -17,14 +17,23 @@ std::string orderWords(const std::vector<double>& orders) {
 
 }  // namespace
 
+bool needsKeyphasor(CurveKind kind) {
+    return kind == CurveKind::ByAngle || kind == CurveKind::NotFirst ||
+           kind == CurveKind::Average || kind == CurveKind::Harmonic;
+}
+
 bool isOfShownTurns(CurveKind kind) {
-    return kind == CurveKind::Raw || kind == CurveKind::Average || kind == CurveKind::Harmonic;
+    return kind == CurveKind::Raw || needsKeyphasor(kind);
 }
 
 std::string wordsOf(const CurveRequest& request) {
     switch (request.kind) {
         case CurveKind::Raw:
             return "raw";
+        case CurveKind::ByAngle:
+            return "direct by angle";
+        case CurveKind::NotFirst:
+            return "not 1X";
         case CurveKind::Average:
             return "average";
         case CurveKind::Harmonic:

@@ -6,9 +6,11 @@
 
 namespace Rotavue::Workbench {
 
-/// The kinds of curve that the plug-in draws.
+/// The kinds of curve that are made of a recording.
 enum class CurveKind : std::uint8_t {
     Raw,          ///< samples as they are
+    ByAngle,      ///< the same by the shaft's angle: whole turns, with the keyphasor's dots
+    NotFirst,     ///< what is left of these turns without 1X
     Average,      ///< mean of whole turns, by the shaft's angle
     Harmonic,     ///< ellipses of orders of the shaft
     SubSync,      ///< what is below the first order
@@ -25,10 +27,14 @@ struct CurveRequest {
     bool operator==(const CurveRequest&) const = default;
 };
 
+/// Whether the curve is made by the shaft's angle, which a keyphasor tells.
+bool needsKeyphasor(CurveKind kind);
+
 /// Whether the curve is that of the shown turns, and not of a stretch of its own.
 bool isOfShownTurns(CurveKind kind);
 
-/// "raw", "average", "1X, 2X", "below 1X", "reference slow-roll" or "shaft centre".
+/// "raw", "direct by angle", "not 1X", "average", "1X, 2X", "below 1X", "reference slow-roll" or
+/// "shaft centre".
 std::string wordsOf(const CurveRequest& request);
 
 }  // namespace Rotavue::Workbench

@@ -2,6 +2,7 @@
 
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/averaged_orbit.h"
+#include "workbench/analysis/direct_orbit.h"
 #include "workbench/analysis/harmonics.h"
 #include "workbench/analysis/reference_orbit.h"
 #include "workbench/analysis/shaft_center.h"
@@ -9,6 +10,7 @@
 #include "workbench/analysis/sub_synchronous.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <filesystem>
 #include <stdexcept>
@@ -83,6 +85,10 @@ void DerivedCurves::note(const std::vector<std::string>& notes) {
 
 ChannelDescription DerivedCurves::make(const CurveRequest& request, const ChannelStyle& style) {
     switch (request.kind) {
+        case CurveKind::ByAngle:
+            return byAngle(style);
+        case CurveKind::NotFirst:
+            return notFirst(style);
         case CurveKind::Average:
             return average(style);
         case CurveKind::Harmonic:
@@ -97,6 +103,20 @@ ChannelDescription DerivedCurves::make(const CurveRequest& request, const Channe
             break;
     }
     throw std::logic_error("a raw orbit is no derived curve");
+}
+
+ChannelDescription DerivedCurves::byAngle(const ChannelStyle& style) const {
+    const TimeSpan turns = stretchOf(span_, track_);
+    return averageChannel(directOrbit(recording_, track_, turns), recording_, style);
+}
+
+ChannelDescription DerivedCurves::notFirst(const ChannelStyle& style) const {
+    constexpr std::array First{1.0};
+    const TimeSpan turns = stretchOf(span_, track_);
+    AveragedOrbit orbit = directOrbit(recording_, track_, turns);
+    const Harmonics found = findHarmonics(recording_, track_, First, turns);
+    orbit = withoutOrder(std::move(orbit), found.orders.front());
+    return averageChannel(orbit, recording_, style);
 }
 
 ChannelDescription DerivedCurves::average(const ChannelStyle& style) const {

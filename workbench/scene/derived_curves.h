@@ -29,6 +29,8 @@ public:
     const std::vector<std::string>& notes() const { return notes_; }
 
 private:
+    HostKit::ChannelDescription byAngle(const ChannelStyle& style) const;
+    HostKit::ChannelDescription notFirst(const ChannelStyle& style) const;
     HostKit::ChannelDescription average(const ChannelStyle& style) const;
     HostKit::ChannelDescription harmonic(const CurveRequest& request, const ChannelStyle& style);
     HostKit::ChannelDescription subSync(const ChannelStyle& style);

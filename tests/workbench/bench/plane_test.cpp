@@ -57,6 +57,18 @@ TEST_F(PlaneTest, AssignsAGroupForTheRawOrbitAndAChannelForEachOtherCurve) {
     EXPECT_EQ(hostOf(plane).assigned.channels.size(), 1U);
 }
 
+// Each of the turns has 256 points: 50 turns a second at 10 kHz are 200 samples each.
+TEST_F(PlaneTest, TurnsByAngleAreThoseThatTheControlShows) {
+    Plane& plane = add(rotor(), {.curves = {{}, {.kind = CurveKind::ByAngle}}});
+    auto& channels = plane.host().description.channels;
+    EXPECT_EQ(channels["curve2"].arraySize, 8 * 256);
+    EXPECT_EQ(channels["curve2"].name, L"direct by angle");
+    Settings settings = plane.settings();
+    settings[L"revolutions"] = L"3";
+    plane.load(settings);
+    EXPECT_EQ(channels["curve2"].arraySize, 3 * 256);
+}
+
 TEST_F(PlaneTest, ACurveKeepsItsColourWhateverElseIsTicked) {
     Plane& plane = add();
     const CurveRequest subSync{.kind = CurveKind::SubSync};

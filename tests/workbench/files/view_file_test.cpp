@@ -25,6 +25,8 @@ protected:
         plane.options.x.angle = 45.0;
         plane.options.rotation = Rotation::CounterClockwise;
         plane.curves = {{CurveKind::Raw},
+                        {CurveKind::ByAngle},
+                        {CurveKind::NotFirst},
                         {CurveKind::Harmonic, {0.5, 1.0, 2.0}},
                         {CurveKind::Reference, {}, at("last-year.json").string()}};
         plane.curveOptions.speed = 2975.5;
@@ -64,15 +66,16 @@ TEST_F(ViewFileTest, ReadsBackAllThatItWrites) {
 
 TEST_F(ViewFileTest, KeepsTheColoursOfCurvesAndGivesNoneWhereOneIsMissing) {
     View view = full();
-    view.planes[0].colors = {0, 5, 3};
+    view.planes[0].colors = {0, 6, 7, 5, 3};
     writeView(at("v.rotavue"), view);
-    EXPECT_EQ(readView(at("v.rotavue")).planes[0].colors, (std::vector<std::size_t>{0, 5, 3}));
+    EXPECT_EQ(readView(at("v.rotavue")).planes[0].colors,
+              (std::vector<std::size_t>{0, 6, 7, 5, 3}));
     write("one.rotavue", R"({"rotavueView":1,"planes":[{"recording":"a.csv","setup":{},
         "curves":[{"kind":"raw","color":2},{"kind":"average"}]}]})");
     EXPECT_TRUE(readView(at("one.rotavue")).planes[0].colors.empty());
     EXPECT_EQ(faultOf(R"({"rotavueView":1,"planes":[{"recording":"a.csv","setup":{},
-        "curves":[{"kind":"raw","color":6}]}]})"),
-              "v.rotavue: found 6 at /planes/0/curves/0/color, allowed: a number from 0 to 5");
+        "curves":[{"kind":"raw","color":8}]}]})"),
+              "v.rotavue: found 8 at /planes/0/curves/0/color, allowed: a number from 0 to 7");
 }
 
 TEST_F(ViewFileTest, KeepsWhichMachineFileCounts) {
@@ -141,8 +144,8 @@ TEST_F(ViewFileTest, NamesThePlaceOfWhatIsWrongInAPlane) {
               "v.rotavue: found 1 at /planes/0/setup/graphType, allowed: a text of at most 4096 "
               "characters");
     EXPECT_EQ(planeFault(R"("curves":[{"kind":"orbit"}])"),
-              "v.rotavue: found \"orbit\" at /planes/0/curves/0/kind, allowed: raw, average, "
-              "orders, below1X, reference and shaftCentre");
+              "v.rotavue: found \"orbit\" at /planes/0/curves/0/kind, allowed: raw, byAngle, "
+              "not1X, average, orders, below1X, reference and shaftCentre");
     EXPECT_EQ(
         planeFault(R"("curves":[{"kind":"orders","orders":[]}])"),
         "v.rotavue: found a list of 0 at /planes/0/curves/0/orders, allowed: a list of 1 to 64");

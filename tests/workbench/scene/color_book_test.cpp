@@ -18,8 +18,14 @@ CurveRequest ofOrder(double order) {
 }
 
 TEST(ColorBook, TheCurvesOfEveryPlaneHaveAColourEachHoweverTheyCome) {
-    const std::vector<CurveRequest> usual{
-        Raw, Average, First, Second, {CurveKind::SubSync}, {CurveKind::ShaftCenter}};
+    const std::vector<CurveRequest> usual{Raw,
+                                          {CurveKind::ByAngle},
+                                          Average,
+                                          First,
+                                          Second,
+                                          {CurveKind::NotFirst},
+                                          {CurveKind::SubSync},
+                                          {CurveKind::ShaftCenter}};
     ColorBook forwards;
     ColorBook backwards;
     forwards.show(usual);
@@ -27,7 +33,7 @@ TEST(ColorBook, TheCurvesOfEveryPlaneHaveAColourEachHoweverTheyCome) {
     std::set<std::size_t> numbers;
     for (const CurveRequest& curve : usual)
         numbers.insert(forwards.numberOf(curve));
-    EXPECT_EQ(numbers.size(), 6U);
+    EXPECT_EQ(numbers.size(), 8U);
     for (const CurveRequest& curve : usual)
         EXPECT_EQ(forwards.numberOf(curve), backwards.numberOf(curve));
 }
@@ -51,25 +57,25 @@ TEST(ColorBook, ACurveKeepsItsNumberWhenTheOwnerOfThatComes) {
 TEST(ColorBook, ManyCurvesShareTheColoursEvenly) {
     ColorBook book;
     std::vector<CurveRequest> curves;
-    for (int order = 1; order <= 12; ++order)
+    for (int order = 1; order <= 16; ++order)
         curves.push_back(ofOrder(order / 4.0));
     book.show(curves);
-    std::vector<int> users(6);
+    std::vector<int> users(8);
     for (const CurveRequest& curve : curves)
         ++users[book.numberOf(curve)];
-    EXPECT_EQ(users, std::vector<int>(6, 2));  // 12 curves, 6 colours
+    EXPECT_EQ(users, std::vector<int>(8, 2));  // 16 curves, 8 colours
 }
 
-// Raw has 0 and 3X to 7X would use up the other five, were theirs not free again.
+// Raw has 0 and 3X to 9X would use up the other seven, were theirs not free again.
 TEST(ColorBook, TheColourOfACurveThatHasGoneIsFree) {
     ColorBook book;
-    for (int order = 3; order <= 7; ++order) {
+    for (int order = 3; order <= 9; ++order) {
         book.show({Raw, ofOrder(order)});
         book.show({Raw});
     }
-    book.show({Raw, ofOrder(8)});
+    book.show({Raw, ofOrder(10)});
     EXPECT_EQ(book.numberOf(Raw), 0U);
-    EXPECT_NE(book.numberOf(ofOrder(8)), 0U);
+    EXPECT_NE(book.numberOf(ofOrder(10)), 0U);
 }
 
 // 3 is the number of both, and 0 the first free one: second's for as long as the third is shown.

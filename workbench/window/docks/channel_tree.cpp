@@ -28,10 +28,12 @@ constexpr int PlaneRole = Qt::UserRole;
 constexpr int CurveRole = Qt::UserRole + 1;
 
 /// What every plane offers, in this order.
-const std::array<CurveRequest, 6> UsualCurves{{{CurveKind::Raw},
+const std::array<CurveRequest, 8> UsualCurves{{{CurveKind::Raw},
+                                               {CurveKind::ByAngle},
                                                {CurveKind::Average},
                                                {CurveKind::Harmonic, {1.0}},
                                                {CurveKind::Harmonic, {2.0}},
+                                               {CurveKind::NotFirst},
                                                {CurveKind::SubSync},
                                                {CurveKind::ShaftCenter}}};
 
@@ -53,6 +55,11 @@ QString helpOf(CurveKind kind) {
     switch (kind) {
         case CurveKind::Raw:
             return ChannelTree::tr("The direct orbit, sample by sample");
+        case CurveKind::ByAngle:
+            return ChannelTree::tr(
+                "The same turns by the shaft's angle: with the keyphasor's dots");
+        case CurveKind::NotFirst:
+            return ChannelTree::tr("What is left of these turns without 1X");
         case CurveKind::Average:
             return ChannelTree::tr("The mean of the shown turns, with the keyphasor's dot");
         case CurveKind::Harmonic:
@@ -69,16 +76,15 @@ QString helpOf(CurveKind kind) {
 
 /// Why this plane cannot show the curve; empty where it can.
 QString obstacle(const TreePlane& plane, CurveKind kind) {
-    const bool needsTacho = kind == CurveKind::Average || kind == CurveKind::Harmonic;
-    if (needsTacho && !plane.hasTacho) return ChannelTree::tr("needs a keyphasor");
+    if (needsKeyphasor(kind) && !plane.hasTacho) return ChannelTree::tr("needs a keyphasor");
     if (kind == CurveKind::ShaftCenter && !plane.hasMeanPosition)
         return ChannelTree::tr("needs the mean position, which AC coupling has lost");
     return {};
 }
 
 QString kindText(CurveKind kind) {
-    constexpr std::array Kinds{"raw",      "average",   "harmonic",
-                               "sub-sync", "reference", "shaft centre"};
+    constexpr std::array Kinds{"raw",      "by angle", "by angle",  "average",
+                               "harmonic", "sub-sync", "reference", "shaft centre"};
     return ChannelTree::tr(Kinds[static_cast<std::size_t>(kind)]);
 }
 

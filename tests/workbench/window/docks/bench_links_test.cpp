@@ -80,14 +80,14 @@ protected:
 
 TEST_F(ChannelLinkTest, TickedCurveIsAssignedAndUndone) {
     Plane& plane = add();
-    row(0, 1)->setCheckState(0, Qt::Checked);  // average
+    row(0, 2)->setCheckState(0, Qt::Checked);  // average
     const std::vector<CurveRequest> both{{CurveKind::Raw}, {CurveKind::Average}};
     EXPECT_EQ(plane.curves(), both);
     // The plug-in's own list of assigned channels has it.
     EXPECT_FALSE(plane.host().description.assigned.channels.empty());
     bench_.undoStack().undo();
     EXPECT_EQ(plane.curves(), std::vector<CurveRequest>{{CurveKind::Raw}});
-    EXPECT_EQ(row(0, 1)->checkState(0), Qt::Unchecked);
+    EXPECT_EQ(row(0, 2)->checkState(0), Qt::Unchecked);
 }
 
 TEST_F(ChannelLinkTest, RestOfTheShaftIsUndoneToo) {

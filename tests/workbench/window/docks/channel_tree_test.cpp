@@ -81,6 +81,8 @@ TEST_F(ChannelTreeTest, ShowsThePlanesWithTheirChannelsAndKinds) {
     EXPECT_EQ(row(0, "raw").checkState(0), Qt::Checked);
     EXPECT_EQ(row(0, "1X").checkState(0), Qt::Unchecked);
     EXPECT_EQ(row(0, "below 1X").text(1), "sub-sync");
+    EXPECT_EQ(row(0, "direct by angle").text(1), "by angle");
+    EXPECT_EQ(row(0, "not 1X").text(1), "by angle");
     EXPECT_EQ(row(0, "keyphasor").text(1), "tacho");
     EXPECT_EQ(row(1, "keyphasor").text(1), "none");
     EXPECT_TRUE(wanted.empty());
@@ -105,7 +107,8 @@ TEST_F(ChannelTreeTest, ClickOnABoxDoesTheSame) {
 
 TEST_F(ChannelTreeTest, WithoutAKeyphasorWhatNeedsItCannotBeTicked) {
     EXPECT_FALSE(row(1, "1X").flags().testFlag(Qt::ItemIsEnabled));
-    EXPECT_TRUE(row(1, "1X").toolTip(0).endsWith("needs a keyphasor"));
+    for (const char* curve : {"direct by angle", "not 1X", "average", "1X"})
+        EXPECT_TRUE(row(1, curve).toolTip(0).endsWith("needs a keyphasor")) << curve;
     EXPECT_TRUE(row(1, "below 1X").flags().testFlag(Qt::ItemIsEnabled));
     planes[0].hasMeanPosition = false;
     tree.setPlanes(planes);
