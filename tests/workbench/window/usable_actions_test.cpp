@@ -74,7 +74,7 @@ TEST_F(UsableActionsTest, OrdersNeedAKeyphasor) {
     EXPECT_TRUE(channelAction("Add a reference").isEnabled());
 }
 
-// Rows: raw, average, 1X, 2X, below 1X, shaft centre.
+// Rows: raw, direct by angle, average, 1X, 2X, not 1X, below 1X, shaft centre.
 TEST_F(UsableActionsTest, ActionsOfACurveFollowTheSelection) {
     open();
     select(0, -1);
@@ -85,7 +85,7 @@ TEST_F(UsableActionsTest, ActionsOfACurveFollowTheSelection) {
     EXPECT_FALSE(channelAction("Rests at").isEnabled());
     select(0, 1);
     EXPECT_TRUE(says(channelAction("Remove"), "it is not shown"));
-    select(0, 5);
+    select(0, 7);
     EXPECT_TRUE(channelAction("Rests at").isEnabled());
 }
 
