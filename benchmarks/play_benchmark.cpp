@@ -41,9 +41,9 @@ Recording whirling(double seconds) {
         const double time = i / SampleRate;
         const double turns = TurnsPerSecond * time * (1.0 + Growth * time);
         const double angle = 2.0 * Pi * turns;
-        recording.x.push_back(40.0 * std::cos(angle) + 7.0 * std::cos(0.4301 * angle));
-        recording.y.push_back(30.0 * std::sin(angle) + 7.0 * std::sin(0.4301 * angle));
-        recording.angle.push_back(360.0 * (turns - std::floor(turns)));
+        recording.x.edit().push_back(40.0 * std::cos(angle) + 7.0 * std::cos(0.4301 * angle));
+        recording.y.edit().push_back(30.0 * std::sin(angle) + 7.0 * std::sin(0.4301 * angle));
+        recording.angle.edit().push_back(360.0 * (turns - std::floor(turns)));
     }
     return recording;
 }

@@ -46,7 +46,7 @@ std::string columnsText(const Recording& recording) {
     return text;
 }
 
-std::string probeText(const std::vector<double>& values, double angle, const std::string& unit) {
+std::string probeText(const Samples& values, double angle, const std::string& unit) {
     const SignalSpan span = SignalSpan::of(values);
     std::string text = "at " + placeText(angle) + ", " +
                        withUnit(shortNumber(span.most - span.least), unit) + " pp, mean " +

@@ -20,7 +20,7 @@ Json columnsOf(const Recording& recording) {
     return columns;
 }
 
-Json probeOf(const std::vector<double>& values, double angle) {
+Json probeOf(const Samples& values, double angle) {
     const SignalSpan span = SignalSpan::of(values);
     return {{"angle", angle},
             {"least", span.least},

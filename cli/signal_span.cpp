@@ -6,19 +6,19 @@
 
 namespace Rotavue::Cli {
 
-SignalSpan SignalSpan::of(std::span<const double> values) {
+SignalSpan SignalSpan::of(Workbench::SampleView values) {
     constexpr double Infinity = std::numeric_limits<double>::infinity();
     SignalSpan span{.least = Infinity, .most = -Infinity};
     double sum = 0.0;
-    for (const double value : values) {
+    values.forEach([&](double value) {
         if (std::isnan(value)) {
             ++span.gaps;
-            continue;
+            return;
         }
         span.least = std::min(span.least, value);
         span.most = std::max(span.most, value);
         sum += value;
-    }
+    });
     span.mean = sum / static_cast<double>(values.size() - span.gaps);
     return span;
 }

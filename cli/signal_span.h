@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Cli {
 
@@ -13,7 +13,7 @@ struct SignalSpan {
     std::size_t gaps = 0;
 
     /// Of values that are not all gaps.
-    static SignalSpan of(std::span<const double> values);
+    static SignalSpan of(Workbench::SampleView values);
 };
 
 }  // namespace Rotavue::Cli

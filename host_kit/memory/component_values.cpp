@@ -12,8 +12,12 @@ void ComponentValues::erase(std::int32_t component) {
 }
 
 std::vector<double>& ComponentValues::Slot::changeable() {
-    if (shared) own = *std::exchange(shared, nullptr);
-    return own;
+    if (!shared) return own;
+    std::vector<double> copy(shared->size());
+    for (std::size_t i = 0; i < copy.size(); ++i)
+        copy[i] = shared->at(i);
+    shared.reset();
+    return own = std::move(copy);
 }
 
 const ComponentValues::Slot& ComponentValues::other(std::int32_t component) const {

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "host_kit/memory/value_list.h"
+
 namespace Rotavue::HostKit {
 
 /// The numbers of a channel by component, each component a list by linear index. The components
@@ -15,7 +17,7 @@ namespace Rotavue::HostKit {
 class ComponentValues {
 public:
     /// A list that others may hold as well; nobody changes it.
-    using SharedList = std::shared_ptr<const std::vector<double>>;
+    using SharedList = std::shared_ptr<const ValueList>;
 
     /// The list of that component, to be read and changed; made empty where there is none. One that
     /// was shared becomes a copy.
@@ -28,10 +30,8 @@ public:
     /// The number at that place, or 0.0 where there is none.
     double at(std::int64_t index, std::int32_t component) const {
         const auto place = static_cast<std::uint32_t>(component);
-        const std::vector<double>& list =
-            (place < Direct ? direct_[place] : other(component)).get();
-        const auto position = static_cast<std::uint64_t>(index);
-        return position < list.size() ? list[position] : 0.0;
+        return (place < Direct ? direct_[place] : other(component))
+            .at(static_cast<std::uint64_t>(index));
     }
 
     void erase(std::int32_t component);
@@ -41,7 +41,10 @@ private:
     static constexpr std::uint32_t Direct = 8;
 
     struct Slot {
-        const std::vector<double>& get() const { return shared ? *shared : own; }
+        double at(std::uint64_t place) const {
+            if (shared) return place < shared->size() ? shared->at(place) : 0.0;
+            return place < own.size() ? own[place] : 0.0;
+        }
         std::vector<double>& changeable();
 
         std::vector<double> own;

@@ -105,8 +105,8 @@ private:
 
     void remove(std::size_t sample, double turns) {
         const ProbeValues value = runOut_.at(turns);
-        recording_.x[sample] -= value.x;
-        recording_.y[sample] -= value.y;
+        recording_.x.lowerOne(sample, value.x);
+        recording_.y.lowerOne(sample, value.y);
     }
 
     Recording& recording_;

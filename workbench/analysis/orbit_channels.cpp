@@ -110,7 +110,7 @@ ChannelDescription subSyncChannel(SubSyncOrbit orbit, const Recording& recording
     setSize(channel, orbit.x.size(), 1);
     holdGaps(orbit.x, orbit.y);
     // Copies of the channel share what may be as long as the recording.
-    using List = const std::vector<double>;
+    using List = const HostKit::VectorList;
     channel.values.share(XComponent, std::make_shared<List>(std::move(orbit.x)));
     channel.values.share(YComponent, std::make_shared<List>(std::move(orbit.y)));
     return channel;

@@ -30,10 +30,22 @@ ChannelDescription channelOf(const Recording& recording) {
     return channel;
 }
 
-/// A list of a record, which lives as long as the list is held.
+/// Samples of a record, which lives as long as they are held.
+class SharedSamples final : public HostKit::ValueList {
+public:
+    explicit SharedSamples(std::shared_ptr<const Samples> samples) : samples_(std::move(samples)) {}
+
+    std::size_t size() const override { return samples_->size(); }
+    double at(std::size_t place) const override { return (*samples_)[place]; }
+
+private:
+    std::shared_ptr<const Samples> samples_;
+};
+
 template <class Record>
-SharedList listOf(const std::shared_ptr<const Record>& record, std::vector<double> Record::*list) {
-    return {record, &(record.get()->*list)};
+SharedList listOf(const std::shared_ptr<const Record>& record, Samples Record::*samples) {
+    return std::make_shared<SharedSamples>(
+        std::shared_ptr<const Samples>(record, &(record.get()->*samples)));
 }
 
 ChannelDescription tachoChannel(const std::shared_ptr<const Recording>& recording) {
@@ -45,13 +57,13 @@ ChannelDescription tachoChannel(const std::shared_ptr<const Recording>& recordin
 }
 
 struct HeldPairs {
-    std::vector<double> x;
-    std::vector<double> y;
+    Samples x;
+    Samples y;
 };
 
 std::shared_ptr<const HeldPairs> heldPairs(const Recording& recording) {
     HeldPairs pairs{recording.x, recording.y};
-    holdGaps(pairs.x, pairs.y);
+    holdGaps(pairs.x.edit(), pairs.y.edit());
     return std::make_shared<const HeldPairs>(std::move(pairs));
 }
 

@@ -7,7 +7,6 @@
 
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/short_text.h"
-#include "workbench/recording/keyphasor.h"
 
 namespace Rotavue::Workbench {
 namespace {
@@ -94,8 +93,9 @@ double WholeTurns::speed() const {
 
 ShaftTrack::ShaftTrack(const Recording& recording) : hasKeyphasor_(recording.hasTacho()) {
     if (!hasKeyphasor_) return;
-    netTurns_ = turnsOf(recording.angle);
-    MendedMarks marks = mendMarks(findTurnTimes(recording.angle, recording.sampleRate));
+    TurnTimes turns = findTurnTimes(recording.angle, recording.sampleRate);
+    netTurns_ = turns.netTurns;
+    MendedMarks marks = mendMarks(std::move(turns.times));
     noteMended(marks);
     for (std::vector<TurnMark>& run : marks.runs)
         runs_.emplace_back(std::move(run));

@@ -20,49 +20,61 @@ struct ValueRange {
     std::size_t count = 0;
     double least = std::numeric_limits<double>::infinity();
     double most = -std::numeric_limits<double>::infinity();
+    std::size_t atLeast = 0;  ///< how many are the least one
+    std::size_t atMost = 0;
 };
 
-ValueRange rangeOf(const std::vector<double>& values) {
+ValueRange rangeOf(SampleView values) {
     ValueRange range;
-    for (const double value : values) {
-        if (!std::isfinite(value)) continue;
+    values.forEach([&range](double value) {
+        if (!std::isfinite(value)) return;
         ++range.count;
-        range.least = std::min(range.least, value);
-        range.most = std::max(range.most, value);
-    }
+        if (value < range.least) {
+            range.least = value;
+            range.atLeast = 0;
+        }
+        if (value > range.most) {
+            range.most = value;
+            range.atMost = 0;
+        }
+        range.atLeast += value == range.least ? 1U : 0U;
+        range.atMost += value == range.most ? 1U : 0U;
+    });
     return range;
 }
 
-std::size_t timesOf(const std::vector<double>& values, double sought) {
-    return static_cast<std::size_t>(std::count(values.begin(), values.end(), sought));
+std::size_t timesOf(SampleView values, double sought) {
+    std::size_t count = 0;
+    values.forEach([&](double value) { count += value == sought ? 1U : 0U; });
+    return count;
 }
 
 // The value nearest to a limit on its inner side; `sign` is that of the way to the limit.
-double nextTo(const std::vector<double>& values, double limit, double sign) {
+double nextTo(SampleView values, double limit, double sign) {
     double next = -std::numeric_limits<double>::infinity();
-    for (const double value : values) {
+    values.forEach([&](double value) {
         if (sign * value < sign * limit) next = std::max(next, sign * value);
-    }
+    });
     return sign * next;
 }
 
-std::size_t longestRunOf(const std::vector<double>& values, double sought) {
+std::size_t longestRunOf(SampleView values, double sought) {
     std::size_t longest = 0;
     std::size_t run = 0;
-    for (const double value : values) {
-        if (!std::isfinite(value)) continue;
+    values.forEach([&](double value) {
+        if (!std::isfinite(value)) return;
         run = value == sought ? run + 1 : 0;
         longest = std::max(longest, run);
-    }
+    });
     return longest;
 }
 
 // The share of the values at a limit if they are clipped there; else 0. Hardly any are at the limit
 // of a signal that is not: that much is known from one look at the values.
-double clippedShare(const std::vector<double>& values, std::size_t count, double limit,
-                    double sign) {
-    const std::size_t atLimit = timesOf(values, limit);
-    const double share = static_cast<double>(atLimit) / static_cast<double>(count);
+double clippedShare(SampleView values, const ValueRange& range, double sign) {
+    const double limit = sign > 0.0 ? range.most : range.least;
+    const std::size_t atLimit = sign > 0.0 ? range.atMost : range.atLeast;
+    const double share = static_cast<double>(atLimit) / static_cast<double>(range.count);
     if (share < LeastShareAtLimit) return 0.0;
     const std::size_t atNext = timesOf(values, nextTo(values, limit, sign));
     const bool clipped =
@@ -72,7 +84,7 @@ double clippedShare(const std::vector<double>& values, std::size_t count, double
 
 class ProbeCheck {
 public:
-    ProbeCheck(std::string name, const std::vector<double>& probe, std::string unit)
+    ProbeCheck(std::string name, SampleView probe, std::string unit)
         : name_(std::move(name)), probe_(probe), unit_(std::move(unit)) {}
 
     void addNotes(std::vector<std::string>& notes) const {
@@ -83,8 +95,8 @@ public:
             notes.push_back(name_ + " stands still at " + shown(range.most));
             return;
         }
-        addClipNote(clippedShare(probe_, range.count, range.most, 1.0), range.most, notes);
-        addClipNote(clippedShare(probe_, range.count, range.least, -1.0), range.least, notes);
+        addClipNote(clippedShare(probe_, range, 1.0), range.most, notes);
+        addClipNote(clippedShare(probe_, range, -1.0), range.least, notes);
     }
 
 private:
@@ -105,7 +117,7 @@ private:
     }
 
     std::string name_;
-    const std::vector<double>& probe_;
+    SampleView probe_;
     std::string unit_;
 };
 

@@ -21,8 +21,8 @@ constexpr std::size_t LowestBin = 3;
 constexpr double LeastOverMedian = 100.0;
 
 std::vector<Complex> bridgedSignal(const Recording& recording) {
-    std::vector<double> x = recording.x;
-    std::vector<double> y = recording.y;
+    std::vector<double> x(recording.x.begin(), recording.x.end());
+    std::vector<double> y(recording.y.begin(), recording.y.end());
     holdGaps(x, y);
     std::vector<Complex> signal(x.size());
     for (std::size_t i = 0; i < x.size(); ++i)

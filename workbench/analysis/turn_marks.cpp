@@ -97,30 +97,55 @@ private:
     MendedMarks marks_;
 };
 
+// Takes the angles of the samples one after the other.
+class PassageFinder {
+public:
+    explicit PassageFinder(double degrees)
+        : degrees_(degrees),
+          begin_(degrees / DegreesPerTurn),
+          position_(begin_),
+          next_(std::ceil(begin_)) {
+        if (position_ != next_) return;
+        places_.push_back(0.0);
+        next_ += 1.0;
+    }
+
+    void add(double degrees) {
+        const double step = degrees - degrees_;
+        if (std::abs(step) >= 0.5 * DegreesPerTurn) falls_ -= std::round(step / DegreesPerTurn);
+        const double position = falls_ + degrees / DegreesPerTurn;
+        if (position >= next_) {
+            places_.push_back(sample_ + (next_ - position_) / (position - position_));
+            next_ += 1.0;
+        }
+        degrees_ = degrees;
+        position_ = position;
+        sample_ += 1.0;
+    }
+
+    /// The times counted in samples.
+    TurnTimes take() { return {std::move(places_), position_ - begin_}; }
+
+private:
+    double degrees_;   ///< of the sample before
+    double begin_;     ///< the first one in turns
+    double position_;  ///< that of the sample before, which does not fall back
+    double next_;      ///< the turn whose begin is awaited
+    double falls_ = 0.0;
+    double sample_ = 0.0;  ///< the number of the sample before
+    std::vector<double> places_;
+};
+
 }  // namespace
 
-std::vector<double> findTurnTimes(std::span<const double> angle, double sampleRate) {
-    std::vector<double> times;
-    if (angle.empty()) return times;
-    double before = angle[0] / DegreesPerTurn;
-    double next = std::ceil(before);
-    if (before == next) {
-        times.push_back(0.0);
-        next += 1.0;
-    }
-    double falls = 0.0;
-    for (std::size_t i = 1; i < angle.size(); ++i) {
-        const double step = angle[i] - angle[i - 1];
-        if (std::abs(step) >= 0.5 * DegreesPerTurn) falls -= std::round(step / DegreesPerTurn);
-        const double position = falls + angle[i] / DegreesPerTurn;
-        if (position >= next) {
-            const double part = (next - before) / (position - before);
-            times.push_back((static_cast<double>(i - 1) + part) / sampleRate);
-            next += 1.0;
-        }
-        before = position;
-    }
-    return times;
+TurnTimes findTurnTimes(SampleView angle, double sampleRate) {
+    if (angle.empty()) return {};
+    PassageFinder finder(angle[0]);
+    angle.part(1, angle.size() - 1).forEach([&](double degrees) { finder.add(degrees); });
+    TurnTimes turns = finder.take();
+    for (double& time : turns.times)
+        time /= sampleRate;
+    return turns;
 }
 
 MendedMarks mendMarks(std::vector<double> times) {

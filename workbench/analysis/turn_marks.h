@@ -2,8 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
+
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Workbench {
 
@@ -13,11 +14,16 @@ struct TurnMark {
     std::int64_t turn = 0;  ///< whole turns since some first mark
 };
 
-/// The moments at which the angle passes zero, rising, in s after the first sample; each is found
-/// by linear interpolation between the two samples around it. `angle` is in degrees and falls back
-/// once a turn. A shaft that jitters about the mark, or turns back and passes it again, is counted
-/// once: only an angle beyond all earlier ones makes a mark.
-std::vector<double> findTurnTimes(std::span<const double> angle, double sampleRate);
+/// The moments at which an angle passes zero, rising.
+struct TurnTimes {
+    std::vector<double> times;  ///< s after the first sample
+    double netTurns = 0.0;  ///< from the first sample to the last; negative when the angle falls
+};
+
+/// Each moment is found by linear interpolation between the two samples around it. `angle` is in
+/// degrees and falls back once a turn. A shaft that jitters about the mark, or turns back and
+/// passes it again, is counted once: only an angle beyond all earlier ones makes a mark.
+TurnTimes findTurnTimes(SampleView angle, double sampleRate);
 
 /// Marks in unbroken runs, and what was mended to get them.
 struct MendedMarks {

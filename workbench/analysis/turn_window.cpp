@@ -17,7 +17,7 @@ struct Mark {
     bool found = false;
 };
 
-Mark markBefore(std::span<const double> angle, std::size_t from) {
+Mark markBefore(SampleView angle, std::size_t from) {
     for (std::size_t i = from; i > 0; --i) {
         if (std::abs(angle[i] - angle[i - 1]) > HalfTurn) return {i - 1, true};
     }
@@ -26,8 +26,7 @@ Mark markBefore(std::span<const double> angle, std::size_t from) {
 
 }  // namespace
 
-TurnWindow turnWindow(std::span<const double> angle, double sampleRate, std::size_t position,
-                      int revolutions) {
+TurnWindow turnWindow(SampleView angle, double sampleRate, std::size_t position, int revolutions) {
     const std::size_t newest = std::min(position, angle.size() - 1);
     const Mark begin = markBefore(angle, newest);
     TurnWindow window{.first = begin.sample, .last = begin.found ? begin.sample : newest};
@@ -40,11 +39,10 @@ TurnWindow turnWindow(std::span<const double> angle, double sampleRate, std::siz
     return window;
 }
 
-double meanSpeed(std::span<const double> angle, double sampleRate, std::size_t first,
-                 std::size_t last) {
+double meanSpeed(SampleView angle, double sampleRate, std::size_t first, std::size_t last) {
     if (last <= first) return 0.0;
     const double minutes = static_cast<double>(last - first) / sampleRate / 60.0;
-    return std::abs(turnsOf(angle.subspan(first, last - first + 1))) / minutes;
+    return std::abs(turnsOf(angle.part(first, last - first + 1))) / minutes;
 }
 
 }  // namespace Rotavue::Workbench

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
+
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Workbench {
 
@@ -17,11 +18,9 @@ struct TurnWindow {
 /// The window before and with sample `position`, as many turns as there are but no more than
 /// `revolutions`. `angle` is a recording's, not empty; neighbours that differ by more than 180
 /// degrees mark a turn.
-TurnWindow turnWindow(std::span<const double> angle, double sampleRate, std::size_t position,
-                      int revolutions);
+TurnWindow turnWindow(SampleView angle, double sampleRate, std::size_t position, int revolutions);
 
 /// The mean speed in rpm from one sample to a later one; 0 for one sample alone.
-double meanSpeed(std::span<const double> angle, double sampleRate, std::size_t first,
-                 std::size_t last);
+double meanSpeed(SampleView angle, double sampleRate, std::size_t first, std::size_t last);
 
 }  // namespace Rotavue::Workbench

@@ -30,10 +30,10 @@ const std::string& unitOf(const Recording& recording, ColumnRole role) {
 }
 
 // Where the volts of a gap have been, the shaft may well have rested; a person sees it and decides.
-void fillRestOf(ProbeOptions& probe, const std::vector<double>& values, const std::string& unit) {
+void fillRestOf(ProbeOptions& probe, SampleView values, const std::string& unit) {
     constexpr std::size_t Enough = 1'000'000;  // a millisecond's worth
     if (probe.rest || (unit != "V" && unit != "mV")) return;
-    const auto far = farMean(std::span(values).first(std::min(values.size(), Enough)));
+    const auto far = farMean(values.part(0, std::min(values.size(), Enough)));
     if (far) probe.rest = inThreeDigits(far->mean * probe.sensitivity.value_or(1.0));
 }
 

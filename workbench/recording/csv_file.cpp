@@ -116,9 +116,13 @@ CsvFile::CsvFile(const std::filesystem::path& file, unsigned threads, std::size_
       threads_(threadCount(threads)),
       chunkSize_(chunkSize) {}
 
-std::vector<std::vector<double>> CsvFile::read(std::span<const WantedColumn> wanted,
-                                               const ReadingProgress& progress) {
-    return RowCollector(file_, layout_, wanted, chunkSize_).read(threads_, progress);
+std::vector<Samples> CsvFile::read(std::span<const WantedColumn> wanted,
+                                   const ReadingProgress& progress) {
+    auto columns = RowCollector(file_, layout_, wanted, chunkSize_).read(threads_, progress);
+    std::vector<Samples> samples;
+    for (std::vector<double>& column : columns)
+        samples.emplace_back(std::move(column));
+    return samples;
 }
 
 }  // namespace Rotavue::Workbench

@@ -26,8 +26,8 @@ public:
 
     using SampleSource::read;
     const SourceHead& head() const override { return layout_.head; }
-    std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted,
-                                          const ReadingProgress& progress) override;
+    std::vector<Samples> read(std::span<const WantedColumn> wanted,
+                              const ReadingProgress& progress) override;
 
 private:
     std::filesystem::path file_;

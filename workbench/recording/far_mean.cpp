@@ -14,18 +14,18 @@ constexpr double LeastTimes = 5.0;
 
 }  // namespace
 
-std::optional<FarMean> farMean(std::span<const double> values) {
+std::optional<FarMean> farMean(SampleView values) {
     double least = std::numeric_limits<double>::infinity();
     double most = -least;
     double sum = 0.0;
     std::size_t count = 0;
-    for (const double value : values) {
-        if (!std::isfinite(value)) continue;
+    values.forEach([&](double value) {
+        if (!std::isfinite(value)) return;
         least = std::min(least, value);
         most = std::max(most, value);
         sum += value;
         ++count;
-    }
+    });
     if (!(most > least)) return std::nullopt;
     const double mean = sum / static_cast<double>(count);
     const double times = std::abs(mean) / (most - least);

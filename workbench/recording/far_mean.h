@@ -1,7 +1,8 @@
 #pragma once
 
 #include <optional>
-#include <span>
+
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Workbench {
 
@@ -12,7 +13,7 @@ struct FarMean {
 };
 
 /// Nothing for values near 0, and for such as stand still. Gaps are left out.
-std::optional<FarMean> farMean(std::span<const double> values);
+std::optional<FarMean> farMean(SampleView values);
 
 /// The value with three significant digits, as much as a person would enter for such a mean.
 double inThreeDigits(double value);

@@ -1,6 +1,9 @@
 #include "workbench/recording/gaps.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 
 namespace Rotavue::Workbench {
 namespace {
@@ -18,10 +21,17 @@ std::size_t firstPair(const std::vector<double>& x, const std::vector<double>& y
 
 }  // namespace
 
-std::size_t countGaps(std::span<const double> x, std::span<const double> y) {
+std::size_t countGaps(SampleView x, SampleView y) {
+    std::array<double, SampleView::BlockLength> xRoom, yRoom;
     std::size_t count = 0;
-    for (std::size_t i = 0; i < x.size(); ++i)
-        count += isPair(x[i], y[i]) ? 0U : 1U;
+    for (std::size_t first = 0; first < x.size();) {
+        const std::span<const double> xs = x.blockAt(first, xRoom);
+        const std::span<const double> ys = y.blockAt(first, yRoom);
+        const std::size_t size = std::min(xs.size(), ys.size());
+        for (std::size_t i = 0; i < size; ++i)
+            count += isPair(xs[i], ys[i]) ? 0U : 1U;
+        first += size;
+    }
     return count;
 }
 

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
 #include <vector>
+
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Workbench {
 
 /// How many indices have no value in x, in y or in both. Both have the same size.
-std::size_t countGaps(std::span<const double> x, std::span<const double> y);
+std::size_t countGaps(SampleView x, SampleView y);
 
 /// What a host channel is given where the recording has a gap: the last pair of values that both
 /// probes had is held until both have one again, and a gap at the very beginning takes the first

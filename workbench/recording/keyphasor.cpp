@@ -22,16 +22,25 @@ struct Swing {
     double size() const { return high - low; }
 };
 
-double quantile(std::span<const double> values, double part) {
+double quantile(SampleView values, double part) {
     const double place = part * static_cast<double>(values.size() - 1);
     return valueOfRank(values, static_cast<std::size_t>(std::lround(place)));
 }
 
-Swing swingOf(std::span<const double> volts) {
+// Of one value or more.
+Swing rangeOf(SampleView values) {
+    Swing range{values[0], values[0]};
+    values.forEach([&range](double value) {
+        range.low = std::min(range.low, value);
+        range.high = std::max(range.high, value);
+    });
+    return range;
+}
+
+Swing swingOf(SampleView volts) {
     if (volts.empty()) return {};
     const Swing inner{quantile(volts, LowQuantile), quantile(volts, HighQuantile)};
-    const auto [least, most] = std::minmax_element(volts.begin(), volts.end());
-    const Swing whole{*least, *most};
+    const Swing whole = rangeOf(volts);
     return inner.size() < LeastQuantileSpan * whole.size() ? whole : inner;
 }
 
@@ -42,44 +51,32 @@ double crossing(double before, double after, double level) {
 
 }  // namespace
 
-PulseRule pulseRuleFor(std::span<const double> volts, const KeyphasorOptions& options) {
+PulseRule pulseRuleFor(SampleView volts, const KeyphasorOptions& options) {
     const Swing swing = swingOf(volts);
     return {options.edge.value_or(PulseEdge::Rising),
             options.level.value_or(0.5 * (swing.low + swing.high)),
             options.hysteresis.value_or(HysteresisPart * swing.size())};
 }
 
-std::vector<double> findPulses(std::span<const double> volts, const PulseRule& rule) {
+std::vector<double> findPulses(SampleView volts, const PulseRule& rule) {
     // A falling edge is a rising one of the signal turned over.
     const double sign = rule.edge == PulseEdge::Rising ? 1.0 : -1.0;
     const double level = sign * rule.level;
     std::vector<double> pulses;
     bool armed = false;
-    for (std::size_t i = 0; i < volts.size(); ++i) {
-        const double value = sign * volts[i];
+    double before = 0.0;
+    double place = -1.0;  // of the sample before
+    volts.forEach([&](double volt) {
+        const double value = sign * volt;
         if (armed && value >= level) {
-            const double part = crossing(sign * volts[i - 1], value, level);
-            pulses.push_back(static_cast<double>(i - 1) + part);
+            pulses.push_back(place + crossing(before, value, level));
             armed = false;
         }
         if (value < level - rule.hysteresis) armed = true;
-    }
+        before = value;
+        place += 1.0;
+    });
     return pulses;
-}
-
-void angleFromPulses(std::span<const double> pulses, int pulsesPerTurn, std::span<double> angle) {
-    const auto perTurn = static_cast<std::size_t>(pulsesPerTurn);
-    const double step = DegreesPerTurn / pulsesPerTurn;
-    std::size_t i = 0;
-    for (std::size_t k = 0; k + 1 < pulses.size(); ++k) {
-        const bool last = k + 2 == pulses.size();
-        const double period = pulses[k + 1] - pulses[k];
-        const auto first = static_cast<double>(k % perTurn);
-        for (; i < angle.size() && (last || static_cast<double>(i) < pulses[k + 1]); ++i) {
-            const double part = (static_cast<double>(i) - pulses[k]) / period;
-            angle[i] = wrappedDegrees((first + part) * step);
-        }
-    }
 }
 
 double speedFromPulses(std::span<const double> pulses, double sampleRate, int pulsesPerTurn) {
@@ -88,7 +85,7 @@ double speedFromPulses(std::span<const double> pulses, double sampleRate, int pu
     return turns / seconds * SecondsPerMinute;
 }
 
-std::vector<double> angleFromSpeed(std::span<const double> rpm, double sampleRate) {
+std::vector<double> angleFromSpeed(SampleView rpm, double sampleRate) {
     std::vector<double> angle(rpm.size());
     for (std::size_t i = 1; i < rpm.size(); ++i) {
         const double mean = 0.5 * (rpm[i - 1] + rpm[i]);
@@ -97,22 +94,25 @@ std::vector<double> angleFromSpeed(std::span<const double> rpm, double sampleRat
     return angle;
 }
 
-double turnsOf(std::span<const double> degrees) {
+double turnsOf(SampleView degrees) {
+    if (degrees.empty()) return 0.0;
     double turns = 0.0;
-    for (std::size_t i = 1; i < degrees.size(); ++i) {
-        const double step = degrees[i] - degrees[i - 1];
+    double before = degrees[0];
+    degrees.forEach([&](double angle) {
+        const double step = angle - before;
         const bool falls = std::abs(step) > 0.5 * DegreesPerTurn;
         turns += (falls ? std::remainder(step, DegreesPerTurn) : step) / DegreesPerTurn;
-    }
+        before = angle;
+    });
     return turns;
 }
 
-KeyphasorKind kindFromValues(std::span<const double> values) {
+KeyphasorKind kindFromValues(SampleView values) {
     if (values.empty()) return KeyphasorKind::Volts;
-    const auto [least, most] = std::minmax_element(values.begin(), values.end());
-    const double span = *most - *least;
+    const Swing whole = rangeOf(values);
+    const double span = whole.size();
     if (span < 300.0 || span > 361.0) return KeyphasorKind::Volts;
-    const double middle = (quantile(values, 0.5) - *least) / span;
+    const double middle = (quantile(values, 0.5) - whole.low) / span;
     return middle >= 0.25 && middle <= 0.75 ? KeyphasorKind::Ramp : KeyphasorKind::Volts;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "workbench/recording/recording_options.h"
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Workbench {
 
@@ -22,30 +23,25 @@ struct PulseRule {
 /// between the 5 % and the 95 % quantile, a hysteresis of a quarter of the distance between them.
 /// Pulses narrower than a twentieth of their period do not reach the quantiles: where these span
 /// less than a quarter of the whole range, smallest and largest value take their place.
-PulseRule pulseRuleFor(std::span<const double> volts, const KeyphasorOptions& options);
+PulseRule pulseRuleFor(SampleView volts, const KeyphasorOptions& options);
 
 /// The places of the pulses in samples, rising, each found by linear interpolation between the
 /// sample before the crossing and the one behind it.
-std::vector<double> findPulses(std::span<const double> volts, const PulseRule& rule);
-
-/// Writes the shaft's angle at each sample, in degrees from 0 to below 360: 0 at the first pulse,
-/// 360 / `pulsesPerTurn` further at each one after it, linear in between, and going on before the
-/// first and behind the last pulse with the neighbouring period. `pulses` holds two or more.
-void angleFromPulses(std::span<const double> pulses, int pulsesPerTurn, std::span<double> angle);
+std::vector<double> findPulses(SampleView volts, const PulseRule& rule);
 
 /// The mean speed in rpm from the first to the last of two or more pulses.
 double speedFromPulses(std::span<const double> pulses, double sampleRate, int pulsesPerTurn);
 
 /// The angle that a speed in rpm sums up to, in degrees from 0 to below 360, 0 at the first sample;
 /// between samples the speed changes linearly.
-std::vector<double> angleFromSpeed(std::span<const double> rpm, double sampleRate);
+std::vector<double> angleFromSpeed(SampleView rpm, double sampleRate);
 
 /// The turns from the first sample to the last of an angle in degrees that moves by less than half
 /// a turn from sample to sample; negative where it falls.
-double turnsOf(std::span<const double> degrees);
+double turnsOf(SampleView degrees);
 
 /// What a keyphasor column holds, judged by its values alone: a ramp if they span from 300 to 361
 /// and their median lies in the middle half of that, else volts.
-KeyphasorKind kindFromValues(std::span<const double> values);
+KeyphasorKind kindFromValues(SampleView values);
 
 }  // namespace Rotavue::Workbench

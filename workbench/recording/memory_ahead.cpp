@@ -14,7 +14,7 @@ constexpr std::size_t PageSize = 4096;
 
 // False where the system doesn't know the wish or has no memory; then pages come as they are
 // written.
-bool takePages([[maybe_unused]] char* begin, [[maybe_unused]] std::size_t size) {
+bool takePages([[maybe_unused]] std::byte* begin, [[maybe_unused]] std::size_t size) {
 #ifdef MADV_POPULATE_WRITE
     return ::madvise(begin, size, MADV_POPULATE_WRITE) == 0;
 #else
@@ -24,14 +24,13 @@ bool takePages([[maybe_unused]] char* begin, [[maybe_unused]] std::size_t size) 
 
 }  // namespace
 
-MemoryAhead::MemoryAhead(std::span<std::vector<double>> columns) {
+// Of each column its whole pages.
+void MemoryAhead::begin(const std::vector<Stretch>& columns) {
     std::vector<Stretch> stretches;
-    for (std::vector<double>& column : columns) {
-        const std::size_t size = column.capacity() * sizeof(double);
-        if (size < LeastSize) continue;
-        char* const memory = reinterpret_cast<char*>(column.data());
-        const std::size_t before = (0 - reinterpret_cast<std::uintptr_t>(memory)) % PageSize;
-        stretches.push_back({memory + before, (size - before) / PageSize * PageSize});
+    for (const Stretch& column : columns) {
+        if (column.size() < LeastSize) continue;
+        const std::size_t before = (0 - reinterpret_cast<std::uintptr_t>(column.data())) % PageSize;
+        stretches.push_back(column.subspan(before, (column.size() - before) / PageSize * PageSize));
     }
     if (stretches.empty()) return;
     done_ = std::async(std::launch::async | std::launch::deferred,
@@ -52,9 +51,9 @@ std::size_t MemoryAhead::take(const std::vector<Stretch>& stretches) {
     for (std::size_t place = 0; !stopped_; place += Slice) {
         const std::size_t before = sum;
         for (const Stretch& stretch : stretches) {
-            if (place >= stretch.size) continue;
-            const std::size_t size = std::min(Slice, stretch.size - place);
-            if (!takePages(stretch.begin + place, size)) return sum;
+            if (place >= stretch.size()) continue;
+            const std::size_t size = std::min(Slice, stretch.size() - place);
+            if (!takePages(stretch.data() + place, size)) return sum;
             sum += size;
         }
         if (sum == before) break;

@@ -16,7 +16,14 @@ class MemoryAhead {
 public:
     /// Begins, where there is enough of it to be worth a thread. The columns hold no values yet;
     /// they may be filled meanwhile, and must not reserve more while this lives.
-    explicit MemoryAhead(std::span<std::vector<double>> columns);
+    template <typename Value>
+    explicit MemoryAhead(std::span<std::vector<Value>> columns) {
+        std::vector<std::span<std::byte>> memory;
+        for (std::vector<Value>& column : columns)
+            memory.push_back(
+                {reinterpret_cast<std::byte*>(column.data()), column.capacity() * sizeof(Value)});
+        begin(memory);
+    }
 
     /// Ends with the slice that is being taken.
     ~MemoryAhead();
@@ -31,10 +38,9 @@ public:
     static constexpr std::size_t LeastSize = 16 * Slice;  ///< of a column
 
 private:
-    struct Stretch {
-        char* begin;
-        std::size_t size;
-    };
+    using Stretch = std::span<std::byte>;
+
+    void begin(const std::vector<Stretch>& columns);
     std::size_t take(const std::vector<Stretch>& stretches);
 
     std::atomic<bool> stopped_ = false;

@@ -25,18 +25,18 @@ double valueOf(std::uint64_t key) {
 }
 
 // How many keys that begin as `key` does have each of the digits that end at bit `shift`.
-std::vector<std::size_t> countDigits(std::span<const double> values, std::uint64_t key, int shift) {
+std::vector<std::size_t> countDigits(SampleView values, std::uint64_t key, int shift) {
     std::vector<std::size_t> counts(std::size_t{1} << DigitBits);
     const std::uint64_t known =
         shift + DigitBits < KeyBits ? ~std::uint64_t{0} << (shift + DigitBits) : 0;
-    for (const double value : values) {
+    values.forEach([&](double value) {
         const std::uint64_t other = keyOf(value);
         if (((other ^ key) & known) == 0) ++counts[(other >> shift) % counts.size()];
-    }
+    });
     return counts;
 }
 
-double valueByDigits(std::span<const double> values, std::size_t rank) {
+double valueByDigits(SampleView values, std::size_t rank) {
     std::uint64_t key = 0;
     for (int shift = KeyBits - DigitBits; shift >= 0; shift -= DigitBits) {
         const std::vector<std::size_t> counts = countDigits(values, key, shift);
@@ -49,7 +49,7 @@ double valueByDigits(std::span<const double> values, std::size_t rank) {
 }
 
 // What has that place among a few of the values.
-double guess(std::span<const double> values, std::size_t rank) {
+double guess(SampleView values, std::size_t rank) {
     const std::size_t step = values.size() / SampleSize + 1;
     std::vector<double> sample;
     for (std::size_t i = 0; i < values.size(); i += step)
@@ -59,20 +59,20 @@ double guess(std::span<const double> values, std::size_t rank) {
     return sample[static_cast<std::size_t>(place)];
 }
 
-bool hasRank(std::span<const double> values, double value, std::size_t rank) {
+bool hasRank(SampleView values, double value, std::size_t rank) {
     std::size_t less = 0;
     std::size_t same = 0;
-    for (const double other : values) {
+    values.forEach([&](double other) {
         less += other < value ? 1U : 0U;
         same += other == value ? 1U : 0U;
-    }
+    });
     return less <= rank && rank < less + same;
 }
 
 }  // namespace
 
 // A converter has few levels, and pulses rest at one or two of them: mostly the guess is right.
-double valueOfRank(std::span<const double> values, std::size_t rank) {
+double valueOfRank(SampleView values, std::size_t rank) {
     const double guessed = guess(values, rank);
     return hasRank(values, guessed, rank) ? guessed : valueByDigits(values, rank);
 }

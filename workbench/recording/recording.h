@@ -9,6 +9,7 @@
 #include "workbench/recording/reading_watch.h"
 #include "workbench/recording/recording_error.h"
 #include "workbench/recording/recording_options.h"
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Workbench {
 
@@ -58,9 +59,9 @@ struct Recording {
     double sampleRate = 0.0;  ///< samples per second, above 0
     RateSource rateSource = RateSource::TimeColumn;
     double startTime = 0.0;          ///< s, what the time column begins with; else 0
-    std::vector<double> x;           ///< displacement toward the X probe, in the unit
-    std::vector<double> y;           ///< displacement toward the Y probe, in the unit
-    std::vector<double> angle;       ///< degrees; empty: no keyphasor
+    Samples x;                       ///< displacement toward the X probe, in the unit
+    Samples y;                       ///< displacement toward the Y probe, in the unit
+    Samples angle;                   ///< degrees; empty: no keyphasor
     std::vector<double> pulseTimes;  ///< s after the first sample; of KeyphasorKind::Volts
     KeyphasorKind keyphasorKind = KeyphasorKind::None;  ///< as used
     int pulsesPerTurn = 1;                              ///< of KeyphasorKind::Volts

@@ -28,14 +28,14 @@ constexpr double PartOfReading = 0.8;
 constexpr double PartOfDisplacements = 0.9;
 
 // The mean over what is no gap.
-double meanOf(const std::vector<double>& values) {
+double meanOf(SampleView values) {
     double sum = 0.0;
     std::size_t count = 0;
-    for (const double value : values) {
-        if (std::isnan(value)) continue;
+    values.forEach([&](double value) {
+        if (std::isnan(value)) return;
         sum += value;
         ++count;
-    }
+    });
     return count > 0 ? sum / static_cast<double>(count) : 0.0;
 }
 
@@ -88,7 +88,7 @@ void RecordingBuilder::readColumns(const ReadingProgress& progress) {
 }
 
 // The values of the column with this role, handed over; empty if there is none.
-std::vector<double> RecordingBuilder::taken(ColumnRole role) {
+Samples RecordingBuilder::taken(ColumnRole role) {
     for (std::size_t i = 0; i < wanted_.size(); ++i) {
         if (wanted_[i].role == role) return std::move(values_[i]);
     }
@@ -103,7 +103,7 @@ const RecordingColumn* RecordingBuilder::columnOf(ColumnRole role) const {
 }
 
 void RecordingBuilder::takeRate() {
-    const std::vector<double> time = taken(ColumnRole::Time);
+    const Samples time = taken(ColumnRole::Time);
     if (options_.rate) {
         recording_.sampleRate = *options_.rate;
         recording_.rateSource = RateSource::Option;
@@ -118,7 +118,7 @@ void RecordingBuilder::takeRate() {
     }
 }
 
-void RecordingBuilder::takeTime(const std::vector<double>& time) {
+void RecordingBuilder::takeTime(const Samples& time) {
     const auto steps = readTimeSteps(time, secondsPerUnit(columnOf(ColumnRole::Time)->unit));
     if (!steps) {
         throw RecordingError({recording_.file},
@@ -157,18 +157,11 @@ void RecordingBuilder::noteTurnedProbe(const char* name, const ProbeOptions& pro
                                " probe is turned round by its negative sensitivity");
 }
 
-std::vector<double> RecordingBuilder::displacement(ColumnRole role, const ProbeOptions& probe) {
-    std::vector<double> values = taken(role);
-    const double rest = probe.rest.value_or(0.0);
-    const double sensitivity = probe.sensitivity.value_or(1.0);
-    const bool scaled = probe.rest || probe.sensitivity;
-    for (std::size_t i = 0; scaled && i < values.size(); ++i)
-        values[i] = (values[i] - rest) / sensitivity;
-    if (recording_.coupling == Coupling::Ac) {
-        const double mean = meanOf(values);
-        for (double& value : values)
-            value -= mean;
-    }
+Samples RecordingBuilder::displacement(ColumnRole role, const ProbeOptions& probe) {
+    Samples values = taken(role);
+    if (probe.rest || probe.sensitivity)
+        values.calibrate(probe.rest.value_or(0.0), probe.sensitivity.value_or(1.0));
+    if (recording_.coupling == Coupling::Ac) values.lower(meanOf(values));
     return values;
 }
 
@@ -190,7 +183,7 @@ void RecordingBuilder::noteGaps() {
 void RecordingBuilder::takeKeyphasor() {
     const RecordingColumn* column = columnOf(ColumnRole::Keyphasor);
     if (!column) return;
-    std::vector<double> values = taken(ColumnRole::Keyphasor);
+    Samples values = taken(ColumnRole::Keyphasor);
     const auto fromName = options_.keyphasor.kind ? options_.keyphasor.kind : kindFromName(*column);
     recording_.keyphasorKind = fromName.value_or(kindFromValues(values));
     switch (recording_.keyphasorKind) {
@@ -209,10 +202,9 @@ void RecordingBuilder::takeKeyphasor() {
     noteMissingMark();
 }
 
-// The angle takes the place of the volts: the memory of a large recording is what reading it costs.
-void RecordingBuilder::takePulses(std::vector<double> volts) {
+void RecordingBuilder::takePulses(Samples volts) {
     const PulseRule rule = pulseRuleFor(volts, options_.keyphasor);
-    const std::vector<double> pulses = findPulses(volts, rule);
+    std::vector<double> pulses = findPulses(volts, rule);
     if (pulses.size() < 2) {
         recording_.keyphasorKind = KeyphasorKind::None;
         recording_.notes.push_back("the keyphasor has " + std::to_string(pulses.size()) +
@@ -222,15 +214,15 @@ void RecordingBuilder::takePulses(std::vector<double> volts) {
     }
     const int pulsesPerTurn = options_.keyphasor.pulsesPerTurn.value_or(1);
     recording_.pulsesPerTurn = pulsesPerTurn;
-    angleFromPulses(pulses, pulsesPerTurn, volts);
-    recording_.angle = std::move(volts);
     recording_.meanSpeed = speedFromPulses(pulses, recording_.sampleRate, pulsesPerTurn);
     for (const double pulse : pulses) {
         recording_.pulseTimes.push_back(pulse / recording_.sampleRate);
     }
+    recording_.angle = Samples(PulseAngle(std::move(pulses), pulsesPerTurn, volts.size()));
 }
 
-void RecordingBuilder::takeRamp(std::vector<double> degrees) {
+void RecordingBuilder::takeRamp(Samples column) {
+    std::vector<double>& degrees = column.edit();
     const bool radians = columnOf(ColumnRole::Keyphasor)->unit == "rad";
     const double unit = radians ? 180.0 / std::numbers::pi : 1.0;
     for (double& angle : degrees)
@@ -246,10 +238,11 @@ void RecordingBuilder::takeRamp(std::vector<double> degrees) {
     if (steps > 0.0) {
         recording_.meanSpeed = turns / steps * recording_.sampleRate * SecondsPerMinute;
     }
-    recording_.angle = std::move(degrees);
+    recording_.angle = std::move(column);
 }
 
-void RecordingBuilder::takeSpeed(std::vector<double> rpm) {
+void RecordingBuilder::takeSpeed(Samples column) {
+    std::vector<double>& rpm = column.edit();
     const bool hertz = columnOf(ColumnRole::Keyphasor)->unit == "Hz";
     for (double& speed : rpm) {
         speed *= hertz ? SecondsPerMinute : 1.0;
@@ -295,7 +288,7 @@ void RecordingBuilder::takeFacts() {
 }
 
 // The volts of a gap, or a displacement that counts from far away: of the orbit a dot is left.
-void RecordingBuilder::noteFarProbe(const char* name, const std::vector<double>& values,
+void RecordingBuilder::noteFarProbe(const char* name, const Samples& values,
                                     const ProbeOptions& probe) {
     if (probe.rest || recording_.coupling == Coupling::Ac) return;
     const auto far = farMean(values);

@@ -24,24 +24,23 @@ public:
 private:
     void noteFurtherPlanes();
     void readColumns(const ReadingProgress& progress);
-    std::vector<double> taken(ColumnRole role);
+    Samples taken(ColumnRole role);
     const RecordingColumn* columnOf(ColumnRole role) const;
 
     void takeRate();
-    void takeTime(const std::vector<double>& time);
+    void takeTime(const Samples& time);
 
     void takeDisplacements();
-    std::vector<double> displacement(ColumnRole role, const ProbeOptions& probe);
-    void noteFarProbe(const char* name, const std::vector<double>& values,
-                      const ProbeOptions& probe);
+    Samples displacement(ColumnRole role, const ProbeOptions& probe);
+    void noteFarProbe(const char* name, const Samples& values, const ProbeOptions& probe);
     void noteTurnedProbe(const char* name, const ProbeOptions& probe);
     void checkPairs() const;
     void noteGaps();
 
     void takeKeyphasor();
-    void takePulses(std::vector<double> volts);
-    void takeRamp(std::vector<double> degrees);
-    void takeSpeed(std::vector<double> rpm);
+    void takePulses(Samples volts);
+    void takeRamp(Samples column);
+    void takeSpeed(Samples column);
     void noteFastTurns();
     void noteMissingMark();
 
@@ -51,7 +50,7 @@ private:
     SampleSource& source_;
     RecordingOptions options_;
     std::vector<WantedColumn> wanted_;
-    std::vector<std::vector<double>> values_;  ///< as `wanted_`
+    std::vector<Samples> values_;  ///< as `wanted_`
     Recording recording_;
 };
 

@@ -8,6 +8,7 @@
 
 #include "workbench/recording/reading_watch.h"
 #include "workbench/recording/recording.h"
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Workbench {
 
@@ -40,11 +41,11 @@ public:
 
     /// The values of the wanted columns, in the order of `wanted`: lists of one length, from 1 to
     /// `MaxSampleCount`. A gap is a NaN.
-    virtual std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted,
-                                                  const ReadingProgress& progress) = 0;
+    virtual std::vector<Samples> read(std::span<const WantedColumn> wanted,
+                                      const ReadingProgress& progress) = 0;
 
     /// The same, with nobody watching.
-    std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted) {
+    std::vector<Samples> read(std::span<const WantedColumn> wanted) {
         return read(wanted, ReadingProgress());
     }
 };

@@ -10,7 +10,7 @@ namespace {
 constexpr double RoundingDust = 1e-9;
 constexpr double LargestUncertainty = 0.01;  // relative; beyond it the steps are not equal at all
 
-double largestStray(std::span<const double> time, double step) {
+double largestStray(SampleView time, double step) {
     double largest = 0.0;
     for (std::size_t i = 0; i < time.size(); ++i) {
         const double place = time.front() + step * static_cast<double>(i);
@@ -29,7 +29,7 @@ double wholeIfLikely(double rate, double relativeError) {
 
 }  // namespace
 
-std::optional<TimeSteps> readTimeSteps(std::span<const double> time, double secondsPerUnit) {
+std::optional<TimeSteps> readTimeSteps(SampleView time, double secondsPerUnit) {
     if (time.size() < 2 || !(time.back() > time.front())) return std::nullopt;
     const auto stepCount = static_cast<double>(time.size() - 1);
     const double span = time.back() - time.front();

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string_view>
+
+#include "workbench/recording/samples.h"
 
 namespace Rotavue::Workbench {
 
@@ -18,7 +19,7 @@ struct TimeSteps {
 /// mean step is then known to twice the largest stray over the whole span, and at best to 1e-9. A
 /// whole number of samples per second within that is taken for the rate, unless several are or the
 /// steps are not even to 1 %. Nothing if there are fewer than two values or the time stands still.
-std::optional<TimeSteps> readTimeSteps(std::span<const double> time, double secondsPerUnit);
+std::optional<TimeSteps> readTimeSteps(SampleView time, double secondsPerUnit);
 
 /// What 1 in a column of this unit stands for, in seconds: "s" or none, "ms", "us", "ns".
 double secondsPerUnit(std::string_view unit);

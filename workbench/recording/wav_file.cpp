@@ -91,6 +91,12 @@ public:
             std::min(held, static_cast<std::uintmax_t>(std::max<sf_count_t>(0, info_.frames))));
     }
 
+    // Whether single precision holds each sample exactly.
+    bool isNarrow() const {
+        const int sample = info_.format & SF_FORMAT_SUBMASK;
+        return sample != SF_FORMAT_PCM_32 && sample != SF_FORMAT_DOUBLE;
+    }
+
     void rewind() { sf_seek(file_, 0, SEEK_SET); }
 
     // The number of frames read: `BlockLength`, and less at the end only.
@@ -107,14 +113,16 @@ private:
 
 namespace {
 
-void append(std::vector<double>& values, const std::vector<double>& block, std::size_t channel,
+template <typename Value>
+void append(std::vector<Value>& values, const std::vector<double>& block, std::size_t channel,
             std::size_t channelCount, std::size_t frames) {
     const std::size_t begin = values.size();
     values.resize(begin + frames);
     for (std::size_t frame = 0; frame < frames; ++frame) {
         const double value = block[frame * channelCount + channel];
         const bool measured = std::abs(value) <= LargestReading;
-        values[begin + frame] = measured ? value : std::numeric_limits<double>::quiet_NaN();
+        values[begin + frame] =
+            measured ? static_cast<Value>(value) : std::numeric_limits<Value>::quiet_NaN();
     }
 }
 
@@ -122,7 +130,7 @@ double partOf(std::size_t frames, std::size_t expected) {
     return frames < expected ? static_cast<double>(frames) / static_cast<double>(expected) : 1.0;
 }
 
-void refuseGap(const std::filesystem::path& file, const std::vector<double>& values,
+void refuseGap(const std::filesystem::path& file, const Samples& values,
                const WantedColumn& column) {
     if (column.role == ColumnRole::X || column.role == ColumnRole::Y) return;
     const auto gap =
@@ -152,14 +160,20 @@ WavFile::WavFile(const std::filesystem::path& file)
 
 WavFile::~WavFile() = default;
 
-std::vector<std::vector<double>> WavFile::read(std::span<const WantedColumn> wanted,
-                                               const ReadingProgress& progress) {
+std::vector<Samples> WavFile::read(std::span<const WantedColumn> wanted,
+                                   const ReadingProgress& progress) {
+    return handle_->isNarrow() ? readAs<float>(wanted, progress) : readAs<double>(wanted, progress);
+}
+
+template <typename Value>
+std::vector<Samples> WavFile::readAs(std::span<const WantedColumn> wanted,
+                                     const ReadingProgress& progress) {
     const std::size_t channelCount = handle_->channelCount();
     const std::size_t expected = handle_->mostFrames(std::filesystem::file_size(file_));
-    std::vector<std::vector<double>> columns(wanted.size());
-    for (std::vector<double>& column : columns)
+    std::vector<std::vector<Value>> columns(wanted.size());
+    for (std::vector<Value>& column : columns)
         column.reserve(std::min(expected, MaxSampleCount));
-    const MemoryAhead memory(columns);
+    const MemoryAhead memory{std::span(columns)};
     std::vector<double> block(BlockLength * channelCount);
     handle_->rewind();
     std::size_t total = 0;
@@ -171,9 +185,12 @@ std::vector<std::vector<double>> WavFile::read(std::span<const WantedColumn> wan
         progress.reach(partOf(total, expected));
     }
     if (total == 0) throw RecordingError({file_}, "no samples", "at least one");
-    for (std::size_t i = 0; i < wanted.size(); ++i)
-        refuseGap(file_, columns[i], wanted[i]);
-    return columns;
+    std::vector<Samples> samples;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        samples.emplace_back(std::move(columns[i]));
+        refuseGap(file_, samples.back(), wanted[i]);
+    }
+    return samples;
 }
 
 std::vector<std::vector<double>> WavFile::firstFrames(std::size_t most) {

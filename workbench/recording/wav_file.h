@@ -27,8 +27,8 @@ public:
 
     using SampleSource::read;
     const SourceHead& head() const override { return head_; }
-    std::vector<std::vector<double>> read(std::span<const WantedColumn> wanted,
-                                          const ReadingProgress& progress) override;
+    std::vector<Samples> read(std::span<const WantedColumn> wanted,
+                              const ReadingProgress& progress) override;
 
     /// The first frames, at most so many, each with a value for each channel.
     std::vector<std::vector<double>> firstFrames(std::size_t most);
@@ -36,6 +36,9 @@ public:
 private:
     class Handle;
 
+    template <typename Value>
+    std::vector<Samples> readAs(std::span<const WantedColumn> wanted,
+                                const ReadingProgress& progress);
     void checkCount(std::size_t frames) const;
 
     std::filesystem::path file_;

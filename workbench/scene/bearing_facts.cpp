@@ -16,8 +16,9 @@ int axisDecimals(const Recording& recording) {
     constexpr std::int32_t UsualTicks = 5;
     double largest = 0.0;
     for (const auto* probe : {&recording.x, &recording.y})
-        for (const double value : *probe)
+        SampleView(*probe).forEach([&largest](double value) {
             largest = std::max(largest, std::isnan(value) ? 0.0 : std::abs(value));
+        });
     return largest > 0.0 ? plainScale(largest, Background::Grid, UsualTicks).decimals : 0;
 }
 

@@ -69,8 +69,8 @@ TEST(AveragedOrbit, TakesTheNewestStretches) {
 
 TEST(AveragedOrbit, LeavesStretchesWithGapsOut) {
     Recording recording = generate({.orders = {First}});
-    recording.x[5000] = Gap;  // turn 25.25, between the pulses at 0.495 and 0.515 s
-    recording.y[5300] = Gap;
+    recording.x.edit()[5000] = Gap;  // turn 25.25, between the pulses at 0.495 and 0.515 s
+    recording.y.edit()[5300] = Gap;
     const AveragedOrbit orbit = averaged(recording);
     EXPECT_EQ(orbit.averages, 47);
     EXPECT_NEAR(orbit.x[0], 40.0 * std::cos(30.0 * RadiansPerDegree), 0.01);
@@ -80,7 +80,7 @@ TEST(AveragedOrbit, RefusesWhatCannotBeHadInOneLine) {
     const Recording recording = generate({.duration = 0.1, .orders = {First}});
     Recording broken = recording;
     for (std::size_t i = 0; i < broken.x.size(); i += 100)
-        broken.x[i] = Gap;
+        broken.x.edit()[i] = Gap;
     const std::string the = "the averaged orbit ";
     const struct {
         Recording recording;

@@ -85,7 +85,7 @@ TEST(Compensation, VectorLeavesWhatIsNoOrderOneOrTwo) {
     slowRoll.second = {2.0, {2, 0}, {}};
     Recording recording = still();
     for (std::size_t i = 0; i < recording.sampleCount(); i += 16)
-        recording.x[i] = 8;
+        recording.x.edit()[i] = 8;
     const Recording vector = without(recording, slowRoll, CompensationForm::Vector);
     const Recording waveform = without(recording, slowRoll, CompensationForm::Waveform);
     EXPECT_NEAR(vector.x[16], 8.0 - 2.0 - 2.0, 1e-9);
@@ -126,11 +126,11 @@ TEST(Compensation, WhereTheShaftStandsTheRecordingsAngleHolds) {
     const std::size_t begin = 86;  // 3/8 of turn 5: a point without a peak
     std::vector<double> angle(recording.angle.begin(), recording.angle.begin() + begin);
     angle.insert(angle.end(), 500, 0.0);  // it stands at the peak of x
-    recording.angle.resize(begin);
-    recording.angle.insert(recording.angle.end(), angle.begin() + 80, angle.end());
-    recording.angle.insert(recording.angle.end(), angle.begin(), angle.end() - 500);
-    recording.x.assign(recording.angle.size(), 0.0);
-    recording.y.assign(recording.angle.size(), 0.0);
+    recording.angle.edit().resize(begin);
+    recording.angle.edit().insert(recording.angle.edit().end(), angle.begin() + 80, angle.end());
+    recording.angle.edit().insert(recording.angle.edit().end(), angle.begin(), angle.end() - 500);
+    recording.x.edit().assign(recording.angle.size(), 0.0);
+    recording.y.edit().assign(recording.angle.size(), 0.0);
     const Recording result = without(recording, peaks(), CompensationForm::Waveform);
     EXPECT_NEAR(result.x[400], -8.0, 1e-9);
     EXPECT_NEAR(result.y[400], 0.0, 1e-9);
@@ -138,7 +138,7 @@ TEST(Compensation, WhereTheShaftStandsTheRecordingsAngleHolds) {
 
 TEST(Compensation, GapsStayGapsAndTheOtherProbeIsStillCompensated) {
     Recording recording = still();
-    recording.x[16] = Gap;
+    recording.x.edit()[16] = Gap;
     const Recording result = without(recording, peaks(), CompensationForm::Waveform);
     EXPECT_TRUE(std::isnan(result.x[16]));
     EXPECT_NEAR(result.x[32], -8.0, 1e-9);

@@ -42,7 +42,7 @@ TEST(DirectOrbit, ShowsTheTurnsOfTheSpanOneBehindTheOther) {
 TEST(DirectOrbit, AveragesNothing) {
     Recording recording = generate({});
     const std::size_t inTheSecondTurn = 450;  // 0.045 s, half a turn behind the pulse at 0.035 s
-    recording.x[inTheSecondTurn] = 12.0;
+    recording.x.edit()[inTheSecondTurn] = 12.0;
     const AveragedOrbit orbit = direct(recording, {0.014, 0.056});
     ASSERT_EQ(orbit.revolutions, 2);
     EXPECT_NEAR(orbit.x[128], 0.0, 1e-9);
@@ -83,7 +83,7 @@ TEST(DirectOrbit, OfVeryManyTurnsShowsTheNewestCoarsely) {
 TEST(DirectOrbit, SaysWhatItLacks) {
     const Recording recording = generate({});
     Recording broken = recording;
-    broken.y[450] = Gap;
+    broken.y.edit()[450] = Gap;
     EXPECT_EQ(refusalOf([&] { direct(withoutKeyphasor(recording)); }),
               "the direct orbit by angle needs the shaft's angle, and the recording has no "
               "keyphasor");

@@ -50,16 +50,16 @@ inline Recording generate(const GeneratedRotor& rotor) {
             x += order.x.valueAt(order.order, turns);
             y += order.y.valueAt(order.order, turns);
         }
-        recording.x.push_back(x + rotor.noise * noise(random));
-        recording.y.push_back(y + rotor.noise * noise(random));
-        recording.angle.push_back(360.0 * (turns - std::floor(turns)));
+        recording.x.edit().push_back(x + rotor.noise * noise(random));
+        recording.y.edit().push_back(y + rotor.noise * noise(random));
+        recording.angle.edit().push_back(360.0 * (turns - std::floor(turns)));
     }
     return recording;
 }
 
 // The same recording as if it had been made without a keyphasor.
 inline Recording withoutKeyphasor(Recording recording) {
-    recording.angle.clear();
+    recording.angle.edit().clear();
     recording.keyphasorKind = KeyphasorKind::None;
     return recording;
 }

@@ -52,9 +52,9 @@ TEST(Harmonics, TellTheLagOfABrokenOrderFromTheFirstPulseOfTheWindow) {
 TEST(Harmonics, LeaveSamplesInGapsOut) {
     Recording recording = generate({.orders = {First, Second}});
     for (std::size_t i = 3000; i < 3700; ++i)
-        recording.x[i] = Gap;
+        recording.x.edit()[i] = Gap;
     for (std::size_t i = 6000; i < 6400; ++i)
-        recording.y[i] = std::numeric_limits<double>::infinity();
+        recording.y.edit()[i] = std::numeric_limits<double>::infinity();
     const Harmonics harmonics = found(recording, {1.0, 2.0});
     expectVector(harmonics.orders[0].x, First.x, 1e-3);
     expectVector(harmonics.orders[1].y, Second.y, 1e-3);
@@ -72,7 +72,7 @@ TEST(Harmonics, RefuseWhatCannotBeToldInOneLine) {
     const Recording recording = generate({.orders = {First}});
     Recording broken = recording;
     for (std::size_t i = 0; i < 6000; ++i)
-        broken.x[i] = Gap;
+        broken.x.edit()[i] = Gap;
     const struct {
         Recording recording;
         std::vector<double> orders;

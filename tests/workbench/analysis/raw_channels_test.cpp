@@ -71,7 +71,7 @@ TEST(RawChannels, SayWhatTheControlReadsOfTheBearing) {
 
 TEST(RawChannels, WithoutAKeyphasorThereIsNoTacho) {
     Recording recording = fiveSamples();
-    recording.angle.clear();
+    recording.angle.edit().clear();
     HostKit::MemoryHost host;
     offer(host, std::move(recording));
     const auto group = host.control()->getGroups()->getItem(0);
@@ -80,7 +80,7 @@ TEST(RawChannels, WithoutAKeyphasorThereIsNoTacho) {
 
 TEST(RawChannels, AGapHoldsThePairBeforeIt) {
     Recording recording = fiveSamples();
-    recording.x[2] = Gap;
+    recording.x.edit()[2] = Gap;
     HostKit::MemoryHost host;
     offer(host, std::move(recording));
     EXPECT_EQ(host.channel("orbit1")->getValue(2, 4), 2.0);
@@ -103,7 +103,7 @@ TEST(RawChannels, AreTheSamplesOfTheRecordingForAsLongAsTheyLast) {
 
 TEST(RawChannels, GapsAreFilledInACopyAndStayInTheRecording) {
     Recording recording = fiveSamples();
-    recording.y[0] = Gap;
+    recording.y.edit()[0] = Gap;
     const auto kept = std::make_shared<const Recording>(std::move(recording));
     HostKit::MemoryHost host;
     assignRawOrbit(host.description, rawOrbit(kept, {"Shaft", 0}));

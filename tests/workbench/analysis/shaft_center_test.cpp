@@ -25,7 +25,7 @@ Recording liftingShaft() {
                                     .orders = {{1.0, {50, 30}, {50, 120}}},
                                     .xMean = 20});
     for (std::size_t i = 0; i < recording.y.size(); ++i)
-        recording.y[i] += 10.0 * static_cast<double>(i) / recording.sampleRate;
+        recording.y.edit()[i] += 10.0 * static_cast<double>(i) / recording.sampleRate;
     return recording;
 }
 
@@ -80,7 +80,7 @@ TEST(ShaftCenter, RestsAtTheBottomOfThePictureWhereverTheProbesAre) {
 TEST(ShaftCenter, TakesARestSpanAsDisplacementZero) {
     Recording recording = generate({.duration = 4.0, .xMean = -900, .yMean = -950});
     for (std::size_t i = 20'000; i < 40'000; ++i)
-        recording.x[i] += 12.0;
+        recording.x.edit()[i] += 12.0;
     const auto positions = historyOf(recording, {.restSpan = TimeSpan{0.0, 1.5}}).positions;
     EXPECT_NEAR(positions[0].x, 0.0, 1e-9);
     EXPECT_NEAR(positions[0].y, 0.0, 1e-9);
@@ -89,7 +89,7 @@ TEST(ShaftCenter, TakesARestSpanAsDisplacementZero) {
 
 TEST(ShaftCenter, WorksForAStandingShaftAndWithoutKeyphasorAtSpeedZero) {
     Recording standing = generate({.duration = 2.0, .xMean = 5});
-    std::fill(standing.angle.begin(), standing.angle.end(), 33.0);
+    std::fill(standing.angle.edit().begin(), standing.angle.edit().end(), 33.0);
     for (const Recording& recording : {standing, withoutKeyphasor(standing)}) {
         const auto positions = historyOf(recording).positions;
         ASSERT_EQ(positions.size(), 2u);
@@ -101,7 +101,7 @@ TEST(ShaftCenter, WorksForAStandingShaftAndWithoutKeyphasorAtSpeedZero) {
 TEST(ShaftCenter, LeavesIntervalsOfGapsOutAndCountsThem) {
     Recording recording = generate({.duration = 4.0, .xMean = 5});
     for (std::size_t i = 10'000; i < 16'000; ++i)
-        recording.x[i] = Gap;
+        recording.x.edit()[i] = Gap;
     const ShaftCenterHistory history = historyOf(recording);
     ASSERT_EQ(history.positions.size(), 3u);
     EXPECT_EQ(history.positions[1].time, 2.5);
@@ -194,7 +194,7 @@ TEST(MeanPosition, NeedsHalfOfTheSamplesInPairs) {
 TEST(SampleRange, TakesASampleOnTheFirstBoundAndLeavesOneOnTheLast) {
     Recording recording;
     recording.sampleRate = 10.0;
-    recording.x.assign(100, 0.0);
+    recording.x.edit().assign(100, 0.0);
     EXPECT_EQ(samplesIn(recording, {0.3, 0.7}).first, 3u);
     EXPECT_EQ(samplesIn(recording, {0.3, 0.7}).end, 7u);
     EXPECT_EQ(samplesIn(recording, {-1.0, 99.0}).count(), 100u);

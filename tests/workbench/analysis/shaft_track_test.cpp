@@ -82,7 +82,7 @@ Recording fromPulses(const GeneratedRotor& rotor, const std::vector<int>& missin
         while (k + 2 < pulses.size() && static_cast<double>(i) >= pulses[k + 1])
             ++k;
         const double part = (static_cast<double>(i) - pulses[k]) / (pulses[k + 1] - pulses[k]);
-        recording.angle[i] = 360.0 * (part - std::floor(part));
+        recording.angle.edit()[i] = 360.0 * (part - std::floor(part));
     }
     return recording;
 }
@@ -112,7 +112,7 @@ TEST(ShaftTrack, FindsTheMostWholeTurnsOfASpan) {
 void stop(Recording& recording, double from, double to) {
     for (std::size_t i = 0; i < recording.sampleCount(); ++i) {
         const double time = static_cast<double>(i) / recording.sampleRate;
-        if (time >= from && time < to) recording.angle[i] = 120.0;
+        if (time >= from && time < to) recording.angle.edit()[i] = 120.0;
     }
 }
 
@@ -134,7 +134,7 @@ TEST(ShaftTrack, RefusesWithWhatIsMissing) {
     Recording standing = turning;
     stop(standing, 0.0, 1.0);
     Recording backward = turning;
-    for (double& angle : backward.angle)
+    for (double& angle : backward.angle.edit())
         angle = angle > 0.0 ? 360.0 - angle : 0.0;
     const struct {
         Recording recording;

@@ -23,7 +23,7 @@ TEST(SignalCheck, SaysNothingOfASoundRecording) {
 TEST(SignalCheck, SaysNothingOfACoarselyDigitisedSine) {
     for (const double step : {0.01, 0.3, 1.0}) {
         Recording recording = sines();
-        for (double& value : recording.x)
+        for (double& value : recording.x.edit())
             value = step * std::round(value / step);
         EXPECT_EQ(checkProbes(recording), Notes()) << step;
     }
@@ -31,9 +31,9 @@ TEST(SignalCheck, SaysNothingOfACoarselyDigitisedSine) {
 
 TEST(SignalCheck, NamesAProbeThatIsClippedAndWhere) {
     Recording recording = sines(0.5);
-    for (double& value : recording.x)
+    for (double& value : recording.x.edit())
         value = std::min(value, 30.0);
-    for (double& value : recording.y)
+    for (double& value : recording.y.edit())
         value = std::max(value, -35.0);
     const Notes notes = checkProbes(recording);
     ASSERT_EQ(notes.size(), 2u);
@@ -44,16 +44,16 @@ TEST(SignalCheck, NamesAProbeThatIsClippedAndWhere) {
 
 TEST(SignalCheck, NamesAProbeThatStandsStill) {
     Recording recording = sines();
-    recording.y.assign(recording.y.size(), -2.5);
+    recording.y.edit().assign(recording.y.size(), -2.5);
     EXPECT_EQ(checkProbes(recording), Notes{"probe Y stands still at -2.5 um"});
 }
 
 TEST(SignalCheck, NamesGaps) {
     Recording recording = sines();
     for (std::size_t i = 0; i < 2500; ++i)
-        recording.x[i] = std::numeric_limits<double>::quiet_NaN();
+        recording.x.edit()[i] = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(checkProbes(recording), Notes{"probe X has gaps: 25 % of its values are missing"});
-    recording.x.assign(recording.x.size(), std::numeric_limits<double>::infinity());
+    recording.x.edit().assign(recording.x.size(), std::numeric_limits<double>::infinity());
     EXPECT_EQ(checkProbes(recording), Notes{"probe X has gaps: 100 % of its values are missing"});
 }
 

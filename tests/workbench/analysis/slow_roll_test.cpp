@@ -103,7 +103,7 @@ TEST(SlowRoll, TellsWhatItIsOf) {
 TEST(SlowRoll, GapsAreLeftOut) {
     Recording recording = generate(slowRotor());
     for (std::size_t i = 2000; i < 2100; ++i)
-        recording.x[i] = std::numeric_limits<double>::quiet_NaN();
+        recording.x.edit()[i] = std::numeric_limits<double>::quiet_NaN();
     const SlowRoll slowRoll = taken(recording);
     EXPECT_EQ(slowRoll.turns, 8);
     // 10X is no part of the fit and leaks a little through the gap.
@@ -127,10 +127,10 @@ TEST(SlowRoll, HighSpeedAndAcCouplingAreNoReasonToRefuseButAreTold) {
 TEST(SlowRoll, RefusesWhatCannotGiveItInOneLine) {
     const Recording recording = generate(slowRotor());
     Recording standing = recording;
-    standing.angle.assign(standing.angle.size(), 12.0);
+    standing.angle.edit().assign(standing.angle.size(), 12.0);
     Recording broken = recording;
     for (std::size_t i = 0; i < broken.x.size(); i += 400)
-        broken.x[i] = std::numeric_limits<double>::quiet_NaN();
+        broken.x.edit()[i] = std::numeric_limits<double>::quiet_NaN();
     // Three samples a turn.
     const Recording coarse =
         generate({.sampleRate = 15, .duration = 4, .firstSpeed = 300, .lastSpeed = 300});

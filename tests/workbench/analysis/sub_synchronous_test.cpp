@@ -51,7 +51,7 @@ TEST(SubSync, IsTheWhirlWithTheMeanAtEverySampleWhileTheSpeedChanges) {
 TEST(SubSync, HasTheGapsOfTheRecordingAndIsRightBesideThem) {
     Recording recording = generate(Rotor);
     for (std::size_t i = 20'000; i < 20'020; ++i)
-        recording.x[i] = std::numeric_limits<double>::quiet_NaN();
+        recording.x.edit()[i] = std::numeric_limits<double>::quiet_NaN();
     const SubSyncOrbit orbit = filtered(recording);
     EXPECT_TRUE(std::isnan(orbit.x[20'010]) && std::isnan(orbit.y[20'010]));
     EXPECT_FALSE(std::isnan(orbit.x[19'999]) || std::isnan(orbit.x[20'020]));
@@ -60,7 +60,8 @@ TEST(SubSync, HasTheGapsOfTheRecordingAndIsRightBesideThem) {
 
 TEST(SubSync, IsGivenOnlyWhereTheShaftTurns) {
     Recording recording = generate(Steady);
-    std::fill(recording.angle.begin() + 15'000, recording.angle.begin() + 25'000, 200.0);
+    std::fill(recording.angle.edit().begin() + 15'000, recording.angle.edit().begin() + 25'000,
+              200.0);
     const SubSyncOrbit orbit = filtered(recording);
     EXPECT_FALSE(std::isnan(orbit.x[100]) || std::isnan(orbit.x[39'900]));
     EXPECT_TRUE(std::isnan(orbit.x[20'000]));
@@ -81,7 +82,7 @@ TEST(SubSync, WorksWithoutKeyphasorAndSaysWhereFirstOrderIs) {
 TEST(SubSync, RefusesWhatCannotBeHadInOneLine) {
     const Recording recording = generate({.orders = {First}});
     Recording standing = recording;
-    std::fill(standing.angle.begin(), standing.angle.end(), 10.0);
+    std::fill(standing.angle.edit().begin(), standing.angle.edit().end(), 10.0);
     Recording noise = withoutKeyphasor(generate({.noise = 1.0}));
     const struct {
         Recording recording;

@@ -26,30 +26,37 @@ void expectRun(const std::vector<TurnMark>& run, const Times& times,
 TEST(TurnTimes, LieBetweenSamplesWhereTheStraightLineReachesTheTurn) {
     // From 350 to 30 degrees it is 40; 10 of them lead to the turn: a quarter of a sample.
     const Times angle = {310, 350, 30, 70};
-    expectTimes(findTurnTimes(angle, 1.0), {1.25});
-    expectTimes(findTurnTimes(angle, 100.0), {0.0125});
+    expectTimes(findTurnTimes(angle, 1.0).times, {1.25});
+    expectTimes(findTurnTimes(angle, 100.0).times, {0.0125});
 }
 
 TEST(TurnTimes, BeginWithAFirstSampleThatStandsAtZero) {
-    EXPECT_EQ(findTurnTimes(Times({0, 90, 180, 270, 0}), 1.0), Times({0, 4}));
+    EXPECT_EQ(findTurnTimes(Times({0, 90, 180, 270, 0}), 1.0).times, Times({0, 4}));
 }
 
 TEST(TurnTimes, CountAJitteringPassageOnce) {
     // 350, 360, 355, 365, 358, 375: the turn is first reached at sample 1.
-    EXPECT_EQ(findTurnTimes(Times({350, 0, 355, 5, 358, 15}), 1.0), Times({1}));
+    EXPECT_EQ(findTurnTimes(Times({350, 0, 355, 5, 358, 15}), 1.0).times, Times({1}));
 }
 
 TEST(TurnTimes, CountATurnBackAndForthOnce) {
     const Times angle = {300, 20, 100, 20, 300, 200, 300, 20, 140, 260, 20};
     // Reached at 0.75; back to 200 and forth again; the next turn comes at 20 degrees in sample 10:
     // from 260 it is 120 degrees, 100 of them to the turn.
-    expectTimes(findTurnTimes(angle, 1.0), {0.75, 9.0 + 100.0 / 120.0});
+    expectTimes(findTurnTimes(angle, 1.0).times, {0.75, 9.0 + 100.0 / 120.0});
 }
 
 TEST(TurnTimes, AreNoneForAShaftThatStandsOrTurnsBackward) {
-    EXPECT_EQ(findTurnTimes(Times({12, 12, 12, 12}), 1.0), Times());
-    EXPECT_EQ(findTurnTimes(Times({50, 300, 200, 100, 0, 300}), 1.0), Times());
-    EXPECT_EQ(findTurnTimes(Times(), 1.0), Times());
+    EXPECT_EQ(findTurnTimes(Times({12, 12, 12, 12}), 1.0).times, Times());
+    EXPECT_EQ(findTurnTimes(Times({50, 300, 200, 100, 0, 300}), 1.0).times, Times());
+    EXPECT_EQ(findTurnTimes(Times(), 1.0).times, Times());
+}
+
+TEST(TurnTimes, TellHowFarTheShaftHasTurnedInAll) {
+    // From 90 degrees by 1 turn and 180 degrees, and back by 270.
+    EXPECT_EQ(findTurnTimes(Times({90, 210, 330, 90, 210, 270, 180, 90, 0}), 1.0).netTurns, 0.75);
+    EXPECT_EQ(findTurnTimes(Times({180, 90, 0, 270, 180, 90}), 1.0).netTurns, -1.25);
+    EXPECT_EQ(findTurnTimes(Times({12}), 1.0).netTurns, 0.0);
 }
 
 TEST(MendMarks, LeavesEvenAndAcceleratingMarksAlone) {

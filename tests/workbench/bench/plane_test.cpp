@@ -115,7 +115,7 @@ TEST_F(PlaneTest, NoCurveAtAllIsAnEmptyAssignment) {
 TEST_F(PlaneTest, CurvesOfTheShownTurnsFollowTheCursor) {
     Recording growing = rotor();
     for (std::size_t i = 0; i < growing.x.size(); ++i)
-        growing.x[i] *= static_cast<double>(i);
+        growing.x.edit()[i] *= static_cast<double>(i);
     Plane& plane = add(growing, {.curves = {{.kind = CurveKind::Average}}});
     const auto largest = [&] {
         const auto& x = plane.host().description.channels["curve1"].values[4];

@@ -110,7 +110,7 @@ TEST_F(ViewActionsTest, ViewThatCannotBeWrittenIsToldAndStaysChanged) {
 TEST_F(ViewActionsTest, CompensationGoesIntoTheViewAndBack) {
     open({recording("a.csv")});
     takeOff({.form = CompensationForm::Waveform, .span = {0.0, 0.15}});
-    const std::vector<double> left = bench_->planes()[0]->shown().recording.x;
+    const Samples left = bench_->planes()[0]->shown().recording.x;
     ASSERT_TRUE(files_->saveTo(qt(at("v.rotavue"))));
     restart();
     open({qt(at("v.rotavue"))});

@@ -7,7 +7,7 @@
 namespace Rotavue::Workbench {
 namespace {
 
-using Columns = std::vector<std::vector<double>>;
+using Columns = std::vector<Samples>;
 
 const std::vector<WantedColumn> TimeAndX = {{0, ColumnRole::Time}, {1, ColumnRole::X}};
 
@@ -45,11 +45,11 @@ TEST_F(CsvFileTest, LeavesAGapInAVibrationColumn) {
 }
 
 TEST_F(CsvFileTest, AllowsTimeThatStandsForAStep) {
-    EXPECT_EQ(read("t,x\n0,1\n0,2\n1,3\n", TimeAndX)[0], (std::vector<double>{0, 0, 1}));
+    EXPECT_EQ(read("t,x\n0,1\n0,2\n1,3\n", TimeAndX)[0], (Samples{0, 0, 1}));
 }
 
 TEST_F(CsvFileTest, DoesNotLookIntoColumnsThatNobodyWants) {
-    EXPECT_EQ(read("t,x,c\n0,1,2\n1,2,text\n", TimeAndX)[1], (std::vector<double>{1, 2}));
+    EXPECT_EQ(read("t,x,c\n0,1,2\n1,2,text\n", TimeAndX)[1], (Samples{1, 2}));
 }
 
 TEST_F(CsvFileTest, CountsColumnsInCharactersAsAnEditorDoes) {

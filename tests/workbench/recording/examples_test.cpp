@@ -36,7 +36,7 @@ Example exampleNamed(std::string_view name) {
 }
 
 // The shaft angle in radians, running on from turn to turn.
-std::vector<double> unwrapped(const std::vector<double>& angle) {
+std::vector<double> unwrapped(const Workbench::Samples& angle) {
     std::vector<double> running = {radians(angle.front())};
     for (std::size_t i = 1; i < angle.size(); ++i) {
         running.push_back(running.back() + radians(std::remainder(angle[i] - angle[i - 1], 360.0)));
@@ -45,7 +45,7 @@ std::vector<double> unwrapped(const std::vector<double>& angle) {
 }
 
 // The phasor of one order in a stretch of samples: twice the mean of value exp(-j order angle).
-Phasor measured(const std::vector<double>& values, const std::vector<double>& angle, double order,
+Phasor measured(const Workbench::Samples& values, const std::vector<double>& angle, double order,
                 std::size_t first, std::size_t end) {
     Phasor sum;
     for (std::size_t i = first; i < end; ++i)

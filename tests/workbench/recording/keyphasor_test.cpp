@@ -9,12 +9,6 @@ namespace {
 
 using Values = std::vector<double>;
 
-Values angleAt(std::size_t count, const Values& pulses, int pulsesPerTurn) {
-    Values angle(count, -1.0);
-    angleFromPulses(pulses, pulsesPerTurn, angle);
-    return angle;
-}
-
 TEST(PulseRule, StandsHalfwayBetweenTheQuantiles) {
     // 101 values 0 to 100: the 5 % quantile is 5, the 95 % one 95; half 50, a quarter of 90 22.5.
     Values volts;
@@ -80,44 +74,6 @@ TEST(Pulses, AreNoneInAFlatSignal) {
     const Values flat(10, 3.0);
     EXPECT_EQ(findPulses(flat, pulseRuleFor(flat, {})), Values{});
     EXPECT_EQ(findPulses({}, pulseRuleFor({}, {})), Values{});
-}
-
-TEST(Angle, RunsThroughATurnFromPulseToPulse) {
-    // Turns of 4 and of 2 samples.
-    EXPECT_EQ(angleAt(7, Values{0, 4, 6}, 1), (Values{0, 90, 180, 270, 0, 180, 0}));
-}
-
-TEST(Angle, GoesOnAtBothEndsWithTheNeighbouringPeriod) {
-    // Before the pulse at 2 a turn of 4 samples, behind the one at 8 a turn of 2.
-    EXPECT_EQ(angleAt(12, Values{2, 6, 8}, 1),
-              (Values{180, 270, 0, 90, 180, 270, 0, 180, 0, 180, 0, 180}));
-}
-
-TEST(Angle, DividesATurnByItsPulses) {
-    // Three pulses a turn: 120 degrees each, whatever their distance.
-    EXPECT_EQ(angleAt(8, Values{0, 2, 3, 4, 6}, 3), (Values{0, 60, 120, 240, 0, 60, 120, 180}));
-}
-
-TEST(Angle, KnowsPulsesBetweenSamples) {
-    // Pulses at 0.5 and 2.5: sample 1 is a quarter of the turn behind the first one.
-    EXPECT_EQ(angleAt(4, Values{0.5, 2.5}, 1), (Values{270, 90, 270, 90}));
-}
-
-TEST(Angle, FallsBackOnceATurnOverManyTurns) {
-    // A keyphasor of 7.3 samples a turn: 1000 samples hold 136 whole turns and a part.
-    Values pulses;
-    for (double place = 3.0; place < 1000.0; place += 7.3)
-        pulses.push_back(place);
-    const Values angle = angleAt(1000, pulses, 1);
-    int falls = 0;
-    for (std::size_t i = 1; i < angle.size(); ++i) {
-        ASSERT_GE(angle[i], 0.0);
-        ASSERT_LT(angle[i], 360.0);
-        const double difference = angle[i] - angle[i - 1];
-        if (difference < -180.0) ++falls;
-        ASSERT_TRUE(difference > 0.0 || difference < -180.0) << i;
-    }
-    EXPECT_EQ(falls, 137);  // one at each pulse: 3 + 7.3 k for k from 0 to 136
 }
 
 TEST(Speed, CountsTurnsBetweenTheOuterPulses) {

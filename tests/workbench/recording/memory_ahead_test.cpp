@@ -16,7 +16,7 @@ TEST(MemoryAhead, TakesAllOfEachLargeColumn) {
     Columns columns(2);
     columns[0].reserve(ManyValues);
     columns[1].reserve(ManyValues + 1000);
-    MemoryAhead ahead(columns);
+    MemoryAhead ahead{std::span(columns)};
     const std::size_t taken = ahead.taken();
     if (taken == 0) GTEST_SKIP() << "the system gives memory as it is written alone";
     const std::size_t whole = (2 * ManyValues + 1000) * sizeof(double);
@@ -29,7 +29,7 @@ TEST(MemoryAhead, LeavesWhatIsWrittenMeanwhile) {
     Columns columns(3);
     for (std::vector<double>& column : columns)
         column.reserve(ManyValues);
-    MemoryAhead ahead(columns);
+    MemoryAhead ahead{std::span(columns)};
     for (std::vector<double>& column : columns)
         column.resize(ManyValues, 4.25);
     ahead.taken();
@@ -40,8 +40,8 @@ TEST(MemoryAhead, LeavesWhatIsWrittenMeanwhile) {
 TEST(MemoryAhead, LeavesSmallColumnsAlone) {
     Columns columns(2);
     columns[0].reserve(ManyValues - 1);
-    EXPECT_EQ(MemoryAhead(columns).taken(), 0U);
-    EXPECT_EQ(MemoryAhead({}).taken(), 0U);
+    EXPECT_EQ(MemoryAhead(std::span(columns)).taken(), 0U);
+    EXPECT_EQ(MemoryAhead(std::span<std::vector<double>>()).taken(), 0U);
 }
 
 }  // namespace

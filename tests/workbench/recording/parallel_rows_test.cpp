@@ -10,7 +10,7 @@
 namespace Rotavue::Workbench {
 namespace {
 
-using Columns = std::vector<std::vector<double>>;
+using Columns = std::vector<Samples>;
 
 const std::vector<WantedColumn> Wanted = {
     {0, ColumnRole::Time}, {1, ColumnRole::X}, {2, ColumnRole::Y}};

@@ -318,6 +318,25 @@ TEST_F(RecordingTest, ReadsAWavFileWithItsMachineFile) {
     EXPECT_EQ(rolesOf(recording), "xy");
 }
 
+// 30,000 frames of three channels, a pulse each 100: two columns of single precision, and instead
+// of a third one 300 pulses.
+TEST_F(RecordingTest, TakesLessMemoryThanTwiceAWavFile) {
+    std::vector<std::int16_t> samples;
+    for (int i = 0; i < 30'000; ++i)
+        for (const int value : {i % 997, -(i % 991), i % 100 < 5 ? 20'000 : 0})
+            samples.push_back(static_cast<std::int16_t>(value));
+    const auto file = write("r.wav", wavBytes<std::int16_t>({1, 3, 8000, 16}, samples));
+    RecordingOptions options;
+    options.coupling = Coupling::Ac;
+    const Recording recording = readRecording(file, options);
+    ASSERT_TRUE(recording.hasTacho());
+    EXPECT_EQ(recording.angle.size(), 30'000U);
+    EXPECT_EQ(recording.x[1] - recording.x[0], 1.0 / 32768.0);
+    const std::size_t taken =
+        recording.x.memoryUse() + recording.y.memoryUse() + recording.angle.memoryUse();
+    EXPECT_LT(taken, 2 * std::filesystem::file_size(file));
+}
+
 TEST_F(RecordingTest, TakesTheThirdWavChannelAsKeyphasor) {
     constexpr std::array<std::int16_t, 18> samples = {0, 0, 0, 0, 0, 16384, 0, 0, 0,
                                                       0, 0, 0, 0, 0, 16384, 0, 0, 0};

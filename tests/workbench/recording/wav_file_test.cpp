@@ -10,11 +10,11 @@
 namespace Rotavue::Workbench {
 namespace {
 
-using Columns = std::vector<std::vector<double>>;
+using Columns = std::vector<Samples>;
 
 const std::vector<WantedColumn> BothProbes = {{0, ColumnRole::X}, {1, ColumnRole::Y}};
 
-constexpr std::array<std::int16_t, 6> Samples = {16384, -32768, 0, 8192, -16384, 4096};
+constexpr std::array<std::int16_t, 6> SixSamples = {16384, -32768, 0, 8192, -16384, 4096};
 const std::string Damaged = ", allowed: a WAV file of whole numbers or floating-point numbers";
 
 class WavFileTest : public ScratchFolder {
@@ -29,7 +29,7 @@ protected:
 
 TEST_F(WavFileTest, GivesWholeNumbersAsPartsOfFullScale) {
     // 32,768 is full scale.
-    EXPECT_EQ(read(wavBytes<std::int16_t>({}, Samples)),
+    EXPECT_EQ(read(wavBytes<std::int16_t>({}, SixSamples)),
               (Columns{{0.5, 0, -0.5}, {-1, 0.25, 0.125}}));
 }
 
@@ -38,8 +38,19 @@ TEST_F(WavFileTest, GivesFloatingPointNumbersAsTheyStand) {
     EXPECT_EQ(read(wavBytes<float>({3, 2, 8000, 32}, volts)), (Columns{{-9.5, 1e4}, {12.25, 0}}));
 }
 
+// 32 bits less one: what single precision would round to full scale.
+TEST_F(WavFileTest, KeepsWhatSinglePrecisionHoldsInItAndMoreInDoubles) {
+    constexpr std::array<std::int32_t, 4> fine = {0x7FFFFFFF, 0, -0x7FFFFFFF, 1};
+    const Columns wide = read(wavBytes<std::int32_t>({1, 2, 8000, 32}, fine));
+    EXPECT_EQ(wide, (Columns{{2147483647.0 / 2147483648.0, -2147483647.0 / 2147483648.0},
+                             {0, 1.0 / 2147483648.0}}));
+    EXPECT_EQ(wide[0].memoryUse(), 2 * sizeof(double));
+    for (const Samples& narrow : read(wavBytes<std::int16_t>({}, SixSamples)))
+        EXPECT_EQ(narrow.memoryUse(), 3 * sizeof(float));
+}
+
 TEST_F(WavFileTest, TellsRateAndChannels) {
-    const WavFile file(write("f.wav", wavBytes<std::int16_t>({1, 3, 51200, 16}, Samples)));
+    const WavFile file(write("f.wav", wavBytes<std::int16_t>({1, 3, 51200, 16}, SixSamples)));
     EXPECT_EQ(file.head().rate, 51200.0);
     EXPECT_FALSE(file.head().namesGiven);
     ASSERT_EQ(file.head().columns.size(), 3u);
@@ -47,7 +58,7 @@ TEST_F(WavFileTest, TellsRateAndChannels) {
 }
 
 TEST_F(WavFileTest, CanBeReadTwice) {
-    WavFile file(write("f.wav", wavBytes<std::int16_t>({}, Samples)));
+    WavFile file(write("f.wav", wavBytes<std::int16_t>({}, SixSamples)));
     const Columns first = file.read(BothProbes);
     EXPECT_EQ(file.read(BothProbes), first);
 }
@@ -78,13 +89,13 @@ TEST_F(WavFileTest, LeavesAGapWhereAFloatIsNoNumber) {
 }
 
 TEST_F(WavFileTest, RefusesADamagedFile) {
-    const std::string whole = wavBytes<std::int16_t>({}, Samples);
+    const std::string whole = wavBytes<std::int16_t>({}, SixSamples);
     for (const std::size_t length : {4u, 12u, 20u, 35u}) {
         const std::string fault = faultOf(whole.substr(0, length));
         EXPECT_TRUE(fault.starts_with("f.wav: found \"")) << fault;
         EXPECT_TRUE(fault.ends_with(Damaged)) << fault;
     }
-    EXPECT_TRUE(faultOf(wavBytes<std::int16_t>({1, 0, 8000, 16}, Samples)).ends_with(Damaged));
+    EXPECT_TRUE(faultOf(wavBytes<std::int16_t>({1, 0, 8000, 16}, SixSamples)).ends_with(Damaged));
     EXPECT_TRUE(faultOf("no wav at all").ends_with(Damaged));
     EXPECT_EQ(faultOf(wavBytes<std::int16_t>({}, {})),
               "f.wav: found no samples, allowed: at least one");
@@ -99,11 +110,11 @@ TEST_F(WavFileTest, RefusesCompressedSamples) {
 
 TEST_F(WavFileTest, BelievesTheSamplesAndNotTheHeader) {
     // The data chunk tells 2 GB and holds 12 bytes.
-    EXPECT_EQ(read(wavBytes<std::int16_t>({}, Samples, 0x7FFFFFF0))[0].size(), 3u);
+    EXPECT_EQ(read(wavBytes<std::int16_t>({}, SixSamples, 0x7FFFFFF0))[0].size(), 3u);
 }
 
 TEST_F(WavFileTest, IsKnownByItsBeginning) {
-    EXPECT_TRUE(isWavFile(write("a", wavBytes<std::int16_t>({}, Samples))));
+    EXPECT_TRUE(isWavFile(write("a", wavBytes<std::int16_t>({}, SixSamples))));
     EXPECT_TRUE(isWavFile(write("b", "RF64....")));
     EXPECT_FALSE(isWavFile(write("c", "RIF")));
     EXPECT_FALSE(isWavFile(write("d", "")));

@@ -100,8 +100,8 @@ TEST_F(OrbitTileTest, SaysWhereNoWholeTurnIsThere) {
 
 TEST_F(OrbitTileTest, RecordingThatHasEndedSaysWhenAndTellsItsOwnTime) {
     Recording shorter = rotor("Bearing 2");
-    for (std::vector<double>* values : {&shorter.x, &shorter.y, &shorter.angle})
-        values->resize(5000);  // half a second at 10 kHz
+    for (Samples* values : {&shorter.x, &shorter.y, &shorter.angle})
+        values->edit().resize(5000);  // half a second at 10 kHz
     open();
     open(std::move(shorter));
     bench().setCursor(0.4999);

@@ -14,8 +14,8 @@ protected:
     static Recording grown(const std::string& point, double factor) {
         Recording recording = rotor(point);
         for (auto* values : {&recording.x, &recording.y})
-            for (auto& value : *values)
-                value = static_cast<std::remove_reference_t<decltype(value)>>(value * factor);
+            for (double& value : values->edit())
+                value *= factor;
         recording.machine.clearanceWidth = recording.machine.clearanceHeight = 0.0;
         return recording;
     }

@@ -67,7 +67,7 @@ TEST_F(UsableActionsTest, WhatIsForSeveralPlanesNeedsTwo) {
 
 TEST_F(UsableActionsTest, OrdersNeedAKeyphasor) {
     Recording recording = rotor();
-    recording.angle.clear();
+    recording.angle.edit().clear();
     open(recording);
     EXPECT_FALSE(channelAction("Add orders").isEnabled());
     EXPECT_TRUE(says(channelAction("Add orders"), "needs a keyphasor"));

@@ -13,23 +13,22 @@ constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr PlotRange Nothing{Infinity, -Infinity};
 
 /// A NaN compares false and leaves both ends as they are.
-void take(PlotRange& range, std::span<const double> values) {
-    for (const double value : values) {
+void take(PlotRange& range, SampleView values) {
+    values.forEach([&range](double value) {
         if (value < range.from) range.from = value;
         if (value > range.to) range.to = value;
-    }
+    });
 }
 
 }  // namespace
 
-SampleTrace::SampleTrace(std::span<const double> samples, double sampleRate,
-                         std::shared_ptr<const void> owner)
+SampleTrace::SampleTrace(SampleView samples, double sampleRate, std::shared_ptr<const void> owner)
     : owner_(std::move(owner)),
       samples_(samples),
       sampleRate_(sampleRate),
       blocks_(samples.size() / BlockLength, Nothing) {
     for (std::size_t i = 0; i < blocks_.size(); ++i)
-        take(blocks_[i], samples_.subspan(i * BlockLength, BlockLength));
+        take(blocks_[i], samples_.part(i * BlockLength, BlockLength));
 }
 
 std::size_t SampleTrace::firstFrom(double time) const {
@@ -62,14 +61,14 @@ std::optional<PlotRange> SampleTrace::rangeOf(std::size_t first, std::size_t end
     const std::size_t endWhole = end / BlockLength;
     PlotRange range = Nothing;
     if (firstWhole >= endWhole) {
-        take(range, samples_.subspan(first, end - first));
+        take(range, samples_.part(first, end - first));
     } else {
-        take(range, samples_.subspan(first, firstWhole * BlockLength - first));
+        take(range, samples_.part(first, firstWhole * BlockLength - first));
         for (std::size_t i = firstWhole; i < endWhole; ++i) {
             range.from = std::min(range.from, blocks_[i].from);
             range.to = std::max(range.to, blocks_[i].to);
         }
-        take(range, samples_.subspan(endWhole * BlockLength, end - endWhole * BlockLength));
+        take(range, samples_.part(endWhole * BlockLength, end - endWhole * BlockLength));
     }
     if (range.from > range.to) return {};
     return range;

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "workbench/recording/samples.h"
 #include "workbench/window/docks/plot_range.h"
 
 #include <cstddef>
 #include <memory>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace Rotavue::Workbench {
@@ -20,8 +20,7 @@ public:
     SampleTrace() = default;
 
     /// `owner` keeps the samples alive; without one they must outlive this object.
-    SampleTrace(std::span<const double> samples, double sampleRate,
-                std::shared_ptr<const void> owner = {});
+    SampleTrace(SampleView samples, double sampleRate, std::shared_ptr<const void> owner = {});
 
     std::size_t count() const { return samples_.size(); }
     double at(std::size_t index) const { return samples_[index]; }
@@ -48,7 +47,7 @@ public:
 
 private:
     std::shared_ptr<const void> owner_;
-    std::span<const double> samples_;
+    SampleView samples_;
     double sampleRate_ = 1.0;
     std::vector<PlotRange> blocks_;  ///< whole ones; from above to where there are gaps alone
 };

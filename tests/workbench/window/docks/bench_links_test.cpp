@@ -188,7 +188,7 @@ TEST_F(TimeLinkTest, ValuesHaveTheDigitsOfTheirUnitAndOfWhatTheySpan) {
     const auto lane = [](const char* unit, double factor, double mean) {
         Recording recording = rotor();
         recording.machine.unit = unit;
-        for (double& x : recording.x)
+        for (double& x : recording.x.edit())
             x = mean + factor * x;
         return timeLanes(preparePlane(std::move(recording))).probes[0];
     };
@@ -201,8 +201,8 @@ TEST_F(TimeLinkTest, ValuesHaveTheDigitsOfTheirUnitAndOfWhatTheySpan) {
 
 TEST_F(TimeLinkTest, LongRecordingIsReadThroughOnAWorker) {
     Recording recording = withoutKeyphasor(rotor(0.01));
-    recording.x.resize(TimeLink::LongRecording, 1.0);
-    recording.y.resize(TimeLink::LongRecording, 2.0);
+    recording.x.edit().resize(TimeLink::LongRecording, 1.0);
+    recording.y.edit().resize(TimeLink::LongRecording, 2.0);
     link.setCurrent(&add(std::move(recording)));
     EXPECT_EQ(waveforms.timeRange().to, 0.0);
     ASSERT_TRUE(QTest::qWaitFor([this] { return waveforms.timeRange().to > 0.0; }));
@@ -211,8 +211,8 @@ TEST_F(TimeLinkTest, LongRecordingIsReadThroughOnAWorker) {
 
 TEST_F(TimeLinkTest, PlaneThatGoesWhileItIsReadIsNotShown) {
     Recording recording = withoutKeyphasor(rotor(0.01));
-    recording.x.resize(TimeLink::LongRecording, 1.0);
-    recording.y.resize(TimeLink::LongRecording, 2.0);
+    recording.x.edit().resize(TimeLink::LongRecording, 1.0);
+    recording.y.edit().resize(TimeLink::LongRecording, 2.0);
     link.setCurrent(&add(std::move(recording)));
     link.setCurrent(nullptr);
     QTest::qWait(50);

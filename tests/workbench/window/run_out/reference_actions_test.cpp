@@ -132,7 +132,7 @@ TEST_F(ReferenceActionsTest, NeverReplacesWhatAPlaneIsMadeFrom) {
 TEST_F(ReferenceActionsTest, IsOffWithoutAPlaneOrAKeyphasorAndSaysWhy) {
     EXPECT_TRUE(actions_->save.toolTip().endsWith(": nothing is open"));
     Recording still = rotor();
-    still.angle.clear();
+    still.angle.edit().clear();
     still.keyphasorKind = KeyphasorKind::None;
     Plane& plane = add(std::move(still));
     EXPECT_TRUE(actions_->save.toolTip().endsWith(": there is no keyphasor"));

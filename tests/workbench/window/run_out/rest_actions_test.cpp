@@ -17,8 +17,8 @@ protected:
     static Recording lifted(Coupling coupling = Coupling::Dc, double clearance = 200.0) {
         Recording recording = generate({.firstSpeed = 0, .lastSpeed = 0, .xMean = 3, .yMean = 4});
         for (std::size_t i = 4000; i < recording.x.size(); ++i) {
-            recording.x[i] += 10.0;
-            recording.y[i] += 20.0;
+            recording.x.edit()[i] += 10.0;
+            recording.y.edit()[i] += 20.0;
         }
         recording.file = "rotor.csv";
         recording.coupling = coupling;
