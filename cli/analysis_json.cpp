@@ -23,6 +23,11 @@ Json positionOf(const std::optional<ProbeValues>& gap, const MachineFacts& machi
     return {{"right", place.x}, {"up", place.y}};
 }
 
+Json bearingOf(const std::optional<ShaftPosition>& position) {
+    if (!position) return {};
+    return {{"eccentricity", position->eccentricity}, {"attitude", orNull(position->attitude)}};
+}
+
 Json vectorOf(const FieldVector& vector, double factor) {
     return {{"amplitude", vector.amplitude * factor}, {"lag", vector.phaseLag}};
 }
@@ -35,6 +40,7 @@ Json orderOf(const OrderSummary& order, double factor) {
             {"ellipse",
              {{"semiMajor", ellipse.semiMajor},
               {"semiMinor", ellipse.semiMinor},
+              {"ratio", ellipse.semiMajor > 0.0 ? Json(ellipse.ratio()) : Json()},
               {"tilt", ellipse.tilt},
               {"precession", toText(ellipse.precession)}}}};
 }
@@ -51,6 +57,7 @@ Json windowOf(const OrbitSummary& window, const AnalysisReport& report) {
             {"speedLast", orNull(window.speedLast)},
             {"gap", direct.gap ? probes(*direct.gap) : Json()},
             {"position", positionOf(direct.gap, report.machine)},
+            {"shaft", bearingOf(window.position)},
             {"peakPeak", probes(direct.peakPeak)},
             {"smax", direct.smax},
             {"orders", orders},
@@ -62,6 +69,8 @@ Json unitsOf(const AnalysisReport& report) {
             {"amplitude", amplitudeUnit(report)},
             {"lag", "degrees from the keyphasor's pulse to the next positive peak"},
             {"tilt", "degrees clockwise from the top"},
+            {"eccentricity", "of the clearance in that direction"},
+            {"attitude", "degrees from straight down in the direction of rotation"},
             {"speed", "rpm"},
             {"time", "s"}};
 }

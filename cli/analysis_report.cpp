@@ -1,6 +1,7 @@
 #include "cli/analysis_report.h"
 
 #include "workbench/analysis/analysis_error.h"
+#include "workbench/analysis/shaft_position.h"
 #include "workbench/analysis/shaft_track.h"
 #include "workbench/analysis/signal_check.h"
 #include "workbench/scene/fact_words.h"
@@ -51,6 +52,14 @@ std::vector<TimeSpan> windowsOf(const Recording& recording, const AnalysisOrder&
     return windows;
 }
 
+/// What makes displacements count from the middle of the clearance, where that is asked for.
+std::optional<ProbeValues> toCentre(const Recording& recording, const AnalysisOrder& order) {
+    if (!order.tellsRest()) return {};
+    if (recording.machine.clearanceWidth <= 0.0)
+        refuse(recording, "no clearance is known: --clearance-width tells it");
+    return shiftToCentre(recording, order.rest.value_or(RestPosition::Centre), order.restSpan);
+}
+
 /// The text without its numbers, by which notes of several windows are alike.
 std::string wordsOnly(const std::string& text) {
     std::string words;
@@ -96,8 +105,9 @@ AnalysisReport analyze(const Recording& recording, const AnalysisOrder& order) {
     for (const std::string& note : track.notes())
         report.notes.push_back(note);
     try {
+        const auto shift = toCentre(recording, order);
         for (const TimeSpan& window : windowsOf(recording, order))
-            report.windows.push_back(summarize(recording, track, order.orders, window));
+            report.windows.push_back(summarize(recording, track, order.orders, window, shift));
     } catch (const AnalysisError& error) {
         refuse(recording, error.what());
     }

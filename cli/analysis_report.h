@@ -2,6 +2,7 @@
 
 #include "workbench/analysis/field_vector.h"
 #include "workbench/analysis/orbit_summary.h"
+#include "workbench/analysis/shaft_center.h"
 #include "workbench/analysis/time_span.h"
 #include "workbench/recording/recording.h"
 
@@ -14,9 +15,14 @@ namespace Rotavue::Cli {
 
 struct AnalysisOrder {
     std::vector<double> orders{1.0, 2.0};
-    Workbench::TimeSpan span;      ///< within it; all of the recording unless set
-    std::optional<double> window;  ///< s; unset: one window for the whole span
+    Workbench::TimeSpan span;                     ///< within it; all of the recording unless set
+    std::optional<double> window;                 ///< s; unset: one window for the whole span
+    std::optional<Workbench::RestPosition> rest;  ///< with or without a span: how the shaft rests
+    std::optional<Workbench::TimeSpan> restSpan;
     Workbench::AmplitudeScale amplitude = Workbench::AmplitudeScale::Peak;
+
+    /// Whether the shaft's position in its bearing is asked for.
+    bool tellsRest() const { return rest || restSpan; }
 };
 
 /// The windows that one recording was looked at in, one after the other.
@@ -30,7 +36,8 @@ struct AnalysisReport {
 };
 
 /// Raises `std::runtime_error`, with the file's name, for a span in which there is nothing to look
-/// at and for more windows than anybody reads.
+/// at, for more windows than anybody reads, and where the shaft's position is asked for and cannot
+/// be told.
 AnalysisReport analyze(const Workbench::Recording& recording, const AnalysisOrder& order);
 
 /// For a person: a block of lines for one window, a table with a line for each of several.

@@ -15,6 +15,7 @@ namespace {
 using namespace Workbench;
 
 constexpr const char* Unknown = "-";
+constexpr const char* TiltWords = "tilt: of the long axis, degrees clockwise from the top";
 constexpr const char* LagWords = "lag: degrees from the pulse to the next positive peak";
 
 std::string fixed(double value, int digits) {
@@ -97,6 +98,20 @@ std::string gapText(const AnalysisReport& report, const OrbitSummary& window) {
            unit + " right, " + text(place.y) + unit + " up";
 }
 
+std::string eccentricityText(const OrbitSummary& window) {
+    return window.position ? fixed(window.position->eccentricity, 2) : Unknown;
+}
+
+std::string attitudeText(const OrbitSummary& window) {
+    const bool isKnown = window.position && window.position->attitude;
+    return isKnown ? fixed(*window.position->attitude, 1) : Unknown;
+}
+
+std::string positionText(const OrbitSummary& window) {
+    return "e/c " + eccentricityText(window) + ", attitude " + attitudeText(window) +
+           " degrees from straight down in the direction of rotation";
+}
+
 std::string directText(const AnalysisReport& report, const OrbitSummary& window) {
     const DirectValues& direct = window.direct;
     const std::string unit = ' ' + unitOf(report);
@@ -115,19 +130,29 @@ void addVector(TextTable::Line& line, const Lengths& text, const FieldVector& ve
     line.push_back(text.isZero(amplitude) ? Unknown : fixed(lag, 1));
 }
 
+/// What does not exist has no shape, and a circle leans no way.
+void addEllipse(TextTable::Line& line, const Lengths& text, const OrderEllipse& ellipse) {
+    const bool isNothing = text.isZero(ellipse.semiMajor);
+    const bool isCircle = text.isZero(ellipse.semiMajor - ellipse.semiMinor);
+    const double tilt = std::fmod(std::round(ellipse.tilt * 10.0), 1800.0) / 10.0;
+    line.push_back(text(ellipse.semiMajor) + " x " + text(ellipse.semiMinor));
+    line.push_back(isNothing ? Unknown : fixed(ellipse.ratio(), 2));
+    line.push_back(isCircle ? Unknown : fixed(tilt, 1));
+    line.emplace_back(isNothing ? Unknown : toText(ellipse.precession));
+}
+
 std::string orderTable(const AnalysisReport& report, const OrbitSummary& window) {
     const double factor = scaleFactor(report.order.amplitude);
     const std::string unit = amplitudeUnit(report);
     const Lengths text(report);
     TextTable table;
     table.add({"order", "X " + unit, "X lag", "Y " + unit, "Y lag", "half axes " + unitOf(report),
-               "precession"});
+               "ratio", "tilt", "precession"});
     for (const auto& [vectors, ellipse] : window.orders) {
         TextTable::Line line{orderName(vectors.order)};
         addVector(line, text, vectors.x, factor);
         addVector(line, text, vectors.y, factor);
-        line.push_back(text(ellipse.semiMajor) + " x " + text(ellipse.semiMinor));
-        line.emplace_back(text.isZero(ellipse.semiMajor) ? Unknown : toText(ellipse.precession));
+        addEllipse(line, text, ellipse);
         table.add(std::move(line));
     }
     return table.text();
@@ -139,9 +164,11 @@ std::string oneWindow(const AnalysisReport& report) {
     block.add("span", spanText(window));
     block.add("speed", blockSpeed(window));
     block.add("gap", gapText(report, window));
+    if (report.order.tellsRest()) block.add("position", positionText(window));
     block.add("direct", directText(report, window));
     if (window.orders.empty()) return block.text();
     block.add("orders", LagWords);
+    block.add("", TiltWords);
     return block.text() + '\n' + orderTable(report, window);
 }
 
@@ -149,6 +176,7 @@ TextTable::Line windowHead(const AnalysisReport& report) {
     const std::string unit = unitOf(report);
     TextTable::Line line{"from s",        "to s",         "rpm",         "X gap " + unit,
                          "Y gap " + unit, "X pp " + unit, "Y pp " + unit};
+    if (report.order.tellsRest()) line.insert(line.end(), {"e/c", "attitude"});
     for (const double order : report.order.orders) {
         const std::string name = ' ' + orderName(order) + ' ';
         for (const char* probe : {"X", "Y"}) {
@@ -170,6 +198,8 @@ TextTable::Line windowLine(const AnalysisReport& report, const Lengths& text,
                          direct.gap ? text(direct.gap->y) : Unknown,
                          text(direct.peakPeak.x),
                          text(direct.peakPeak.y)};
+    if (report.order.tellsRest())
+        line.insert(line.end(), {eccentricityText(window), attitudeText(window)});
     for (const OrderSummary& order : window.orders)
         for (const FieldVector& vector : {order.vectors.x, order.vectors.y})
             addVector(line, text, vector, factor);

@@ -6,6 +6,7 @@
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/averaged_orbit.h"
 #include "workbench/analysis/reference_orbit.h"
+#include "workbench/scene/bearing_facts.h"
 
 #include <stdexcept>
 
@@ -22,9 +23,13 @@ constexpr const char* Help =
     "  rotavue analyze run-up.csv --window 1\n"
     "  rotavue analyze oil-whirl.csv --orders 0.46+1 --amplitude pp --json\n"
     "  rotavue analyze pump.csv --compensate vector --slow-roll slow-roll.csv\n"
+    "  rotavue analyze pump.csv --rest bottom --rest-span 0-0.5 --clearance-width 200\n"
     "  rotavue analyze slow-roll.csv --save-reference slow-roll.json\n\n"
     "A phase is a lag: degrees of the order's own cycle from the keyphasor's pulse to the next\n"
-    "positive peak, which is where the shaft is nearest to the probe.\n";
+    "positive peak, which is where the shaft is nearest to the probe. A tilt is that of an "
+    "ellipse's long\n"
+    "axis, degrees clockwise from the top. The attitude angle counts from straight down, in the\n"
+    "direction of rotation.\n";
 
 constexpr const char* Group = "The analysis";
 constexpr double LeastWindow = 1e-3;
@@ -57,6 +62,7 @@ void AnalyzeCommand::declareAnalysis(CLI::App& command) {
     add("--span", span_, "FROM-TO", "seconds after the first sample (all of the recording)");
     add("--window", window_, "SECONDS", "one result for each such stretch (one for all)");
     add("--amplitude", amplitude_, "peak|rms|pp", "of the orders (peak, half the movement)");
+    rest_.declare(command, Group, "the shaft's position, e/c and attitude: ");
     add("--save-reference", reference_, "FILE",
         "keep the averaged orbit, which render shows as reference:FILE; named .json");
     command.add_flag("--force", force_, "replace a reference that is there")->group(Group);
@@ -67,6 +73,8 @@ AnalysisOrder AnalyzeCommand::analysisOrder() const {
     if (orders_) order.orders = ordersIn("--orders", *orders_);
     if (span_) order.span = secondsIn("--span", *span_);
     if (window_) order.window = number("--window", *window_, LeastWindow, LargestWindow, "s");
+    order.rest = rest_.place();
+    order.restSpan = rest_.span();
     if (amplitude_) order.amplitude = amplitudeIn(*amplitude_);
     if (reference_ && !reference_->ends_with(".json")) {
         throw UsageError("--save-reference", *reference_, "a name that ends with .json");
@@ -90,7 +98,8 @@ int AnalyzeCommand::run() {
     const auto compensation = compensation_.choice();
     const RecordingOptions options = arguments_.options();
     RunOutRemover runOut(compensation, options);
-    const Recording recording = runOut.remove(readRecording(file_, options));
+    Recording recording = runOut.remove(readRecording(file_, options));
+    completeClearance(recording.machine);
     AnalysisReport report = analyze(recording, order);
     if (compensation) report.compensation = toText(compensation->form);
     report.notes.insert(report.notes.begin(), runOut.notes().begin(), runOut.notes().end());

@@ -4,6 +4,7 @@
 #include "cli/command.h"
 #include "cli/compensation_arguments.h"
 #include "cli/recording_arguments.h"
+#include "cli/rest_arguments.h"
 
 #include <optional>
 #include <string>
@@ -33,6 +34,7 @@ private:
     std::optional<std::string> amplitude_;
     std::optional<std::string> reference_;
     bool force_ = false;
+    RestArguments rest_;
     CompensationArguments compensation_;
     RecordingArguments arguments_;
 };

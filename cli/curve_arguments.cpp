@@ -39,10 +39,7 @@ void CurveArguments::declare(CLI::App& command) {
               "subsync without a keyphasor: where 1X is (the strongest line)");
     addOption(command, "--interval", interval_, "SECONDS",
               "shaft-center: what each position is the mean of (about 30 positions)");
-    addOption(command, "--rest", rest_, "center|bottom",
-              "shaft-center: where displacement 0 lies in the clearance (center)");
-    addOption(command, "--rest-span", restSpan_, "FROM-TO",
-              "shaft-center: seconds in which the shaft rests; their mean becomes displacement 0");
+    rest_.declare(command, Group, "shaft-center: ");
     addOption(command, "--labels", labels_, "speed|time",
               "shaft-center: what stands beside the positions (speed, where it is known)");
 }
@@ -57,11 +54,8 @@ void CurveArguments::readShaftCenter(Workbench::ShaftCenterChoice& choice) const
     if (interval_) {
         choice.interval = number("--interval", *interval_, LeastInterval, LargestInterval, "s");
     }
-    if (rest_ && *rest_ != "center" && *rest_ != "bottom") {
-        throw UsageError("--rest", *rest_, "center or bottom");
-    }
-    if (rest_ == "bottom") choice.rest = Workbench::RestPosition::BottomOfClearance;
-    if (restSpan_) choice.restSpan = secondsIn("--rest-span", *restSpan_);
+    choice.rest = rest_.place().value_or(choice.rest);
+    choice.restSpan = rest_.span();
     if (!labels_) return;
     if (*labels_ != "speed" && *labels_ != "time") {
         throw UsageError("--labels", *labels_, "speed or time");

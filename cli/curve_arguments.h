@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/render_options.h"
+#include "cli/rest_arguments.h"
 
 #include <CLI/App.hpp>
 
@@ -23,8 +24,7 @@ private:
     std::optional<std::string> show_;
     std::optional<std::string> speed_;
     std::optional<std::string> interval_;
-    std::optional<std::string> rest_;
-    std::optional<std::string> restSpan_;
+    RestArguments rest_;
     std::optional<std::string> labels_;
 };
 

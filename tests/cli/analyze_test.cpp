@@ -43,18 +43,20 @@ TEST_F(AnalyzeTest, TellsSpeedOrdersAndGapInLines) {
     const ProcessEnd end = rotavue({"analyze", "rotor.csv"});
     EXPECT_EQ(end.status, 0);
     EXPECT_EQ(end.error, "");
-    EXPECT_EQ(end.out,
-              "file         rotor.csv\n"
-              "probes       X 90\u00b0 R, Y 0\u00b0\n"
-              "span         0 to 2 s\n"
-              "speed        1200.0 rpm\n"
-              "gap          X 0.00 um, Y 0.00 um; centre 0.00 um right, 0.00 um up\n"
-              "direct       X 60.00 um pp, Y 39.92 um pp, Smax 30.00 um\n"
-              "orders       lag: degrees from the pulse to the next positive peak\n"
-              "\n"
-              "order  X um peak  X lag  Y um peak  Y lag   half axes um  precession\n"
-              "1X         30.00    3.6      20.00   93.6  30.00 x 20.00     unknown\n"
-              "2X          0.00      -       0.00      -    0.00 x 0.00           -\n");
+    EXPECT_EQ(
+        end.out,
+        "file         rotor.csv\n"
+        "probes       X 90\u00b0 R, Y 0\u00b0\n"
+        "span         0 to 2 s\n"
+        "speed        1200.0 rpm\n"
+        "gap          X 0.00 um, Y 0.00 um; centre 0.00 um right, 0.00 um up\n"
+        "direct       X 60.00 um pp, Y 39.92 um pp, Smax 30.00 um\n"
+        "orders       lag: degrees from the pulse to the next positive peak\n"
+        "             tilt: of the long axis, degrees clockwise from the top\n"
+        "\n"
+        "order  X um peak  X lag  Y um peak  Y lag   half axes um  ratio  tilt  precession\n"
+        "1X         30.00    3.6      20.00   93.6  30.00 x 20.00   0.67  90.0     unknown\n"
+        "2X          0.00      -       0.00      -    0.00 x 0.00      -     -           -\n");
 }
 
 TEST_F(AnalyzeTest, TellsTheSameToPrograms) {
@@ -67,6 +69,9 @@ TEST_F(AnalyzeTest, TellsTheSameToPrograms) {
     EXPECT_NEAR(first.at("x").at("amplitude").get<double>(), 30.0, 1e-3);
     EXPECT_NEAR(first.at("x").at("lag").get<double>(), 3.6, 1e-3);
     EXPECT_NEAR(first.at("y").at("lag").get<double>(), 93.6, 1e-3);
+    EXPECT_NEAR(first.at("ellipse").at("ratio").get<double>(), 20.0 / 30.0, 1e-4);
+    EXPECT_NEAR(first.at("ellipse").at("tilt").get<double>(), 90.0, 1e-3);
+    EXPECT_TRUE(window.at("shaft").is_null());
     EXPECT_EQ(facts.at("units").at("amplitude"), "um peak");
     EXPECT_EQ(facts.at("units").at("speed"), "rpm");
 }
@@ -169,6 +174,45 @@ TEST_F(AnalyzeTest, SaysThatAStandingShaftHasNoOrders) {
         << end.out;
 }
 
+// 10 to the right of the middle of a clearance of 40: half of the way, a quarter ahead of down.
+TEST_F(AnalyzeTest, RestTellsThePositionInTheBearing) {
+    writeBare("bare.csv");
+    const std::vector<std::string> options{
+        "--clearance-width", "40", "--rotation", "CCW", "--rest", "center"};
+    const Json shaft = analyzed(options, "bare.csv").at("windows").at(0).at("shaft");
+    EXPECT_NEAR(shaft.at("eccentricity").get<double>(), 0.5, 1e-4);
+    EXPECT_NEAR(shaft.at("attitude").get<double>(), 90.0, 1e-2);
+    std::vector<std::string> lines{"analyze", "bare.csv"};
+    lines.insert(lines.end(), options.begin(), options.end());
+    EXPECT_NE(
+        rotavue(lines).out.find("\nposition     e/c 0.50, attitude 90.0 degrees from straight "
+                                "down in the direction of rotation\n"),
+        std::string::npos);
+}
+
+// At rest all the time: at the bottom, straight below the middle.
+TEST_F(AnalyzeTest, RestSpanIsWhereTheShaftLies) {
+    const std::vector<std::string> arguments{
+        "analyze", "rotor.csv", "--clearance-width", "200",  "--rotation", "CW", "--window", "1",
+        "--rest",  "bottom",    "--rest-span",       "0-0.5"};
+    const std::string out = rotavue(arguments).out;
+    EXPECT_NE(out.find("Y pp um   e/c  attitude  X 1X"), std::string::npos) << out;
+    EXPECT_NE(out.find("39.92  1.00       0.0  "), std::string::npos) << out;
+}
+
+TEST_F(AnalyzeTest, PositionThatCannotBeToldIsRefused) {
+    const ProcessEnd bare = rotavue({"analyze", "rotor.csv", "--rest", "bottom"});
+    EXPECT_EQ(bare.status, 1);
+    EXPECT_EQ(bare.error,
+              "rotavue analyze: rotor.csv: no clearance is known: --clearance-width tells it\n");
+    const ProcessEnd ac = rotavue({"analyze", "rotor.csv", "--rest", "center", "--clearance-width",
+                                   "200", "--coupling", "AC"});
+    EXPECT_EQ(ac.status, 1);
+    EXPECT_EQ(ac.error,
+              "rotavue analyze: rotor.csv: the shaft centre needs the mean of the gaps, which AC "
+              "coupling takes away\n");
+}
+
 TEST_F(AnalyzeTest, AcCouplingHasNoGap) {
     EXPECT_TRUE(analyzed({"--coupling", "AC"}).at("windows").at(0).at("gap").is_null());
 }
@@ -190,6 +234,7 @@ TEST_F(AnalyzeTest, WrongValuesAreToldWithWhatIsAllowed) {
          "--span: found \"2-1\", allowed: FROM-TO in seconds after the first sample, such as "
          "0-1.5"},
         {{"--amplitude", "mean"}, "--amplitude: found \"mean\", allowed: peak, rms or pp"},
+        {{"--rest", "top"}, "--rest: found \"top\", allowed: center or bottom"},
         {{"--save-reference", "orbit.csv"},
          "--save-reference: found \"orbit.csv\", allowed: a name that ends with .json"},
     };

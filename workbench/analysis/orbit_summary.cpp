@@ -92,12 +92,18 @@ void addOrders(const Recording& recording, const ShaftTrack& track, std::span<co
 }  // namespace
 
 OrbitSummary summarize(const Recording& recording, const ShaftTrack& track,
-                       std::span<const double> orders, const TimeSpan& span) {
+                       std::span<const double> orders, const TimeSpan& span,
+                       const std::optional<ProbeValues>& toCentre) {
     checkOrders(orders);
     OrbitSummary summary;
     summary.span = {std::max(0.0, span.from), std::min(recording.duration(), span.to)};
     summary.unit = recording.machine.unit;
     summary.direct = directValues(recording, summary.span);
+    if (toCentre && summary.direct.gap) {
+        const ProbeValues& gap = *summary.direct.gap;
+        summary.position =
+            shaftPosition(recording.machine, {gap.x + toCentre->x, gap.y + toCentre->y});
+    }
     try {
         addSpeed(track, track.wholeTurns(summary.span, "the harmonic analysis"), summary);
         addOrders(recording, track, orders, summary);

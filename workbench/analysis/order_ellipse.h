@@ -23,6 +23,9 @@ struct OrderEllipse {
     double semiMinor = 0.0;
     double tilt = 0.0;  ///< of the long axis, degrees clockwise from the top, 0 to below 180
     Precession precession = Precession::Unknown;
+
+    /// The short axis by the long one: 0 for a line, 1 for a circle. 0 where there is neither.
+    double ratio() const { return semiMajor > 0.0 ? semiMinor / semiMajor : 0.0; }
 };
 
 OrderEllipse ellipseOf(const OrderVectors& order, const MachineFacts& machine);

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "workbench/analysis/analysis_error.h"
-#include "workbench/analysis/machine_frame.h"
 #include "workbench/analysis/mean_position.h"
+#include "workbench/analysis/shaft_position.h"
 #include "workbench/analysis/short_text.h"
 
 namespace Rotavue::Workbench {
@@ -19,39 +19,11 @@ constexpr double LeastTurningPart = 0.5;   // of an interval
     throw AnalysisError("the shaft centre " + reason);
 }
 
-void checkCoupling(const Recording& recording) {
-    if (recording.coupling == Coupling::Ac)
-        refuse("needs the mean of the gaps, which AC coupling takes away");
-}
-
-void check(const Recording& recording, const ShaftCenterOptions& options) {
-    checkCoupling(recording);
+void checkInterval(const Recording& recording, const ShaftCenterOptions& options) {
     const double least = 1.0 / recording.sampleRate;
     if (options.interval >= least && options.interval <= LongestInterval) return;
     refuse("takes intervals from one sample, " + shortText(least) + " s, to 1e9 s, not " +
            shortText(options.interval) + " s");
-}
-
-// Probe values of the place where the shaft rests.
-ProbeValues restPlace(const MachineFacts& machine, RestPosition rest) {
-    if (rest == RestPosition::Centre) return {};
-    if (!(machine.clearanceHeight > 0.0))
-        refuse("at the bottom of the clearance needs the clearance's height");
-    const MachineFrame frame(machine);
-    if (!frame.isPlane())
-        refuse("at the bottom of the clearance needs probes that look along two directions");
-    return frame.probesAt({0.0, -0.5 * machine.clearanceHeight});
-}
-
-// What is added to the probe values of the recording.
-ProbeValues shiftFor(const Recording& recording, const ShaftCenterOptions& options) {
-    ProbeValues shift = restPlace(recording.machine, options.rest);
-    if (!options.restSpan) return shift;
-    const std::optional<ProbeValues> rest = meanPosition(recording, *options.restSpan);
-    if (!rest)
-        refuse("finds no samples at rest between " + shortText(options.restSpan->from) + " and " +
-               shortText(options.restSpan->to) + " s");
-    return {shift.x - rest->x, shift.y - rest->y};
 }
 
 // The whole turns in an interval if they make up most of it; else the interval.
@@ -90,15 +62,14 @@ std::string turningNote(const TimeSpan& rest, const WholeTurns& turns) {
 
 void checkRest(const Recording& recording, RestPosition rest,
                const std::optional<TimeSpan>& restSpan) {
-    checkCoupling(recording);
-    shiftFor(recording, {.rest = rest, .restSpan = restSpan});
+    shiftToCentre(recording, rest, restSpan);
 }
 
 ShaftCenterHistory shaftCenterHistory(const Recording& recording, const ShaftTrack& track,
                                       const ShaftCenterOptions& options,
                                       const ReadingProgress& progress) {
-    check(recording, options);
-    const ProbeValues shift = shiftFor(recording, options);
+    const ProbeValues shift = shiftToCentre(recording, options.rest, options.restSpan);
+    checkInterval(recording, options);
     const std::vector<TimeSpan> intervals = intervalsOf(recording, options);
     ShaftCenterHistory history{{}, recording.machine.unit, recording.startTime, {}};
     for (const TimeSpan& interval : intervals) {

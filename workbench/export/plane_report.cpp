@@ -82,7 +82,8 @@ NumberSheet sheetOf(const Bench& bench) {
                          .recording = recordingOf(*plane),
                          .track = trackOf(*plane),
                          .span = stretchOf(plane->span(), plane->shown().track),
-                         .isAnyShown = isAnyShown(plane->span())});
+                         .isAnyShown = isAnyShown(plane->span()),
+                         .shaftCenter = plane->curveOptions().shaftCenter});
     return numberSheet(turns);
 }
 

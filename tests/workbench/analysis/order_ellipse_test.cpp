@@ -21,6 +21,8 @@ TEST(OrderEllipse, OfACircleIsOneArrow) {
     EXPECT_NEAR(left.clockwise, 0.0, 1e-12);
     EXPECT_NEAR(left.semiMajor, 10.0, 1e-12);
     EXPECT_NEAR(left.semiMinor, 10.0, 1e-12);
+    EXPECT_NEAR(left.ratio(), 1.0, 1e-12);
+    EXPECT_EQ(ellipseOf({1.0, {}, {}}, rightAndUp({})).ratio(), 0.0);
     const OrderEllipse right = ellipseOf({1.0, Right, UpEarlier}, rightAndUp({}));
     EXPECT_NEAR(right.clockwise, 10.0, 1e-12);
     EXPECT_NEAR(right.counterClockwise, 0.0, 1e-12);
@@ -50,6 +52,7 @@ TEST(OrderEllipse, HasTheAxesOfTheCurve) {
     EXPECT_NEAR(flat.semiMajor, 30.0, 1e-9);
     EXPECT_NEAR(flat.semiMinor, 10.0, 1e-9);
     EXPECT_NEAR(flat.tilt, 90.0, 1e-9);
+    EXPECT_NEAR(flat.ratio(), 1.0 / 3.0, 1e-12);
     EXPECT_NEAR(flat.counterClockwise, 20.0, 1e-9);
     EXPECT_NEAR(flat.clockwise, 10.0, 1e-9);
     const OrderEllipse tall = ellipseOf({1.0, {10, 40}, {30, 310}}, rightAndUp({}));

@@ -15,7 +15,8 @@ ShownTurns shownTurns(const Bench& bench, const Plane& plane) {
             .recording = {source, &source->recording},
             .track = {source, &source->track},
             .span = stretchOf(plane.span(), source->track),
-            .isAnyShown = isAnyShown(plane.span())};
+            .isAnyShown = isAnyShown(plane.span()),
+            .shaftCenter = plane.curveOptions().shaftCenter};
 }
 
 QString warning(const PlaneTitle& title, const AxisLimits& limits) {

@@ -2,6 +2,7 @@
 
 #include "workbench/analysis/analysis_error.h"
 #include "workbench/analysis/orbit_summary.h"
+#include "workbench/analysis/shaft_position.h"
 #include "workbench/window/docks/number_text.h"
 
 #include <QCoreApplication>
@@ -89,6 +90,36 @@ CellPair sense(const PlaneSummary& summary, double order) {
     return {tr(text.c_str()), {}};
 }
 
+QString ratioText(double ratio) {
+    constexpr int Places = 2;
+    return placed(ratio, Places);
+}
+
+CellPair axesRatio(const PlaneSummary& summary, double order) {
+    const OrderSummary* found = orderOf(summary, order);
+    if (found == nullptr || isNothing(summary, found->ellipse.semiMajor)) return {};
+    return {ratioText(found->ellipse.ratio()), {}};
+}
+
+/// A circle leans no way.
+CellPair tilt(const PlaneSummary& summary, double order) {
+    const OrderSummary* found = orderOf(summary, order);
+    if (found == nullptr) return {};
+    const OrderEllipse& ellipse = found->ellipse;
+    if (isNothing(summary, ellipse.semiMajor - ellipse.semiMinor)) return {};
+    return {tiltText(ellipse.tilt), {}};
+}
+
+CellPair eccentricity(const PlaneSummary& summary) {
+    if (!summary || !summary->position) return {};
+    return {ratioText(summary->position->eccentricity), {}};
+}
+
+CellPair attitude(const PlaneSummary& summary) {
+    if (!summary || !summary->position || !summary->position->attitude) return {};
+    return {placed(*summary->position->attitude, 1), {}};
+}
+
 CellPair smax(const PlaneSummary& summary) {
     if (!summary) return {};
     return {displacementText(summary->direct.smax, summary->unit), {}};
@@ -108,6 +139,24 @@ CellPair stretch(const PlaneSummary& summary) {
             {}};
 }
 
+/// Whether somebody has told how the shaft rests: in the centre is what is taken otherwise.
+bool tellsRest(const ShaftCenterChoice& choice) {
+    return choice.restSpan || choice.rest != RestPosition::Centre;
+}
+
+/// What makes displacements count from the middle of the clearance, where that is told.
+template <typename Note>
+std::optional<ProbeValues> toCentre(const ShownTurns& plane, const Note& note) {
+    const bool hasMean = plane.recording->coupling == Coupling::Dc;
+    if (!hasMean || !tellsRest(plane.shaftCenter)) return {};
+    try {
+        return shiftToCentre(*plane.recording, plane.shaftCenter.rest, plane.shaftCenter.restSpan);
+    } catch (const AnalysisError& error) {
+        note(error.what());
+        return {};
+    }
+}
+
 PlaneSummary summaryOf(const ShownTurns& plane, std::vector<QString>& notes) {
     const auto note = [&](const std::string& text) {
         notes.push_back(plane.plane + ": " + QString::fromStdString(text));
@@ -117,7 +166,8 @@ PlaneSummary summaryOf(const ShownTurns& plane, std::vector<QString>& notes) {
         return {};
     }
     try {
-        OrbitSummary summary = summarize(*plane.recording, *plane.track, Orders, plane.span);
+        OrbitSummary summary =
+            summarize(*plane.recording, *plane.track, Orders, plane.span, toCentre(plane, note));
         for (const std::string& text : summary.notes)
             note(text);
         return summary;
@@ -142,18 +192,37 @@ constexpr RowKind RowKinds[] = {
     {"Smax (ISO C)",
      "The largest distance of the orbit from its mean point: method C of ISO 20816-1.", smax},
     {"Gap", "Mean position of the shaft toward the probe.", gap},
+    {"Position e/c",
+     "The shaft's distance from the middle of its bearing by the clearance in that direction: 0 in "
+     "the middle, 1 at the wall. It needs the clearance (Ctrl+I) and the shaft's rest (Edit menu).",
+     eccentricity},
+    {"Attitude (deg)",
+     "The shaft's direction from the middle of its bearing: from straight down, in the direction "
+     "of "
+     "rotation.",
+     attitude},
     {"1X, pp", "Amplitude at the shaft's speed, peak to peak.",
      [](const PlaneSummary& summary) { return amplitude(summary, 1.0); }},
     {"1X lag (deg)", "From the keyphasor's pulse to the next positive peak.",
      [](const PlaneSummary& summary) { return lag(summary, 1.0); }},
     {"1X precession", "The sense of 1X against that of the shaft.",
      [](const PlaneSummary& summary) { return sense(summary, 1.0); }},
+    {"1X axes ratio", "The short axis of the 1X ellipse by its long one: 0 a line, 1 a circle.",
+     [](const PlaneSummary& summary) { return axesRatio(summary, 1.0); }},
+    {"1X tilt (deg)",
+     "Of the long axis, clockwise from the top of the picture, as the probes' angles are.",
+     [](const PlaneSummary& summary) { return tilt(summary, 1.0); }},
     {"2X, pp", "Amplitude at twice the shaft's speed, peak to peak.",
      [](const PlaneSummary& summary) { return amplitude(summary, 2.0); }},
     {"2X lag (deg)", "From the keyphasor's pulse to the next positive peak, in degrees of 2X.",
      [](const PlaneSummary& summary) { return lag(summary, 2.0); }},
     {"2X precession", "The sense of 2X against that of the shaft.",
      [](const PlaneSummary& summary) { return sense(summary, 2.0); }},
+    {"2X axes ratio", "The short axis of the 2X ellipse by its long one: 0 a line, 1 a circle.",
+     [](const PlaneSummary& summary) { return axesRatio(summary, 2.0); }},
+    {"2X tilt (deg)",
+     "Of the long axis, clockwise from the top of the picture, as the probes' angles are.",
+     [](const PlaneSummary& summary) { return tilt(summary, 2.0); }},
     {"Speed (rpm)", "Mean over the whole turns of the stretch.", speed},
     {"Stretch (s)", "What these are the numbers of: the turns that the orbit shows.", stretch},
 };

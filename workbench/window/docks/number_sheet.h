@@ -3,6 +3,7 @@
 #include "workbench/analysis/shaft_track.h"
 #include "workbench/analysis/time_span.h"
 #include "workbench/recording/recording.h"
+#include "workbench/scene/curve_options.h"
 
 #include <QString>
 
@@ -17,7 +18,8 @@ struct ShownTurns {
     std::shared_ptr<const Recording> recording;
     std::shared_ptr<const ShaftTrack> track;
     TimeSpan span;
-    bool isAnyShown = true;  ///< false: by turns, and there is no whole one
+    bool isAnyShown = true;              ///< false: by turns, and there is no whole one
+    ShaftCenterChoice shaftCenter = {};  ///< how the shaft rests
 };
 
 /// One quantity. A plane has two cells, X and Y; where the second one is empty the first is that of
@@ -43,7 +45,8 @@ struct NumberSheet {
     std::vector<QString> notes;  ///< why something is missing or doubtful, one line each
 };
 
-/// Peak-to-peak, gap, 1X and 2X with lag and sense, Smax and speed of each. What cannot be had is
+/// Peak-to-peak, Smax, gap and position, 1X and 2X with lag and ellipse, and speed of each. What
+/// cannot be had is
 /// "-", and a note says why.
 NumberSheet numberSheet(const std::vector<ShownTurns>& planes);
 

@@ -17,6 +17,13 @@ constexpr struct {
 } UnitPlaces[] = {{"um", 2},  {"\u00B5m", 2}, {"\u03BCm", 2}, {"mm", 4},
                   {"mil", 3}, {"mils", 3},    {"in", 6},      {"nm", 0}};
 
+/// A tenth of a degree, from 0 to below the period.
+QString tenthsWithin(double degrees, double period) {
+    constexpr double PerDegree = 10.0;
+    const double tenths = std::round(degrees * PerDegree) / PerDegree;
+    return placed(tenths - period * std::floor(tenths / period), 1);
+}
+
 }  // namespace
 
 QString placed(double value, int places) {
@@ -45,9 +52,12 @@ QString displacementText(double value, const std::string& unit) {
 
 QString lagText(double degrees) {
     constexpr double FullTurn = 360.0;
-    constexpr double PerDegree = 10.0;
-    const double tenths = std::round(degrees * PerDegree) / PerDegree;
-    return placed(tenths - FullTurn * std::floor(tenths / FullTurn), 1);
+    return tenthsWithin(degrees, FullTurn);
+}
+
+QString tiltText(double degrees) {
+    constexpr double HalfTurn = 180.0;
+    return tenthsWithin(degrees, HalfTurn);
 }
 
 QString speedText(double rpm) {

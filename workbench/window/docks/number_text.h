@@ -23,6 +23,9 @@ QString displacementText(double value, const std::string& unit);
 /// A phase lag to a tenth of a degree, 0.0 to 359.9.
 QString lagText(double degrees);
 
+/// The tilt of an axis to a tenth of a degree, 0.0 to 179.9.
+QString tiltText(double degrees);
+
 /// A speed in whole rpm.
 QString speedText(double rpm);
 

@@ -235,9 +235,9 @@ TEST_F(NumberLinkTest, FollowsTheShownTurns) {
     bench_.setCursor(0.5);
     wait();
     const NumberSheet& sheet = table.model().sheet();
-    EXPECT_EQ(sheet.rows[3].cells[0], "80.00");  // 1X, peak to peak
+    EXPECT_EQ(sheet.rows[5].cells[0], "80.00");  // 1X, peak to peak
     // Eight turns of 20 ms up to the last passing before 0.5 s: 0.495 s is the 25th.
-    EXPECT_EQ(sheet.rows[10].cells[0], "0.3350 to 0.4950");
+    EXPECT_EQ(sheet.rows[16].cells[0], "0.3350 to 0.4950");
 }
 
 TEST_F(NumberLinkTest, TheCurrentPlaneComesFirst) {

@@ -56,6 +56,67 @@ TEST(NumberSheet, HasTheNumbersOfTheStretchByTheFieldsConventions) {
     EXPECT_TRUE(sheet.notes.empty());
 }
 
+// 1X is 40 to the right and 20 up, 90 degrees from the top; 2X is a circle, which leans no way.
+TEST(NumberSheet, TellsTheShapeOfTheEllipses) {
+    const NumberSheet sheet = numberSheet({rotor("Bearing 1")});
+    EXPECT_EQ(rowOf(sheet, "1X axes ratio").cells, (Cells{"0.50", ""}));
+    EXPECT_EQ(rowOf(sheet, "1X tilt (deg)").cells, (Cells{"90.0", ""}));
+    EXPECT_EQ(rowOf(sheet, "2X axes ratio").cells, (Cells{"1.00", ""}));
+    EXPECT_EQ(rowOf(sheet, "2X tilt (deg)").cells, (Cells{"-", ""}));
+}
+
+ShaftCenterChoice restsAt(RestPosition place, std::optional<TimeSpan> span = {}) {
+    ShaftCenterChoice choice;
+    choice.rest = place;
+    choice.restSpan = span;
+    return choice;
+}
+
+/// A shaft that turns counter-clockwise, 60 um right of its rest and 120 above it.
+ShownTurns lifted(const ShaftCenterChoice& rest, double clearance = 400.0) {
+    Recording recording = generate({.xMean = 60.0, .yMean = 120.0});
+    recording.machine.rotation = Rotation::CounterClockwise;
+    recording.machine.clearanceWidth = clearance;
+    recording.machine.clearanceHeight = clearance;
+    const auto shared = std::make_shared<const Recording>(std::move(recording));
+    return {.plane = "B",
+            .recording = shared,
+            .track = std::make_shared<const ShaftTrack>(*shared),
+            .span = {0.2, 0.6},
+            .shaftCenter = rest};
+}
+
+// The bottom is at (0, -200): 60 right and 80 below the middle are 100 of 200 away, and atan(60 /
+// 80) = 36.87 degrees ahead of straight down.
+TEST(NumberSheet, TellsThePositionInTheBearing) {
+    const NumberSheet sheet = numberSheet({lifted(restsAt(RestPosition::BottomOfClearance))});
+    EXPECT_EQ(rowOf(sheet, "Position e/c").cells, (Cells{"0.50", ""}));
+    EXPECT_EQ(rowOf(sheet, "Attitude (deg)").cells, (Cells{"36.9", ""}));
+}
+
+// Over its rest span it is where it always is: at the bottom, or in the middle.
+TEST(NumberSheet, CountsThePositionFromTheMarkedRest) {
+    ShaftCenterChoice rest = restsAt(RestPosition::BottomOfClearance, TimeSpan{0.0, 0.1});
+    EXPECT_EQ(rowOf(numberSheet({lifted(rest)}), "Position e/c").cells[0], "1.00");
+    rest.rest = RestPosition::Centre;
+    const NumberSheet middle = numberSheet({lifted(rest)});
+    EXPECT_EQ(rowOf(middle, "Position e/c").cells[0], "0.00");
+    EXPECT_EQ(rowOf(middle, "Attitude (deg)").cells[0], "-");
+}
+
+TEST(NumberSheet, HasNoPositionWithoutRestClearanceOrMean) {
+    const ShaftCenterChoice bottom = restsAt(RestPosition::BottomOfClearance);
+    ShownTurns ac = lifted(bottom);
+    Recording recording = *ac.recording;
+    recording.coupling = Coupling::Ac;
+    ac.recording = std::make_shared<const Recording>(std::move(recording));
+    for (const ShownTurns& turns : {lifted({}), lifted(bottom, 0.0), ac}) {
+        const NumberSheet sheet = numberSheet({turns});
+        EXPECT_EQ(rowOf(sheet, "Position e/c").cells, (Cells{"-", ""}));
+        EXPECT_EQ(rowOf(sheet, "Attitude (deg)").cells, (Cells{"-", ""}));
+    }
+}
+
 // Of 1X alone: the ellipse of half axes 40 and 20 reaches 40 from its middle, and the larger
 // peak-to-peak is 80.
 TEST(NumberSheet, NamesTheMethodOfSmax) {
@@ -88,6 +149,8 @@ TEST(NumberSheet, OrderThatIsNotThereHasNeitherLagNorSense) {
     EXPECT_EQ(rowOf(sheet, "2X, pp").cells, (Cells{"0.00", "0.00"}));
     EXPECT_EQ(rowOf(sheet, "2X lag (deg)").cells, (Cells{"-", "-"}));
     EXPECT_EQ(rowOf(sheet, "2X precession").cells, (Cells{"-", ""}));
+    EXPECT_EQ(rowOf(sheet, "2X axes ratio").cells, (Cells{"-", ""}));
+    EXPECT_EQ(rowOf(sheet, "2X tilt (deg)").cells, (Cells{"-", ""}));
     EXPECT_NE(rowOf(sheet, "1X precession").cells[0], "-");
 }
 
@@ -130,7 +193,7 @@ TEST_F(NumberTableTest, ComputesOffTheWindowsThreadAndShows) {
     table.showTurns({rotor("A")});
     EXPECT_EQ(table.model().rowCount(), 0);  // not yet
     compute({rotor("A")});
-    EXPECT_EQ(table.model().rowCount(), 11);
+    EXPECT_EQ(table.model().rowCount(), 17);
     EXPECT_EQ(view.columnSpan(1, 0), 2);  // Smax is of the orbit, not of a probe
     EXPECT_EQ(view.columnSpan(0, 0), 1);
 }
@@ -152,15 +215,15 @@ TEST_F(NumberTableTest, CopiesEverythingWhereNothingIsSelected) {
     view.setFocus();
     QTest::keySequence(&view, QKeySequence::Copy);
     const QStringList lines = QApplication::clipboard()->text().split('\n');
-    ASSERT_EQ(lines.size(), 13);  // header, 11 rows, and the end of the last line
+    ASSERT_EQ(lines.size(), 19);  // header, 17 rows, and the end of the last line
     EXPECT_EQ(lines[0], "\tA X (um)\tA Y (um)");
-    EXPECT_EQ(lines[4], "1X, pp\t80.00\t40.00");
-    EXPECT_EQ(lines[6], "1X precession\tforward\t");
+    EXPECT_EQ(lines[6], "1X, pp\t80.00\t40.00");
+    EXPECT_EQ(lines[8], "1X precession\tforward\t");
 }
 
 TEST_F(NumberTableTest, CopiesTheSelectedCellsWithTheirHeaders) {
     compute({rotor("A")});
-    view.setCurrentIndex(view.model()->index(3, 1));
+    view.setCurrentIndex(view.model()->index(5, 1));
     view.setFocus();
     QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(table.selectedText(), "\tA Y (um)\n1X, pp\t40.00\n1X lag (deg)\t120.0\n");
@@ -168,7 +231,7 @@ TEST_F(NumberTableTest, CopiesTheSelectedCellsWithTheirHeaders) {
 
 TEST_F(NumberTableTest, SelectionStaysWhileTheNumbersChange) {
     compute({rotor("A")});
-    view.selectionModel()->select(view.model()->index(3, 0),
+    view.selectionModel()->select(view.model()->index(5, 0),
                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
     ShownTurns later = rotor("A");
     later.span = {0.4, 0.8};

@@ -42,6 +42,12 @@ TEST(NumberText, LagsGoFromNothingToJustBelowATurn) {
     EXPECT_EQ(lagText(40.04), "40.0");
 }
 
+TEST(NumberText, TiltsGoFromNothingToJustBelowHalfATurn) {
+    EXPECT_EQ(tiltText(179.96), "0.0");
+    EXPECT_EQ(tiltText(179.94), "179.9");
+    EXPECT_EQ(tiltText(90.04), "90.0");
+}
+
 TEST(NumberText, SpeedsAreWhole) {
     EXPECT_EQ(speedText(2999.6), "3000");
     EXPECT_EQ(speedText(0.2), "0");
