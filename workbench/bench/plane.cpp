@@ -293,10 +293,25 @@ ShownSpan Plane::span() const {
 }
 
 void Plane::load(const Settings& settings) {
+    accepted_.reset();
     control_->load(settings);
     readBack();
     refreshShownTurns();
     placeHost();
+}
+
+void Plane::tryOut(const Settings& settings) {
+    Settings accepted = acceptedSettings();
+    load(settings);
+    accepted_ = std::move(accepted);
+}
+
+void Plane::endTrial() {
+    if (const auto accepted = std::exchange(accepted_, {})) load(*accepted);
+}
+
+Settings Plane::acceptedSettings() const {
+    return accepted_ ? *accepted_ : control_->save();
 }
 
 bool Plane::readBack() {

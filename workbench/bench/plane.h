@@ -107,8 +107,21 @@ public:
     /// What the control held when it was last asked, by setup key.
     const Settings& settings() const { return settings_; }
 
-    /// Lets the control load them.
+    /// Lets the control load them. What was tried out is over.
     void load(const Settings& settings);
+
+    /// Lets the control load settings that nobody has accepted yet, in the place of those that it
+    /// has.
+    void tryOut(const Settings& settings);
+
+    bool isTryingOut() const { return accepted_.has_value(); }
+
+    /// Nothing of what was tried out was accepted: the settings of before are back.
+    void endTrial();
+
+    /// What is to be saved: what the control holds, limits that it has found included; while
+    /// something is tried out, the settings of before.
+    Settings acceptedSettings() const;
 
     /// Asks the control what it holds now. True if that is something else than before, but for
     /// limits that an automatic scale has found.
@@ -167,6 +180,7 @@ private:
     HostState state_ = HostState::Stored;
     TimeSpan stretch_{0.0, 0.0};  ///< that the curves of the shown turns are made of
     Settings settings_;
+    std::optional<Settings> accepted_;                     ///< before what is tried out
     std::vector<std::vector<std::string>> notesOfCurves_;  ///< by place in `curves_`
     SlowCurves slow_;
     HostKit::MemoryHost host_;

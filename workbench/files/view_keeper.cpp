@@ -25,9 +25,13 @@ Settings settingsOf(const std::map<std::string, std::string>& setup) {
 
 ViewPlane viewOf(Plane& plane) {
     const PlaneSource& source = plane.original();
-    ViewPlane view{
-        source.recording.file,           source.options, plane.curves(),      plane.curveOptions(),
-        setupOf(plane.control().save()), std::nullopt,   plane.colorNumbers()};
+    ViewPlane view{source.recording.file,
+                   source.options,
+                   plane.curves(),
+                   plane.curveOptions(),
+                   setupOf(plane.acceptedSettings()),
+                   std::nullopt,
+                   plane.colorNumbers()};
     if (const auto& runOut = plane.shown().runOut) view.compensation = runOut->source;
     return view;
 }

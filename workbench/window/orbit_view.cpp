@@ -169,29 +169,23 @@ void OrbitView::editLimits() {
     editLimit(0, run);
     if (alive) walkFrom(0, run);
     if (!alive) return;
-    freeScale();
+    plane_->endTrial();
     if (bench_.has(*plane_)) returnPointer();
 }
 
 /// A control lets its limits be edited while they are manual. It is no step of undo before one of
-/// them is accepted: what could be redone stays.
+/// them is accepted, and nothing that is saved: what could be redone stays.
 void OrbitView::fixScale() {
     AxisLimits limits = axisLimits(*plane_);
     if (std::exchange(limits.manual, true)) return;
-    automatic_ = plane_->settings();
-    plane_->load(withLimits(*plane_, limits));
-}
-
-/// Nothing was accepted.
-void OrbitView::freeScale() {
-    if (automatic_) plane_->load(*std::exchange(automatic_, {}));
+    plane_->tryOut(withLimits(*plane_, limits));
 }
 
 void OrbitView::noticeLimits(int run) {
-    if (!automatic_) return bench_.noticeSettings(*plane_, tr("limits"), run);
+    if (!plane_->isTryingOut()) return bench_.noticeSettings(*plane_, tr("limits"), run);
     if (!bench_.has(*plane_) || !plane_->readBack()) return;
     const Settings accepted = plane_->settings();
-    freeScale();
+    plane_->endTrial();
     bench_.setSettings(*plane_, accepted, tr("limits"), run);
 }
 

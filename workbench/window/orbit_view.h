@@ -8,7 +8,6 @@
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace Rotavue::Workbench {
@@ -74,7 +73,6 @@ private:
     void send(Message message);
 
     void fixScale();
-    void freeScale();
     void noticeLimits(int run);
     void editLimit(std::size_t limit, int run);
     void walkFrom(std::size_t limit, int run);
@@ -86,8 +84,7 @@ private:
     std::shared_ptr<Plane> plane_;
     LimitEditor editor_;
     QString lastFailure_;
-    std::optional<Settings> automatic_;  ///< what the plane had before its limits were opened
-    std::vector<QPoint> limitPlaces_;    ///< where the last frame has its limits
+    std::vector<QPoint> limitPlaces_;  ///< where the last frame has its limits
 };
 
 }  // namespace Rotavue::Workbench

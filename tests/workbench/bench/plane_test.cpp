@@ -69,6 +69,23 @@ TEST_F(PlaneTest, TurnsByAngleAreThoseThatTheControlShows) {
     EXPECT_EQ(channels["curve2"].arraySize, 3 * 256);
 }
 
+TEST_F(PlaneTest, WhatIsTriedOutIsShownAndNotAcceptedUntilItIsLoaded) {
+    Plane& plane = add();
+    const Settings before = plane.acceptedSettings();
+    Settings circle = before;
+    circle[L"graphType"] = L"1";
+    plane.tryOut(circle);
+    EXPECT_EQ(plane.settings().at(L"graphType"), L"1");
+    EXPECT_EQ(plane.acceptedSettings(), before);
+    plane.endTrial();
+    EXPECT_EQ(plane.settings(), before);
+    plane.tryOut(circle);
+    plane.load(circle);
+    EXPECT_FALSE(plane.isTryingOut());
+    plane.endTrial();
+    EXPECT_EQ(plane.acceptedSettings().at(L"graphType"), L"1");
+}
+
 TEST_F(PlaneTest, ACurveKeepsItsColourWhateverElseIsTicked) {
     Plane& plane = add();
     const CurveRequest subSync{.kind = CurveKind::SubSync};

@@ -1,9 +1,11 @@
 #include "workbench/window/orbit_view.h"
 
 #include "tests/workbench/window/window_fixture.h"
+#include "workbench/files/file_actions.h"
 
 #include <QPointer>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <cmath>
@@ -161,6 +163,27 @@ TEST_F(LimitKeysTest, EscapeOnAnAutomaticScaleLeavesRedoAndTheSavedStateAlone) {
     ASSERT_TRUE(bench().undoStack().canRedo());
     bench().undoStack().redo();
     EXPECT_TRUE(bench().undoStack().isClean());
+}
+
+// Return accepts a limit, and nothing else does: the editor stays open, with what was typed.
+TEST_F(LimitKeysTest, WhatIsSavedBehindAnOpenEditorHasNoLimitThatIsNotAccepted) {
+    OrbitView& view = open();
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("v.rotavue");
+    ASSERT_TRUE(window_.findChild<FileActions*>("files")->saveTo(file));
+    bench().setSettings(view.plane(), with(view.plane(), L"graphType", L"1"));
+    editByKey(view, {[&](LimitEditor& editor) {
+                  QTest::keyClicks(&editor, "150");
+                  QTest::keyClick(&editor, Qt::Key_S, Qt::ControlModifier);
+                  const auto saved = readView(file.toStdString()).planes.at(0).setup;
+                  EXPECT_EQ(saved.at("graphType"), "1");
+                  const auto manual = saved.find("useManualMagnitudeLimits");
+                  EXPECT_TRUE(manual == saved.end() || manual->second == "False");
+                  EXPECT_FALSE(window_.isWindowModified());
+                  QTest::keyClick(&editor, Qt::Key_Return);
+              }});
+    EXPECT_TRUE(window_.isWindowModified());
+    EXPECT_DOUBLE_EQ(axisLimits(view.plane()).xMax, 150.0);
 }
 
 TEST_F(LimitKeysTest, ATileStaysUntilItsEditorHasReturned) {
