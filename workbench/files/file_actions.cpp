@@ -56,7 +56,7 @@ FileActions::FileActions(Bench& bench, QMainWindow& window, QMenu& menu, QSettin
       opener_(settings, &window),
       recentMenu_(new QMenu(tr("Open &recent"), &menu)),
       messages_(new MessageBar(&window)),
-      loading_(new LoadingBar(opener_.loader(), &window)),
+      loading_(new LoadingBar(opener_.loader(), opener_.reader(), &window)),
       offers_(new OfferBar(&window)) {
     setObjectName(QStringLiteral("files"));
     makeMenu(menu);
@@ -180,7 +180,7 @@ void FileActions::open(const QStringList& files, const RecordingOptions& options
             opener_.open(pathOf(file), options);
         }
     }
-    if (!view.isEmpty()) openView(view);
+    if (!view.isEmpty()) opener_.afterwards([this, view] { openView(view); });
 }
 
 void FileActions::openView(const QString& file) {

@@ -1,6 +1,7 @@
 #include "workbench/files/import_preview.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "workbench/recording/column_roles.h"
 #include "workbench/recording/fields.h"
@@ -28,24 +29,6 @@ std::string shapeOf(const SourceHead& head, const std::string& kind) {
         if (head.namesGiven) shape += '|' + column.name + '[' + column.unit + ']';
     }
     return shape;
-}
-
-ImportPreview previewOf(const std::filesystem::path& file, const SourceHead& head,
-                        const RecordingOptions& options) {
-    ImportPreview preview;
-    preview.file = file;
-    preview.columns = guessRoles(head, options);
-    preview.rate = head.rate;
-    preview.unit = head.unit;
-    preview.machine = head.machine;
-    preview.point = head.point;
-    preview.hasNames = head.namesGiven;
-    const bool namesTell = head.namesGiven && furtherProbes(preview.columns).empty();
-    const bool optionsTell = options.x.column && options.y.column;
-    preview.isSure = (namesTell || optionsTell) && hasRole(preview, ColumnRole::X) &&
-                     hasRole(preview, ColumnRole::Y) &&
-                     (preview.rate || options.rate || hasRole(preview, ColumnRole::Time));
-    return preview;
 }
 
 Rows rowsOf(const std::filesystem::path& file, const TableLayout& layout) {
@@ -82,18 +65,34 @@ void refuseSingleProbe(const ImportPreview& preview) {
                          "the two probes of a plane, side by side in one file");
 }
 
-ImportPreview previewImport(const std::filesystem::path& file, const RecordingOptions& options) {
+FileBeginning readBeginning(const std::filesystem::path& file) {
     if (isWavFile(file) || file.extension() == ".wav") {
         WavFile wav(file);
-        ImportPreview preview = previewOf(file, wav.head(), options);
-        preview.shape = shapeOf(wav.head(), "wav " + numberText(wav.head().rate.value_or(0.0)));
-        preview.rows = rowsOf(wav);
-        return preview;
+        const std::string kind = "wav " + numberText(wav.head().rate.value_or(0.0));
+        return {file, wav.head(), rowsOf(wav), shapeOf(wav.head(), kind)};
     }
-    const TableLayout layout = findTableLayout(file);
-    ImportPreview preview = previewOf(file, layout.head, options);
-    preview.shape = shapeOf(layout.head, std::string("table ") + layout.delimiter);
-    preview.rows = rowsOf(file, layout);
+    TableLayout layout = findTableLayout(file);
+    Rows rows = rowsOf(file, layout);
+    std::string shape = shapeOf(layout.head, std::string("table ") + layout.delimiter);
+    return {file, std::move(layout.head), std::move(rows), std::move(shape)};
+}
+
+ImportPreview previewOf(const FileBeginning& beginning, const RecordingOptions& options) {
+    const SourceHead& head = beginning.head;
+    ImportPreview preview;
+    preview.file = beginning.file;
+    preview.columns = guessRoles(head, options);
+    preview.rows = beginning.rows;
+    preview.rate = head.rate;
+    preview.unit = head.unit;
+    preview.machine = head.machine;
+    preview.point = head.point;
+    preview.hasNames = head.namesGiven;
+    const bool namesTell = head.namesGiven && furtherProbes(preview.columns).empty();
+    const bool optionsTell = options.x.column && options.y.column;
+    preview.isSure = (namesTell || optionsTell) && hasRole(preview, ColumnRole::X) &&
+                     hasRole(preview, ColumnRole::Y) &&
+                     (preview.rate || options.rate || hasRole(preview, ColumnRole::Time));
     return preview;
 }
 

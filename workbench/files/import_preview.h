@@ -5,11 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "workbench/recording/recording.h"
+#include "workbench/recording/recording_options.h"
+#include "workbench/recording/sample_source.h"
 
 namespace Rotavue::Workbench {
 
-/// What a recording's beginning tells before it is read.
+/// The beginning of a recording's file, before anybody says what its numbers mean.
+struct FileBeginning {
+    std::filesystem::path file;
+    SourceHead head;
+    std::vector<std::vector<std::string>> rows;  ///< the first rows of values, as they stand there
+    std::string shape;  ///< the same for files of one origin: kind, columns and units
+};
+
+/// What it tells.
 struct ImportPreview {
     std::filesystem::path file;
     std::vector<RecordingColumn> columns;        ///< with the roles that were guessed
@@ -20,20 +29,21 @@ struct ImportPreview {
     std::string point;                           ///< that of the measuring point likewise
     bool hasNames = false;                       ///< of columns, as the file gives them
     bool isSure = false;  ///< names tell of one plane alone what each column is, and the rate
-    std::string shape;    ///< the same for files of one origin: kind, columns and units
 };
 
 /// Rows of a preview.
 inline constexpr std::size_t ImportRowCount = 12;
 
-/// Reads the beginning of a recording; `options` are what is known already. Throws RecordingError
-/// for what is no recording. Roles that cannot be guessed are left open, the others are told.
+/// Reads the beginning. Throws RecordingError for what is no recording.
 ///
 /// What is read is bounded by lines, not by the file: some kB of a usual one. Only a file whose
 /// first thousand lines are as long as lines may be (line_reader.h) has more than a millisecond's
-/// worth of them; a disk that does not answer holds the file dialog up as well.
-ImportPreview previewImport(const std::filesystem::path& file,
-                            const RecordingOptions& options = {});
+/// worth of them. A disk may take as long as it likes: any thread may ask.
+FileBeginning readBeginning(const std::filesystem::path& file);
+
+/// What the beginning tells; `options` are what is known already. Roles that cannot be guessed are
+/// left open, the others are told.
+ImportPreview previewOf(const FileBeginning& beginning, const RecordingOptions& options = {});
 
 /// Throws RecordingError where the file has fewer than two columns that may be probes: no answer
 /// could make a plane of it.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "workbench/analysis/analysis_error.h"
+#include "workbench/files/import_preview.h"
 
 namespace Rotavue::Workbench {
 namespace {
@@ -32,6 +33,15 @@ std::shared_ptr<const PlaneSource> compensatedPlane(const LoadRequest& request,
     } catch (const AnalysisError& error) {
         throw std::runtime_error(request.file.string() + ": " + error.what());
     }
+}
+
+bool mayHoldAPlane(const std::filesystem::path& file) {
+    try {
+        refuseSingleProbe(previewOf(readBeginning(file)));
+    } catch (const std::exception&) {
+        return false;
+    }
+    return true;
 }
 
 }  // namespace
@@ -89,7 +99,7 @@ void RecordingLoader::beginNext() {
     current_ = std::move(waiting_.front());
     waiting_.pop_front();
     task_ = std::make_unique<Task>(
-        [request = current_](const ReadingWatch& watch) { return loadPlane(request, watch); });
+        [request = current_](const ReadingWatch& watch) { return tryToLoad(request, watch); });
     clock_.start();
     lastTold_ = 0;
     timer_.start();
@@ -107,19 +117,33 @@ void RecordingLoader::look() {
     }
 }
 
+// Whether an answer may help is found where the file is read: the disk may be slow.
+RecordingLoader::Loaded RecordingLoader::tryToLoad(const LoadRequest& request,
+                                                   const ReadingWatch& watch) {
+    try {
+        return {.source = loadPlane(request, watch)};
+    } catch (const std::runtime_error& error) {
+        return {.fault = error.what(), .mayBeTold = mayHoldAPlane(request.file)};
+    }
+}
+
 // The end of what was cancelled has been told. Where that was too late it is dropped all the same.
 void RecordingLoader::finish() {
     const std::unique_ptr<Task> task = std::move(task_);
     const LoadRequest request = std::move(current_);
     if (task->isCancelled()) return;
     try {
-        Q_EMIT loaded(request, task->take());
+        const Loaded result = task->take();
+        if (result.source) return Q_EMIT loaded(request, result.source);
+        Q_EMIT failed(request, QString::fromStdString(result.fault), result.mayBeTold);
     } catch (const std::bad_alloc&) {
-        Q_EMIT failed(request, QString::fromStdString(request.file.string()) +
-                                   QStringLiteral(": found more than fits into memory, allowed: a "
-                                                  "shorter recording"));
+        Q_EMIT failed(request,
+                      QString::fromStdString(request.file.string()) +
+                          QStringLiteral(": found more than fits into memory, allowed: a "
+                                         "shorter recording"),
+                      false);
     } catch (const std::exception& error) {
-        Q_EMIT failed(request, QString::fromUtf8(error.what()));
+        Q_EMIT failed(request, QString::fromUtf8(error.what()), false);
     }
 }
 

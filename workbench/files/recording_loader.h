@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "workbench/bench/plane_source.h"
 #include "workbench/bench/run_out.h"
@@ -66,14 +67,23 @@ Q_SIGNALS:
     /// Each recording ends with one of these.
     void loaded(const Rotavue::Workbench::LoadRequest& request,
                 const std::shared_ptr<const Rotavue::Workbench::PlaneSource>& source);
-    void failed(const Rotavue::Workbench::LoadRequest& request, const QString& line);
+    /// An answer to what the recording holds may help, or may not: it is no recording of a plane.
+    void failed(const Rotavue::Workbench::LoadRequest& request, const QString& line,
+                bool mayBeTold);
     void cancelled(const Rotavue::Workbench::LoadRequest& request);
 
     /// After the last of them.
     void idle();
 
 private:
-    using Task = BackgroundTask<std::shared_ptr<const PlaneSource>>;
+    struct Loaded {
+        std::shared_ptr<const PlaneSource> source = {};
+        std::string fault = {};  ///< where there is none
+        bool mayBeTold = false;
+    };
+    using Task = BackgroundTask<Loaded>;
+
+    static Loaded tryToLoad(const LoadRequest& request, const ReadingWatch& watch);
 
     void drop(std::deque<LoadRequest> requests);
     void beginNext();

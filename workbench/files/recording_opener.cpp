@@ -52,103 +52,137 @@ std::set<std::string> probesOf(const std::vector<RecordingColumn>& columns) {
 
 }  // namespace
 
-RecordingOpener::RecordingOpener(QSettings& settings, QWidget* window)
-    : QObject(window), memory_(settings), window_(window) {
+RecordingOpener::RecordingOpener(QSettings& settings, QWidget* window, ImportReader::Read read)
+    : QObject(window), memory_(settings), window_(window), reader_(std::move(read)) {
+    connect(&reader_, &ImportReader::arrived, this, &RecordingOpener::takeFacts);
+    connect(&reader_, &ImportReader::failed, this, [this](const QString& line) {
+        Q_EMIT failed(line);
+        takeNext();
+    });
+    connect(&reader_, &ImportReader::cancelled, this, &RecordingOpener::dropWaiting);
     connect(&loader_, &RecordingLoader::failed, this, &RecordingOpener::takeUnread);
     connect(&loader_, &RecordingLoader::loaded, this, [this](const LoadRequest& request) {
         if (request.isToBeKept) keepBeside(request.file, request.options);
     });
+    connect(&loader_, &RecordingLoader::idle, this, &RecordingOpener::tellIfIdle);
 }
 
 void RecordingOpener::open(const std::filesystem::path& file, const RecordingOptions& options) {
-    enqueue({{.file = file, .options = options}});
+    enqueue({.request = {.file = file, .options = options}});
 }
 
 void RecordingOpener::correct(std::shared_ptr<const PlaneSource> source) {
-    enqueue({{.file = source->recording.file,
-              .options = source->options,
-              .isFurtherPlane = isFurtherPlane(*source),
-              .instead = source},
-             ImportPurpose::Correct});
+    enqueue(
+        {.request = {.file = source->recording.file, .options = source->options, .instead = source},
+         .purpose = ImportPurpose::Correct});
 }
 
 void RecordingOpener::openFurtherPlane(const PlaneSource& source) {
-    enqueue({{.file = source.recording.file, .options = source.options, .isFurtherPlane = true},
-             ImportPurpose::FurtherPlane});
-}
-
-// Whether the file would open with other columns, by its machine file, what is remembered for its
-// shape, or its names.
-bool RecordingOpener::isFurtherPlane(const PlaneSource& source) const {
-    const Recording& recording = source.recording;
-    try {
-        ImportPreview usual = previewImport(recording.file, withSoundItems(recording.file, {}));
-        const auto remembered = memory_.find(usual.shape);
-        std::error_code fault;
-        if (remembered && !std::filesystem::exists(machineFileOf(recording.file), fault))
-            usual = previewImport(recording.file, remembered->options);
-        const auto own = probesOf(recording.columns);
-        const auto others = probesOf(usual.columns);
-        const bool shared = std::any_of(others.begin(), others.end(),
-                                        [&](const auto& name) { return own.contains(name); });
-        return !others.empty() && !shared;
-    } catch (const RecordingError&) {
-        return false;
-    }
+    enqueue({.request = {.file = source.recording.file,
+                         .options = source.options,
+                         .isFurtherPlane = true},
+             .purpose = ImportPurpose::FurtherPlane});
 }
 
 void RecordingOpener::mend(const LoadRequest& request) {
-    enqueue({request, ImportPurpose::Mend});
+    enqueue({.request = request, .purpose = ImportPurpose::Mend});
+}
+
+void RecordingOpener::afterwards(std::function<void()> act) {
+    enqueue({.act = std::move(act)});
 }
 
 void RecordingOpener::enqueue(Waiting waiting) {
     waiting_.push_back(std::move(waiting));
-    if (!dialog_) takeNext();
+    takeNext();
 }
 
-// One dialog at a time: the others wait until it has been answered.
+// One at a time: the others wait until it has been read and its question answered.
 void RecordingOpener::takeNext() {
-    while (!waiting_.empty() && !dialog_) {
-        const Waiting waiting = std::move(waiting_.front());
+    while (!waiting_.empty() && !dialog_ && !reader_.isReading()) {
+        current_ = std::move(waiting_.front());
         waiting_.pop_front();
-        try {
-            take(waiting);
-        } catch (const std::exception& error) {
-            Q_EMIT failed(QString::fromUtf8(error.what()));
+        if (current_.act) {
+            std::exchange(current_.act, {})();
+        } else {
+            reader_.read(current_.request.file, current_.request.options);
         }
     }
+    tellIfIdle();
 }
 
-void RecordingOpener::take(const Waiting& waiting) {
-    const LoadRequest& request = waiting.request;
-    if (waiting.purpose == ImportPurpose::Open) {
-        const ImportPreview preview = previewImport(request.file, request.options);
-        if (takeKnown(request, preview)) return;
-        refuseSingleProbe(preview);
-        const auto remembered = memory_.find(preview.shape);
-        const RecordingOptions known =
-            remembered ? overlaid(remembered->options, request.options) : request.options;
-        return ask(waiting, previewImport(request.file, known), known);
+void RecordingOpener::tellIfIdle() {
+    if (waiting_.empty() && !dialog_ && !isReading()) Q_EMIT idle();
+}
+
+void RecordingOpener::takeFacts(const ImportFacts& facts) {
+    try {
+        if (current_.purpose == ImportPurpose::Open) {
+            openNew(facts);
+        } else {
+            askAgain(facts);
+        }
+    } catch (const std::exception& error) {
+        Q_EMIT failed(QString::fromUtf8(error.what()));
     }
-    RecordingOptions known = withSoundItems(request.file, request.options);
-    if (waiting.purpose == ImportPurpose::Correct) fillRest(known, request.instead->recording);
-    ImportPreview preview = previewImport(request.file, known);
-    if (waiting.purpose == ImportPurpose::FurtherPlane) {
+    takeNext();
+}
+
+// Nobody waits for what was cancelled, nor for what was to come behind it.
+void RecordingOpener::dropWaiting() {
+    std::deque<Waiting> dropped = std::exchange(waiting_, {});
+    dropped.push_front(std::exchange(current_, {}));
+    for (const Waiting& waiting : dropped)
+        if (!waiting.act) Q_EMIT declined(waiting.request.file);
+    tellIfIdle();
+}
+
+void RecordingOpener::openNew(const ImportFacts& facts) {
+    const LoadRequest& request = current_.request;
+    const ImportPreview preview = previewOf(facts.beginning, request.options);
+    if (takeKnown(request, preview, facts)) return;
+    refuseSingleProbe(preview);
+    const auto remembered = memory_.find(facts.beginning.shape);
+    const RecordingOptions known =
+        remembered ? overlaid(remembered->options, request.options) : request.options;
+    ask(current_, facts.beginning.shape, previewOf(facts.beginning, known), known);
+}
+
+void RecordingOpener::askAgain(const ImportFacts& facts) {
+    RecordingOptions known = facts.known;
+    if (current_.purpose == ImportPurpose::Correct) {
+        const PlaneSource& source = *current_.request.instead;
+        current_.request.isFurtherPlane = isFurtherPlane(source, facts);
+        fillRest(known, source.recording);
+    }
+    ImportPreview preview = previewOf(facts.beginning, known);
+    if (current_.purpose == ImportPurpose::FurtherPlane) {
         preview.columns = nextPlane(std::move(preview.columns));
         known.point.reset();
     }
-    ask(waiting, preview, known);
+    ask(current_, facts.beginning.shape, preview, known);
 }
 
-bool RecordingOpener::takeKnown(const LoadRequest& request, const ImportPreview& preview) {
-    std::error_code fault;
-    const bool told =
-        request.options.machineFile || std::filesystem::exists(machineFileOf(request.file), fault);
-    if (told || preview.isSure) {
+// Whether the file would open with other columns, by its machine file, what is remembered for its
+// shape, or its names.
+bool RecordingOpener::isFurtherPlane(const PlaneSource& source, const ImportFacts& facts) const {
+    const auto remembered = memory_.find(facts.beginning.shape);
+    const bool isRemembered = remembered && !facts.hasMachineFile;
+    const auto others = probesOf(
+        previewOf(facts.beginning, isRemembered ? remembered->options : facts.usual).columns);
+    const auto own = probesOf(source.recording.columns);
+    const bool shared = std::any_of(others.begin(), others.end(),
+                                    [&](const auto& name) { return own.contains(name); });
+    return !others.empty() && !shared;
+}
+
+bool RecordingOpener::takeKnown(const LoadRequest& request, const ImportPreview& preview,
+                                const ImportFacts& facts) {
+    if (request.options.machineFile || facts.hasMachineFile || preview.isSure) {
         loader_.load(request);
         return true;
     }
-    const auto remembered = memory_.find(preview.shape);
+    const auto remembered = memory_.find(facts.beginning.shape);
     const bool isTold = remembered && !remembered->askAgain && preview.hasNames;
     if (!isTold) return false;
     LoadRequest known = request;
@@ -159,22 +193,17 @@ bool RecordingOpener::takeKnown(const LoadRequest& request, const ImportPreview&
 }
 
 // A recording of a view comes with the view, or not at all. No answer helps what is no table.
-void RecordingOpener::takeUnread(const LoadRequest& request, const QString& line) {
-    try {
-        if (request.isOfView) return Q_EMIT failed(line);
-        refuseSingleProbe(previewImport(request.file));
-    } catch (const std::exception&) {
-        return Q_EMIT failed(line);
-    }
+void RecordingOpener::takeUnread(const LoadRequest& request, const QString& line, bool mayBeTold) {
+    if (request.isOfView || !mayBeTold) return Q_EMIT failed(line);
     Q_EMIT misread(request, line);
 }
 
-void RecordingOpener::ask(const Waiting& waiting, const ImportPreview& preview,
-                          const RecordingOptions& known) {
+void RecordingOpener::ask(const Waiting& waiting, const std::string& shape,
+                          const ImportPreview& preview, const RecordingOptions& known) {
     dialog_ = new ImportDialog(preview, known, window_, waiting.purpose);
     if (waiting.request.isFurtherPlane) dialog_->keepNothing();
     dialog_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog_, &QDialog::finished, this, [this, waiting, shape = preview.shape](int result) {
+    connect(dialog_, &QDialog::finished, this, [this, waiting, shape](int result) {
         const QPointer<ImportDialog> answered = std::exchange(dialog_, nullptr);
         if (result == QDialog::Accepted) {
             takeAnswer(waiting, shape, *answered);

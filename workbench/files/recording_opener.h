@@ -5,10 +5,12 @@
 #include <QString>
 
 #include <deque>
+#include <functional>
 
 #include "workbench/files/import_dialog.h"
 #include "workbench/files/import_memory.h"
 #include "workbench/files/import_preview.h"
+#include "workbench/files/import_reader.h"
 #include "workbench/files/recording_loader.h"
 
 class QSettings;
@@ -24,8 +26,10 @@ class RecordingOpener : public QObject {
     Q_OBJECT
 
 public:
-    /// `window` is the parent of what asks; the settings must outlive this.
-    RecordingOpener(QSettings& settings, QWidget* window);
+    /// `window` is the parent of what asks; the settings must outlive this. `read` reads what has
+    /// to be known before that.
+    RecordingOpener(QSettings& settings, QWidget* window,
+                    ImportReader::Read read = readImportFacts);
 
     /// `options` are what is known of the recording beyond its machine file.
     void open(const std::filesystem::path& file, const RecordingOptions& options = {});
@@ -45,7 +49,16 @@ public:
     bool hasAnswers() const { return !memory_.isEmpty(); }
     void forgetAnswers() { memory_.clear(); }
 
+    /// Does that when all that was asked for before has begun to load, or was declined.
+    void afterwards(std::function<void()> act);
+
     RecordingLoader& loader() { return loader_; }
+
+    /// What looks into recordings before they are loaded. To cancel that ends with it what waits.
+    ImportReader& reader() { return reader_; }
+
+    /// Whether something is being read; a question that nobody has answered yet is not.
+    bool isReading() const { return reader_.isReading() || loader_.isLoading(); }
 
 Q_SIGNALS:
     /// The recording cannot be opened, or what was told of it cannot be kept: one line.
@@ -57,27 +70,39 @@ Q_SIGNALS:
     /// Nobody answered what the recording holds.
     void declined(const std::filesystem::path& file);
 
+    /// Everything has been read and answered.
+    void idle();
+
 private:
     struct Waiting {
-        LoadRequest request;
+        LoadRequest request = {};
         ImportPurpose purpose = ImportPurpose::Open;
+        std::function<void()> act = {};  ///< instead of a recording
     };
 
     void enqueue(Waiting waiting);
     void takeNext();
-    void take(const Waiting& waiting);
-    bool isFurtherPlane(const PlaneSource& source) const;
-    void takeUnread(const LoadRequest& request, const QString& line);
+    void tellIfIdle();
+    void takeFacts(const ImportFacts& facts);
+    void takeUnread(const LoadRequest& request, const QString& line, bool mayBeTold);
+    void dropWaiting();
+    void openNew(const ImportFacts& facts);
+    void askAgain(const ImportFacts& facts);
+    bool isFurtherPlane(const PlaneSource& source, const ImportFacts& facts) const;
     /// False where a person has to be asked.
-    bool takeKnown(const LoadRequest& request, const ImportPreview& preview);
-    void ask(const Waiting& waiting, const ImportPreview& preview, const RecordingOptions& known);
+    bool takeKnown(const LoadRequest& request, const ImportPreview& preview,
+                   const ImportFacts& facts);
+    void ask(const Waiting& waiting, const std::string& shape, const ImportPreview& preview,
+             const RecordingOptions& known);
     void takeAnswer(const Waiting& waiting, const std::string& shape, const ImportDialog& dialog);
     void keepBeside(const std::filesystem::path& file, const RecordingOptions& options);
 
     ImportMemory memory_;
     QWidget* window_;
+    ImportReader reader_;
     RecordingLoader loader_;
     std::deque<Waiting> waiting_;
+    Waiting current_;  ///< that is being looked into
     QPointer<ImportDialog> dialog_;
 };
 

@@ -43,7 +43,7 @@ void open(MainWindow& window, const WindowOrder& order) {
         names += QString::fromStdString(file);
     if (order.at) {
         QObject::connect(
-            &files.loader(), &RecordingLoader::idle, &window,
+            &files.opener(), &RecordingOpener::idle, &window,
             [&window, at = *order.at] { window.bench().setCursor(at); }, Qt::SingleShotConnection);
     }
     files.open(names, order.recording);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -53,9 +52,7 @@ protected:
         wait();
     }
     void wait() {
-        QEventLoop loop;
-        QObject::connect(&files_->loader(), &RecordingLoader::idle, &loop, &QEventLoop::quit);
-        if (files_->loader().isLoading()) loop.exec();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !files_->opener().isReading(); }, 60'000));
     }
     std::string told() const { return files_->messages().lines().join('\n').toStdString(); }
     QStringList planes() const {

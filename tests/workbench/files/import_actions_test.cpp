@@ -136,6 +136,7 @@ TEST_F(ImportTest, WhatAMachineFileSaysWronglyCanBeToldAnew) {
     EXPECT_NE(told().find("a.machine.json: found \"left\" at /rotation"), std::string::npos)
         << told();
     files_->messages().findChild<QAbstractButton*>("messageRemedy")->click();
+    wait();
     EXPECT_EQ(told(), "");
     ASSERT_TRUE(asked());
     EXPECT_EQ(asked()->findChild<QLineEdit*>("/unit")->text(), "um");
@@ -151,6 +152,7 @@ TEST_F(ImportTest, NameThatIsTooLongForAMachineFileIsOpenedAndMended) {
     open({qt(write(name, "t,x [um],y [mil]\n0,1,2\n1,2,3\n2,3,1\n"))});
     EXPECT_NE(told().find("found x in \"um\" and y in \"mil\""), std::string::npos) << told();
     files_->messages().findChild<QAbstractButton*>("messageRemedy")->click();
+    wait();
     ASSERT_TRUE(asked());
     asked()->findChild<QLineEdit*>("/unit")->setText("um");
     asked()->accept();
@@ -164,6 +166,7 @@ TEST_F(ImportTest, TwoUnitsCanBeToldOf) {
     open({qt(write("a.csv", "t,x [um],y [mil]\n0,1,2\n1,2,3\n2,3,1\n"))});
     EXPECT_NE(told().find("found x in \"um\" and y in \"mil\""), std::string::npos) << told();
     files_->messages().findChild<QAbstractButton*>("messageRemedy")->click();
+    wait();
     ASSERT_TRUE(asked());
     asked()->findChild<QLineEdit*>("/unit")->setText("um");
     asked()->findChild<QLineEdit*>("/y/sensitivity")->setText("0.03937");
@@ -190,6 +193,7 @@ TEST_F(ImportTest, VoltsOfAGapAreNotedAndTheirMeanIsOfferedAsTheRestPosition) {
                          "position and V/um, or AC (in the window with Ctrl+I)"),
               1);
     files_->opener().correct(bench_->planes()[0]->sharedOriginal());
+    wait();
     ASSERT_TRUE(asked());
     EXPECT_EQ(asked()->findChild<QLineEdit*>("/x/rest")->text(), "-9.8");
     EXPECT_EQ(asked()->findChild<QLineEdit*>("/y/rest")->text(), "");

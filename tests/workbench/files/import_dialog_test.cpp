@@ -20,7 +20,8 @@ const std::string Table = "t,tacho,axl,rad\n0,1,2,3\n0.5,2,3,4\n";
 class ImportDialogTest : public ScratchFolder {
 protected:
     void open(const std::string& text = Table, const RecordingOptions& known = {}) {
-        dialog_ = std::make_unique<ImportDialog>(previewImport(write("r.csv", text), known), known);
+        dialog_ = std::make_unique<ImportDialog>(
+            previewOf(readBeginning(write("r.csv", text)), known), known);
         dialog_->show();
     }
     void type(const char* name, const char* text) {

@@ -9,7 +9,10 @@ namespace {
 class ImportPreviewTest : public ScratchFolder {
 protected:
     ImportPreview preview(std::string_view text, const RecordingOptions& options = {}) const {
-        return previewImport(write("r.csv", text), options);
+        return previewOf(readBeginning(write("r.csv", text)), options);
+    }
+    std::string shape(std::string_view text) const {
+        return readBeginning(write("r.csv", text)).shape;
     }
 };
 
@@ -75,19 +78,19 @@ TEST_F(ImportPreviewTest, IsSureWhenTheOptionsTell) {
 }
 
 TEST_F(ImportPreviewTest, HasOneShapeForFilesOfOneOrigin) {
-    const std::string shape = preview("t,tacho,axl,rad\n0,1,2,3\n").shape;
-    EXPECT_EQ(preview("Machine Name,Kit\nt,tacho,axl,rad\n5,6,7,8\n").shape, shape);
-    EXPECT_NE(preview("t;tacho;axl;rad\n0;1;2;3\n").shape, shape);
-    EXPECT_NE(preview("t,tacho,axl,tan\n0,1,2,3\n").shape, shape);
-    EXPECT_NE(preview("t,tacho,axl,rad [um]\n0,1,2,3\n").shape, shape);
-    EXPECT_EQ(preview("1,2,3\n4,5,6\n").shape, preview("9,2,1\n4,5,6\n").shape);
+    const std::string first = shape("t,tacho,axl,rad\n0,1,2,3\n");
+    EXPECT_EQ(shape("Machine Name,Kit\nt,tacho,axl,rad\n5,6,7,8\n"), first);
+    EXPECT_NE(shape("t;tacho;axl;rad\n0;1;2;3\n"), first);
+    EXPECT_NE(shape("t,tacho,axl,tan\n0,1,2,3\n"), first);
+    EXPECT_NE(shape("t,tacho,axl,rad [um]\n0,1,2,3\n"), first);
+    EXPECT_EQ(shape("1,2,3\n4,5,6\n"), shape("9,2,1\n4,5,6\n"));
 }
 
 TEST_F(ImportPreviewTest, ShowsTheFirstFramesOfAWavFile) {
     // Full scale of 16 bits is 32768: 16384 is a half.
     constexpr std::array<std::int16_t, 6> samples = {16384, -16384, 0, 8192, 0, -32768};
     const ImportPreview wav =
-        previewImport(write("r.wav", wavBytes<std::int16_t>({1, 3, 8000, 16}, samples)));
+        previewOf(readBeginning(write("r.wav", wavBytes<std::int16_t>({1, 3, 8000, 16}, samples))));
     EXPECT_EQ(wav.rows,
               (std::vector<std::vector<std::string>>{{"0.5", "-0.5", "0"}, {"0.25", "0", "-1"}}));
     EXPECT_EQ(wav.rate, 8000.0);

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "tests/workbench/recording/scratch_folder.h"
+#include "workbench/files/import_reader.h"
 #include "workbench/files/loading_bar.h"
 
 namespace Rotavue::Workbench {
@@ -49,6 +50,7 @@ protected:
     }
 
     RecordingLoader loader_;
+    ImportReader reader_;
     std::string log_;
     std::vector<std::shared_ptr<const PlaneSource>> planes_;
 };
@@ -132,7 +134,7 @@ TEST_F(RecordingLoaderTest, EndsWhileItIsLoading) {
 }
 
 TEST_F(RecordingLoaderTest, BarComesAfterHalfASecondAndGoesWithTheLastRecording) {
-    LoadingBar bar(loader_);
+    LoadingBar bar(loader_, reader_);
     const LoadRequest request{at("run-up.csv")};
     Q_EMIT loader_.progressed(request, 0.25, 499);
     EXPECT_TRUE(bar.isHidden());
@@ -144,7 +146,7 @@ TEST_F(RecordingLoaderTest, BarComesAfterHalfASecondAndGoesWithTheLastRecording)
 }
 
 TEST_F(RecordingLoaderTest, ButtonOfTheBarCancels) {
-    LoadingBar bar(loader_);
+    LoadingBar bar(loader_, reader_);
     loader_.load({large("a.csv")});
     bar.findChild<QPushButton*>("loadingCancel")->click();
     waitUntilIdle();

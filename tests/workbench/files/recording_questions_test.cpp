@@ -3,12 +3,12 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEventLoop>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSettings>
+#include <QTest>
 
 #include "tests/workbench/files/files_application.h"
 #include "tests/workbench/recording/scratch_folder.h"
@@ -47,9 +47,7 @@ protected:
         wait();
     }
     void wait() {
-        QEventLoop loop;
-        QObject::connect(&files_->loader(), &RecordingLoader::idle, &loop, &QEventLoop::quit);
-        if (files_->loader().isLoading()) loop.exec();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !files_->opener().isReading(); }, 60'000));
     }
     QAction& action(const char* name) const {
         Q_EMIT menu_->aboutToShow();
@@ -57,8 +55,9 @@ protected:
             if (one->objectName() == name) return *one;
         throw std::logic_error(name);
     }
-    ImportDialog* ask(const char* name) const {
+    ImportDialog* ask(const char* name) {
         action(name).trigger();
+        wait();
         return window_.findChild<ImportDialog*>();
     }
     static void type(ImportDialog* dialog, const char* field, const QString& text) {
@@ -181,6 +180,7 @@ TEST_F(RecordingQuestionsTest, FurtherPlaneThatFailsLeavesTheMachineFileWhenItIs
     accept(ask("openFurtherPlane"));
     ASSERT_NE(told().find("\"um\" and y in \"mil\""), std::string::npos) << told();
     files_->messages().findChild<QAbstractButton*>("messageRemedy")->click();
+    wait();
     auto* dialog = window_.findChild<ImportDialog*>();
     ASSERT_TRUE(dialog);
     EXPECT_FALSE(dialog->findChild<QCheckBox*>("keepBeside")->isVisibleTo(dialog));
@@ -219,7 +219,7 @@ TEST_F(RecordingQuestionsTest, AnswersThatAreUsedAgainCanBeForgotten) {
     type(dialog, "/point", "Bearing 1");
     type(dialog, "/unit", "um");
     accept(dialog);
-    const std::string shape = previewImport(at("r.csv")).shape;
+    const std::string shape = readBeginning(at("r.csv")).shape;
     const auto remembered = ImportMemory(settings_).find(shape);
     ASSERT_TRUE(remembered);
     EXPECT_EQ(remembered->options.unit, "um");

@@ -40,8 +40,10 @@ protected:
     }
 
     ImportDialog* asked() {
-        settle();
-        return window_.findChild<ImportDialog*>();
+        ImportDialog* dialog = nullptr;
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return (dialog = window_.findChild<ImportDialog*>()) != nullptr; }));
+        return dialog;
     }
 
     QTemporaryDir folder_;
