@@ -12,6 +12,7 @@ namespace Rotavue::Workbench {
 namespace {
 
 constexpr int LeastPointsPerTurn = 8;
+constexpr double PartOfTurns = 0.4;
 
 void checkRange(const std::string& purpose, const std::string& thing, int value, int least,
                 int most) {
@@ -117,10 +118,11 @@ AveragedOrbit averageOrbit(const Recording& recording, const ShaftTrack& track,
     orbit.revolutions = options.revolutions;
     orbit.pointsPerTurn = options.pointsPerTurn;
     Averager averager(static_cast<std::size_t>(options.revolutions * options.pointsPerTurn));
-    AngleSampler sampler(recording, turnedSamples(recording, *turns.run, orbit.span));
+    AngleSampler sampler(recording, turnedSamples(recording, *turns.run, orbit.span,
+                                                  progress.between(0.0, PartOfTurns)));
+    const ReadingProgress rest = progress.between(PartOfTurns, 1.0);
     for (std::int64_t turn = turns.first; turn < turns.end; turn += options.revolutions) {
-        progress.reach(static_cast<double>(turn - turns.first) /
-                       static_cast<double>(turns.count()));
+        rest.reach(static_cast<double>(turn - turns.first) / static_cast<double>(turns.count()));
         averager.take(sampler, static_cast<double>(turn), options.pointsPerTurn);
     }
     if (averager.count() == 0)

@@ -16,6 +16,7 @@ namespace {
 
 constexpr double DegreesPerTurn = 360.0;
 constexpr double TwoPi = 2.0 * std::numbers::pi;
+// A word is told after each: well within a millisecond.
 constexpr std::size_t BlockSize = 4096;
 
 // The vectors of a slow roll as a signal by the turns of the shaft.
@@ -68,7 +69,8 @@ private:
 template <typename RunOut>
 class Remover {
 public:
-    Remover(Recording& recording, const RunOut& runOut) : recording_(recording), runOut_(runOut) {}
+    Remover(Recording& recording, const RunOut& runOut, const ReadingProgress& progress)
+        : recording_(recording), runOut_(runOut), progress_(progress) {}
 
     void removeAll(const ShaftTrack& track) {
         std::size_t done = 0;
@@ -90,16 +92,26 @@ private:
     }
 
     void byAngle(std::size_t first, std::size_t end) {
-        for (std::size_t i = first; i < end; ++i)
-            remove(i, recording_.angle[i] / DegreesPerTurn);
+        inBlocks(first, end, [this](std::size_t block, std::size_t count) {
+            for (std::size_t i = block; i < block + count; ++i)
+                remove(i, recording_.angle[i] / DegreesPerTurn);
+        });
     }
 
     void byRun(const ShaftRun& run, std::size_t first, std::size_t end) {
-        for (std::size_t block = first; block < end; block += BlockSize) {
-            const std::size_t count = std::min(BlockSize, end - block);
+        inBlocks(first, end, [&](std::size_t block, std::size_t count) {
             const auto turns = run.turnsAt(block, count, recording_.sampleRate);
             for (std::size_t i = 0; i < count; ++i)
                 remove(block + i, turns[i]);
+        });
+    }
+
+    template <typename Work>
+    void inBlocks(std::size_t first, std::size_t end, Work work) {
+        for (std::size_t block = first; block < end; block += BlockSize) {
+            work(block, std::min(BlockSize, end - block));
+            progress_.reach(static_cast<double>(std::min(block + BlockSize, end)) /
+                            static_cast<double>(recording_.sampleCount()));
         }
     }
 
@@ -111,11 +123,13 @@ private:
 
     Recording& recording_;
     const RunOut& runOut_;
+    const ReadingProgress& progress_;
 };
 
 template <typename RunOut>
-void removeFrom(Recording& recording, const ShaftTrack& track, const RunOut& runOut) {
-    Remover<RunOut>(recording, runOut).removeAll(track);
+void removeFrom(Recording& recording, const ShaftTrack& track, const RunOut& runOut,
+                const ReadingProgress& progress) {
+    Remover<RunOut>(recording, runOut, progress).removeAll(track);
 }
 
 [[noreturn]] void refuse(const std::string& taken, const std::string& recorded) {
@@ -163,12 +177,12 @@ void checkCompensable(const Recording& recording, const SlowRoll& slowRoll) {
 }
 
 Recording compensated(Recording recording, const ShaftTrack& track, const SlowRoll& slowRoll,
-                      CompensationForm form) {
+                      CompensationForm form, const ReadingProgress& progress) {
     checkCompensable(recording, slowRoll);
     if (form == CompensationForm::Vector)
-        removeFrom(recording, track, VectorRunOut(slowRoll));
+        removeFrom(recording, track, VectorRunOut(slowRoll), progress);
     else
-        removeFrom(recording, track, WaveformRunOut(slowRoll));
+        removeFrom(recording, track, WaveformRunOut(slowRoll), progress);
     return recording;
 }
 

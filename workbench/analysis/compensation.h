@@ -27,9 +27,9 @@ void checkCompensable(const Recording& recording, const SlowRoll& slowRoll);
 /// between and behind its runs. The mean position stays, gaps stay gaps, and nothing but x and y
 /// changes; `track` is that of the recording and goes on to hold for the result.
 ///
-/// Throws AnalysisError as `checkCompensable`.
+/// Throws AnalysisError as `checkCompensable`, and ReadingCancelled.
 Recording compensated(Recording recording, const ShaftTrack& track, const SlowRoll& slowRoll,
-                      CompensationForm form);
+                      CompensationForm form, const ReadingProgress& progress = ReadingProgress());
 
 /// "1X, 2X vector", "waveform".
 std::string_view toText(CompensationForm form);

@@ -15,6 +15,9 @@ constexpr const char* Purpose = "the harmonic analysis";
 constexpr double SamplesPerCycle = 2.0;
 // What two orders may be closer than one cycle in the window, for the sake of rounding.
 constexpr double Slack = 1e-9;
+// How many samples are taken between two looks whether it shall go on: some milliseconds.
+constexpr std::size_t BetweenWords = 1U << 16U;
+constexpr double PartOfTurns = 0.4;
 
 std::string orderText(double order) {
     return shortText(order, 6) + "X";
@@ -46,12 +49,15 @@ void checkSampling(std::span<const double> orders, double samplesPerTurn) {
 }
 
 std::vector<OrderVectors> fit(const Recording& recording, const TurnedSamples& samples,
-                              std::span<const double> orders, const WholeTurns& turns) {
+                              std::span<const double> orders, const WholeTurns& turns,
+                              const ReadingProgress& progress) {
     // Angles count from the window's first pulse: that is what lags of broken orders refer to.
     const auto origin = static_cast<double>(turns.first);
     const auto length = static_cast<double>(turns.count());
     OrderFit orderFit(orders, 0.0, length);
     for (std::size_t i = 0; i < samples.count(); ++i) {
+        if (i % BetweenWords == 0)
+            progress.reach(static_cast<double>(i) / static_cast<double>(samples.count()));
         const double x = recording.x[samples.first + i];
         const double y = recording.y[samples.first + i];
         const double turn = samples.turns[i] - origin;
@@ -75,7 +81,8 @@ void checkOrders(std::span<const double> orders) {
 }
 
 Harmonics findHarmonics(const Recording& recording, const ShaftTrack& track,
-                        std::span<const double> orders, const TimeSpan& span) {
+                        std::span<const double> orders, const TimeSpan& span,
+                        const ReadingProgress& progress) {
     checkOrders(orders);
     const WholeTurns turns = track.wholeTurns(span, Purpose);
     Harmonics result;
@@ -84,9 +91,10 @@ Harmonics findHarmonics(const Recording& recording, const ShaftTrack& track,
     result.speed = turns.speed();
     result.unit = recording.machine.unit;
     checkApart(orders, result.turns);
-    const TurnedSamples samples = turnedSamples(recording, *turns.run, result.span);
+    const TurnedSamples samples =
+        turnedSamples(recording, *turns.run, result.span, progress.between(0.0, PartOfTurns));
     checkSampling(orders, static_cast<double>(samples.count()) / result.turns);
-    result.orders = fit(recording, samples, orders, turns);
+    result.orders = fit(recording, samples, orders, turns, progress.between(PartOfTurns, 1.0));
     if (result.orders.empty())
         throw AnalysisError(std::string(Purpose) + " finds too many gaps between " +
                             shortText(result.span.from) + " and " + shortText(result.span.to) +

@@ -35,8 +35,9 @@ void checkOrders(std::span<const double> orders);
 /// Throws AnalysisError as `checkOrders`; if there is no whole turn (as `ShaftTrack::wholeTurns`);
 /// if an order comes twice, or lies closer to another or to 0 than the turns can tell apart (one
 /// cycle in the window); if it needs more samples a turn than there are (more than two a cycle); or
-/// if gaps take more than half of the samples.
+/// if gaps take more than half of the samples; and ReadingCancelled.
 Harmonics findHarmonics(const Recording& recording, const ShaftTrack& track,
-                        std::span<const double> orders, const TimeSpan& span = {});
+                        std::span<const double> orders, const TimeSpan& span = {},
+                        const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench

@@ -30,11 +30,12 @@ void takeFacts(const MachineFacts& machine, SlowRoll& slowRoll) {
 }
 
 void takeForms(const Recording& recording, const ShaftTrack& track, const AverageOptions& options,
-               SlowRoll& slowRoll) {
-    const Harmonics harmonics = findHarmonics(recording, track, Orders, options.span);
+               const ReadingProgress& progress, SlowRoll& slowRoll) {
+    const Harmonics harmonics =
+        findHarmonics(recording, track, Orders, options.span, progress.between(0.0, 0.5));
     slowRoll.first = harmonics.orders[0];
     slowRoll.second = harmonics.orders[1];
-    AveragedOrbit orbit = averageOrbit(recording, track, options);
+    AveragedOrbit orbit = averageOrbit(recording, track, options, progress.between(0.5, 1.0));
     slowRoll.x = withoutMean(std::move(orbit.x));
     slowRoll.y = withoutMean(std::move(orbit.y));
     slowRoll.speed = orbit.speed;
@@ -55,14 +56,15 @@ void noteDoubts(const Recording& recording, SlowRoll& slowRoll) {
 }  // namespace
 
 SlowRoll takeSlowRoll(const Recording& recording, const ShaftTrack& track, const TimeSpan& span,
-                      int pointsPerTurn) {
+                      int pointsPerTurn, const ReadingProgress& progress) {
     track.wholeTurns(span, "the run-out");
     SlowRoll slowRoll;
     slowRoll.file = recording.file;
     slowRoll.hasMark = recording.hasMark();
     takeFacts(recording.machine, slowRoll);
     try {
-        takeForms(recording, track, {.span = span, .pointsPerTurn = pointsPerTurn}, slowRoll);
+        takeForms(recording, track, {.span = span, .pointsPerTurn = pointsPerTurn}, progress,
+                  slowRoll);
     } catch (const AnalysisError& error) {
         throw AnalysisError(std::string("the run-out cannot be taken: ") + error.what());
     }

@@ -44,8 +44,10 @@ struct SlowRoll {
 ///
 /// A stretch at more than `FastestSlowRoll` and one from an AC-coupled recording are taken, with a
 /// note. Throws AnalysisError that begins with "the run-out" if there is no keyphasor, if the span
-/// holds no whole turn, if there are gaps in all of them, or fewer than five samples a turn.
+/// holds no whole turn, if there are gaps in all of them, or fewer than five samples a turn; and
+/// ReadingCancelled.
 SlowRoll takeSlowRoll(const Recording& recording, const ShaftTrack& track,
-                      const TimeSpan& span = {}, int pointsPerTurn = 256);
+                      const TimeSpan& span = {}, int pointsPerTurn = 256,
+                      const ReadingProgress& progress = ReadingProgress());
 
 }  // namespace Rotavue::Workbench

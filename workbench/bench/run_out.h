@@ -33,9 +33,16 @@ struct RunOut {
 SlowRoll findRunOut(const PlaneSource& original, const RunOutSource& source,
                     const ReadingWatch& watch = {});
 
-/// What is left of a recording; it tells of the run-out as `PlaneSource::runOut`. Any thread may
-/// ask. Throws AnalysisError unless the run-out is of its bearing, `checkCompensable`.
+/// What is left of a recording; it tells of the run-out as `PlaneSource::runOut`. Takes as long as
+/// the recording is; any thread may ask. Throws AnalysisError unless the run-out is of its bearing,
+/// `checkCompensable`, and ReadingCancelled.
 std::shared_ptr<const PlaneSource> withoutRunOut(std::shared_ptr<const PlaneSource> original,
-                                                 RunOutSource source, SlowRoll slowRoll);
+                                                 RunOutSource source, SlowRoll slowRoll,
+                                                 const ReadingWatch& watch = {});
+
+/// Finds the run-out and takes it off. Throws as both.
+std::shared_ptr<const PlaneSource> withoutRunOut(std::shared_ptr<const PlaneSource> original,
+                                                 const RunOutSource& source,
+                                                 const ReadingWatch& watch = {});
 
 }  // namespace Rotavue::Workbench

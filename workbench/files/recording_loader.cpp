@@ -28,8 +28,7 @@ std::shared_ptr<const PlaneSource> compensatedPlane(const LoadRequest& request,
                                                     std::shared_ptr<const PlaneSource> original,
                                                     const ReadingWatch& watch) {
     try {
-        SlowRoll slowRoll = findRunOut(*original, *request.runOut, watch);
-        return withoutRunOut(std::move(original), *request.runOut, std::move(slowRoll));
+        return withoutRunOut(std::move(original), *request.runOut, watch);
     } catch (const AnalysisError& error) {
         throw std::runtime_error(request.file.string() + ": " + error.what());
     }

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
+#include <vector>
 
 #include "tests/workbench/analysis/analysis_refusal.h"
 #include "tests/workbench/analysis/generated_recording.h"
@@ -163,6 +165,44 @@ TEST(Compensation, ChangesNothingButTheProbes) {
     EXPECT_EQ(result.notes, recording.notes);
     EXPECT_EQ(result.machine.machine, "Kit");
     EXPECT_EQ(result.sampleRate, recording.sampleRate);
+}
+
+/// What is told of compensating 10,000 samples, 16 of a turn.
+std::vector<double> partsOf(CompensationForm form) {
+    const Recording recording = generate({.sampleRate = 800, .duration = 12.5, .firstTurn = 0.0});
+    SlowRoll slowRoll = peaks();
+    std::vector<double> parts;
+    compensated(recording, ShaftTrack(recording), slowRoll, form, ReadingProgress([&](double part) {
+                    parts.push_back(part);
+                    return true;
+                }));
+    return parts;
+}
+
+TEST(Compensation, TellsHowFarItIsToTheEnd) {
+    for (const CompensationForm form : {CompensationForm::Vector, CompensationForm::Waveform}) {
+        const std::vector<double> parts = partsOf(form);
+        // 4096 samples a word, and one word each for what is before and behind the marks.
+        EXPECT_GE(parts.size(), 3U);
+        EXPECT_LE(parts.size(), 5U);
+        EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+        EXPECT_LE(parts.front(), 0.4096);
+        EXPECT_EQ(parts.back(), 1.0);
+    }
+}
+
+TEST(Compensation, EndsAtTheNextBlockWhenItIsCancelled) {
+    const Recording turning = generate({.sampleRate = 800, .duration = 12.5, .firstTurn = 0.0});
+    Recording standing = turning;
+    standing.angle.edit().assign(standing.sampleCount(), 90.0);
+    for (const Recording& recording : {turning, standing}) {
+        int blocks = 0;
+        const ReadingProgress cancelled([&](double) { return ++blocks < 2; });
+        EXPECT_THROW(compensated(recording, ShaftTrack(recording), peaks(),
+                                 CompensationForm::Waveform, cancelled),
+                     ReadingCancelled);
+        EXPECT_EQ(blocks, 2);
+    }
 }
 
 TEST(Compensation, RefusesTheRunOutOfAnotherPlaceInOneLine) {

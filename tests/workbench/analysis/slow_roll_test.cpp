@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "tests/workbench/analysis/analysis_refusal.h"
 #include "tests/workbench/analysis/generated_recording.h"
@@ -33,6 +35,28 @@ SlowRoll taken(const Recording& recording, const TimeSpan& span = {}, int points
 void expectNear(const FieldVector& found, const FieldVector& truth) {
     EXPECT_NEAR(found.amplitude, truth.amplitude, 1e-6);
     EXPECT_NEAR(degreesApart(found.phaseLag, truth.phaseLag), 0.0, 1e-5);
+}
+
+TEST(SlowRoll, TellsHowFarItIsAndEndsAtTheNextWordWhenItIsCancelled) {
+    const Recording recording = generate(slowRotor());
+    const ShaftTrack track(recording);
+    std::vector<double> parts;
+    const auto takeWhile = [&](std::size_t words) {
+        parts.clear();
+        takeSlowRoll(recording, track, {}, 256, ReadingProgress([&](double part) {
+                         parts.push_back(part);
+                         return parts.size() < words;
+                     }));
+    };
+    takeWhile(100);
+    EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+    // For either form one word of the turns' angles; one of the fit, and one for each of 9 turns.
+    EXPECT_EQ(parts.size(), 2U + 1U + 9U);
+    const std::size_t words = parts.size();
+    for (std::size_t i = 1; i <= words; ++i) {
+        EXPECT_THROW(takeWhile(i), ReadingCancelled);
+        EXPECT_EQ(parts.size(), i);
+    }
 }
 
 TEST(SlowRoll, VectorIsTheFirstTwoOrdersOfEachProbe) {

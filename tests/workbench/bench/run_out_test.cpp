@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace Rotavue::Workbench {
 namespace {
@@ -46,6 +47,35 @@ TEST_F(RunOutTest, WithoutItsRecordingThereIsNone) {
 TEST_F(RunOutTest, WithoutATurnThereIsNone) {
     // A turn takes 20 ms.
     EXPECT_THROW(findRunOut(*original_, {.span = {0.1, 0.11}}), AnalysisError);
+}
+
+/// Goes on for that many words.
+ReadingWatch forWords(std::vector<double>& parts, std::size_t words) {
+    return [&parts, words](double part) {
+        parts.push_back(part);
+        return parts.size() < words;
+    };
+}
+
+TEST_F(RunOutTest, FindingAndTakingOffIsOneWayFromNothingToAll) {
+    std::vector<double> parts;
+    const auto left = withoutRunOut(original_, {.span = {0.1, 0.5}}, forWords(parts, 1000));
+    EXPECT_EQ(left->runOut->source.span.to, 0.5);
+    EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+    EXPECT_LT(parts.front(), 0.5);
+    EXPECT_EQ(parts.back(), 1.0);
+}
+
+TEST_F(RunOutTest, EndsAtTheNextWordWhereverItIsCancelled) {
+    const RunOutSource source{.span = {0.1, 0.5}};
+    std::vector<double> parts;
+    withoutRunOut(original_, source, forWords(parts, 1000));
+    const std::size_t words = parts.size();
+    for (std::size_t i = 1; i <= words; ++i) {
+        parts.clear();
+        EXPECT_THROW(withoutRunOut(original_, source, forWords(parts, i)), ReadingCancelled) << i;
+        EXPECT_EQ(parts.size(), i);
+    }
 }
 
 TEST_F(RunOutTest, OfAnotherBearingIsRefused) {
