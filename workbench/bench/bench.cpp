@@ -34,6 +34,7 @@ Bench::Bench(std::shared_ptr<HostKit::Module> module, QObject* parent)
 
 /// Commands hold planes, and planes hold controls of the module.
 Bench::~Bench() {
+    works_.clear();
     undo_.clear();
 }
 
@@ -207,18 +208,25 @@ void Bench::setCurveOptions(Plane& plane, CurveOptions options) {
         [before = plane.curveOptions()](Plane& one) { one.setCurveOptions(before); });
 }
 
-std::function<void(Plane&)> Bench::showing(const std::shared_ptr<const PlaneSource>& form) {
-    return [this, kept = forms_.keep(form)](Plane& plane) { plane.show(forms_.formOf(kept)); };
+void Bench::changeForm(Plane& plane, const QString& what,
+                       const std::shared_ptr<const PlaneSource>& form) {
+    undo_.push(new FormCommand(
+        what, shared(plane), forms_.keep(plane.sharedShown()), forms_.keep(form),
+        [this](Plane& one, const FormCommand::Form& kept) { showForm(one, kept); }));
+}
+
+void Bench::showForm(Plane& plane, const FormCommand::Form& kept) {
+    const auto form = steps_.isPassing() ? forms_.find(*kept) : forms_.formOf(kept);
+    if (form) apply(plane, [&](Plane& one) { one.show(form); });
 }
 
 void Bench::showCompensated(Plane& plane, std::shared_ptr<const PlaneSource> left) {
-    change(plane, tr("taking off run-out"), showing(left), showing(plane.sharedShown()));
+    changeForm(plane, tr("taking off run-out"), left);
 }
 
 void Bench::showOriginal(Plane& plane) {
     if (plane.sharedShown() == plane.sharedOriginal()) return;
-    change(plane, tr("run-out as measured"), showing(plane.sharedOriginal()),
-           showing(plane.sharedShown()));
+    changeForm(plane, tr("run-out as measured"), plane.sharedOriginal());
 }
 
 void Bench::changeSettings(Plane& plane, const QString& what, int run, const Settings& before,
@@ -287,7 +295,7 @@ int Bench::beginWork(Work work) {
 }
 
 void Bench::endWork(int number) {
-    works_.erase(number);
+    if (works_.erase(number) == 0) return;
     if (works_.empty() && !isWorking()) lookForWork();
 }
 
@@ -312,6 +320,7 @@ void Bench::lookForWork() {
         Q_EMIT curvesChanged(plane.get());
         Q_EMIT notesChanged(plane.get());
     }
+    deliverWork();
     if (tellOfCurves()) return;
     if (!works_.empty()) {
         const Work& work = works_.begin()->second;
@@ -320,6 +329,16 @@ void Bench::lookForWork() {
     }
     Q_EMIT workEnded();
     work_.stop();
+}
+
+// What is delivered may begin and end other work.
+void Bench::deliverWork() {
+    const auto isDone = [](const auto& entry) { return entry.second.isDone(); };
+    for (auto found = std::find_if(works_.begin(), works_.end(), isDone); found != works_.end();
+         found = std::find_if(works_.begin(), works_.end(), isDone)) {
+        const Work work = std::move(works_.extract(found).mapped());
+        work.deliver();
+    }
 }
 
 bool Bench::tellOfCurves() {

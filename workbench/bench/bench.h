@@ -6,6 +6,7 @@
 #include "workbench/bench/plane_source.h"
 #include "workbench/bench/plane_titles.h"
 #include "workbench/bench/playback.h"
+#include "workbench/bench/undo_steps.h"
 
 #include <QObject>
 #include <QString>
@@ -121,10 +122,12 @@ public:
         QString what;                  ///< "Bearing 1 without run-out"
         std::function<double()> part;  ///< how much of it is done, 0 to 1
         std::function<void()> cancel;  ///< lets go of it
+        std::function<bool()> isDone = [] { return false; };
+        std::function<void()> deliver = {};  ///< called once, when it is done; it is ended by then
     };
 
-    /// `worked` tells of it until it is ended or cancelled; the number is what ends it. Its
-    /// functions are called on the bench's thread.
+    /// `worked` tells of it until it is done, ended or cancelled; the number is what ends it. Its
+    /// functions are called on the bench's thread. bench_task.h has work on a thread of its own.
     int beginWork(Work work);
 
     /// Nothing happens for work that is over.
@@ -141,8 +144,12 @@ public:
 
     // The rest.
 
-    /// Holds the newest hundred steps: one of them can be all that keeps a closed recording.
+    /// Holds the newest hundred steps: one of them can be all that keeps a closed recording. Who
+    /// steps here itself, and not by `steps`, waits for forms that have to be made anew.
     QUndoStack& undoStack() { return undo_; }
+
+    /// Undo and redo.
+    UndoSteps& steps() { return steps_; }
 
     /// The number of the colour scheme that planes are drawn in, scene/scheme_colors.h.
     std::int32_t scheme() const { return scheme_; }
@@ -194,8 +201,13 @@ private:
     HostState hostState() const;
     void watchWork();
     void lookForWork();
+    void deliverWork();
     bool tellOfCurves();
-    std::function<void(Plane&)> showing(const std::shared_ptr<const PlaneSource>& form);
+
+    /// Pushes that a plane shows another form of its recording.
+    void changeForm(Plane& plane, const QString& what,
+                    const std::shared_ptr<const PlaneSource>& form);
+    void showForm(Plane& plane, const FormCommand::Form& kept);
 
     std::shared_ptr<HostKit::Module> module_;
     std::vector<std::shared_ptr<Plane>> planes_;
@@ -210,6 +222,7 @@ private:
     std::map<int, Work> works_;
     int nextWork_ = 0;
     QTimer work_;
+    UndoSteps steps_{*this, undo_, forms_};
 };
 
 }  // namespace Rotavue::Workbench

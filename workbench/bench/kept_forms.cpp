@@ -14,12 +14,23 @@ std::shared_ptr<KeptForms::Kept> KeptForms::keep(const std::shared_ptr<const Pla
     return std::make_shared<Kept>(Kept{form->runOut->original, form->runOut, form});
 }
 
-std::shared_ptr<const PlaneSource> KeptForms::formOf(const std::shared_ptr<Kept>& kept) {
-    if (!kept->runOut) return kept->original;
-    auto form = kept->made.lock();
-    if (!form) form = withoutRunOut(kept->original, kept->runOut->source, kept->runOut->slowRoll);
-    kept->made = form;
+std::shared_ptr<const PlaneSource> KeptForms::find(const Kept& kept) {
+    if (!kept.runOut) return kept.original;
+    auto form = kept.made.lock();
+    if (form) hold(form);
+    return form;
+}
+
+void KeptForms::take(Kept& kept, const std::shared_ptr<const PlaneSource>& form) {
+    kept.made = form;
     hold(form);
+}
+
+std::shared_ptr<const PlaneSource> KeptForms::formOf(const std::shared_ptr<Kept>& kept) {
+    auto form = find(*kept);
+    if (form) return form;
+    form = madeAnew(kept->original, *kept->runOut);
+    take(*kept, form);
     return form;
 }
 
@@ -27,6 +38,11 @@ void KeptForms::hold(std::shared_ptr<const PlaneSource> form) {
     std::erase(held_, form);
     held_.push_back(std::move(form));
     if (held_.size() > MostHeld) held_.pop_front();
+}
+
+std::shared_ptr<const PlaneSource> madeAnew(const std::shared_ptr<const PlaneSource>& original,
+                                            const RunOut& runOut, const ReadingWatch& watch) {
+    return withoutRunOut(original, runOut.source, runOut.slowRoll, watch);
 }
 
 }  // namespace Rotavue::Workbench

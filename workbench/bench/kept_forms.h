@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/bench/plane_source.h"
+#include "workbench/recording/reading_watch.h"
 
 #include <cstddef>
 #include <deque>
@@ -25,6 +26,14 @@ public:
     };
 
     std::shared_ptr<Kept> keep(const std::shared_ptr<const PlaneSource>& form);
+
+    /// The form, if anybody holds it; null where it has to be made anew.
+    std::shared_ptr<const PlaneSource> find(const Kept& kept);
+
+    /// Takes one that was made anew.
+    void take(Kept& kept, const std::shared_ptr<const PlaneSource>& form);
+
+    /// The form; makes it anew where that must be.
     std::shared_ptr<const PlaneSource> formOf(const std::shared_ptr<Kept>& kept);
 
     /// Holds none any more: no step of undo will ask for one.
@@ -35,5 +44,10 @@ private:
 
     std::deque<std::shared_ptr<const PlaneSource>> held_;  ///< the newest last
 };
+
+/// What is left of that recording without that run-out. Any thread may ask. Throws
+/// ReadingCancelled.
+std::shared_ptr<const PlaneSource> madeAnew(const std::shared_ptr<const PlaneSource>& original,
+                                            const RunOut& runOut, const ReadingWatch& watch = {});
 
 }  // namespace Rotavue::Workbench

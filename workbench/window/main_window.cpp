@@ -4,6 +4,7 @@
 #include "workbench/files/usable.h"
 #include "workbench/window/about_box.h"
 #include "workbench/window/app_settings.h"
+#include "workbench/window/undo_actions.h"
 #include "workbench/window/window_parts.h"
 
 #include <QActionGroup>
@@ -100,11 +101,7 @@ void MainWindow::makeMenus() {
     helpMenu_ = menuBar()->addMenu(tr("&Help"));
     for (QMenu* menu : {fileMenu_, editMenu_, viewMenu_, timeMenu_, helpMenu_})
         menu->setToolTipsVisible(true);
-    QAction* undo = bench_.undoStack().createUndoAction(this);
-    undo->setShortcut(QKeySequence::Undo);
-    QAction* redo = bench_.undoStack().createRedoAction(this);
-    redo->setShortcut(QKeySequence::Redo);
-    editMenu_->addActions({undo, redo});
+    addUndoActions(*editMenu_, bench_.steps());
     editMenu_->addSeparator();
     timeMenu_->addActions(transport_.timeActions());
 }

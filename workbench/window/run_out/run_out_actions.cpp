@@ -1,15 +1,14 @@
 #include "workbench/window/run_out/run_out_actions.h"
 
+#include "workbench/bench/bench_task.h"
 #include "workbench/files/usable.h"
 #include "workbench/window/run_out/held_plane.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeySequence>
-#include <QPointer>
 #include <QWidget>
 
-#include <exception>
 #include <utility>
 
 namespace Rotavue::Workbench {
@@ -20,7 +19,7 @@ std::optional<CompensationForm> compensationOf(const Plane& plane) {
 }
 
 RunOutActions::RunOutActions(Bench& bench, MarkedPlane marked, QObject* parent)
-    : QObject(parent), bench_(bench), marked_(std::move(marked)), forms_(this) {
+    : QObject(parent), bench_(&bench), marked_(std::move(marked)), forms_(this) {
     const auto name = [this](QAction& action, const char* objectName) {
         action.setObjectName(objectName);
         action.setParent(this);
@@ -47,23 +46,25 @@ RunOutActions::RunOutActions(Bench& bench, MarkedPlane marked, QObject* parent)
     connect(&none, &QAction::triggered, this, [this] { choose(std::nullopt); });
     connect(&vector, &QAction::triggered, this, [this] { choose(CompensationForm::Vector); });
     connect(&waveform, &QAction::triggered, this, [this] { choose(CompensationForm::Waveform); });
-    connect(&bench_, &Bench::curvesChanged, this, [this] { refresh(); });
-    connect(&bench_, &Bench::planesChanged, this, [this] { refresh(); });
+    connect(&bench, &Bench::curvesChanged, this, [this] { refresh(); });
+    connect(&bench, &Bench::planesChanged, this, [this] { refresh(); });
     refresh();
 }
 
+/// The window's bench goes before its actions.
 RunOutActions::~RunOutActions() {
-    for (auto& entry : works_)
-        entry.second.progress->cancelled = true;
+    if (!bench_) return;
+    for (const auto& entry : works_)
+        bench_->endWork(entry.second);
 }
 
 std::shared_ptr<Plane> RunOutActions::shared(const Plane* plane) const {
-    return heldPlane(bench_, plane);
+    return heldPlane(*bench_, plane);
 }
 
 void RunOutActions::refresh() {
     forgetGone();
-    for (const auto& one : bench_.planes())
+    for (const auto& one : bench_->planes())
         if (const auto& taken = one->shown().runOut) known_[one] = {taken->source, taken->slowRoll};
     const auto plane = shared(marked_.plane());
     const bool known = plane && known_.contains(plane);
@@ -83,50 +84,26 @@ CompensationForm RunOutActions::formFor(const Plane& plane) const {
     return compensationOf(plane).value_or(CompensationForm::Vector);
 }
 
-RunOutActions::Result RunOutActions::resultOf(const Source& original, const Maker& make,
-                                              Progress& progress) {
-    const ReadingWatch watch = [&progress](double part) {
-        progress.part = part;
-        return !progress.cancelled;
-    };
-    try {
-        Source left = make(original, watch);
-        return progress.cancelled ? Result{} : Result{.left = std::move(left)};
-    } catch (const ReadingCancelled&) {
-        return {};
-    } catch (const std::exception& error) {
-        return {.left = nullptr, .failure = error.what()};
-    }
-}
-
+// The plane itself belongs to this thread; what the worker reads outlives it there.
 void RunOutActions::start(Plane& plane, Maker make) {
     const std::weak_ptr<Plane> place = shared(&plane);
+    const Source original = plane.sharedOriginal();
     cancel(plane);
-    Work& work = works_[place];
-    work.progress = std::make_shared<Progress>();
-    const auto progress = work.progress;
-    const int number = work.number = bench_.beginWork(
-        {.what = tr("%1 without run-out").arg(QString::fromStdString(bench_.titleOf(plane).text())),
-         .part = [progress] { return progress->part.load(); },
-         .cancel =
-             [actions = QPointer(this), progress] {
-                 progress->cancelled = true;
-                 if (actions) actions->refresh();
-             }});
-    // The plane itself belongs to this thread; what the worker reads outlives it there.
-    work.job->start([this, place, make = std::move(make), progress, number,
-                     original = plane.sharedOriginal()]() -> LatestJob::Deliver {
-        const Result result = resultOf(original, make, *progress);
-        return [this, place, original, result, progress, number] {
-            bench_.endWork(number);
-            if (!progress->cancelled) deliver(place.lock(), original, result);
-        };
-    });
+    bench_->steps().cancel();
+    works_[place] = beginTask<Source>(
+        *bench_,
+        {.what =
+             tr("%1 without run-out").arg(QString::fromStdString(bench_->titleOf(plane).text())),
+         .make = [make = std::move(make),
+                  original](const ReadingWatch& watch) { return make(original, watch); },
+         .done = [this, place, original](const Source& left) { takeLeft(place, original, left); },
+         .failed = [this, place](const std::string& why) { tellOf(place, why); },
+         .cancelled = [this] { refresh(); }});
 }
 
 void RunOutActions::find(Plane& plane, const RunOutSource& source) {
     start(plane, [source](const Source& original, const ReadingWatch& watch) {
-        return withoutRunOut(original, source, findRunOut(*original, source, watch));
+        return withoutRunOut(original, source, watch);
     });
 }
 
@@ -140,7 +117,7 @@ bool RunOutActions::showMade(Plane& plane, const RunOutSource& source) {
         if (!left || left->runOut->source != source) continue;
         if (left->runOut->original != plane.sharedOriginal()) continue;
         cancel(plane);
-        if (plane.sharedShown() != left) bench_.showCompensated(plane, left);
+        if (plane.sharedShown() != left) bench_->showCompensated(plane, left);
         return true;
     }
     return false;
@@ -149,34 +126,35 @@ bool RunOutActions::showMade(Plane& plane, const RunOutSource& source) {
 /// What is still being made for a plane is no longer wanted; whatever is wished next wins.
 void RunOutActions::cancel(const Plane& plane) {
     const auto found = works_.find(shared(&plane));
-    if (found == works_.end() || !found->second.job->isRunning()) return;
-    const Work& work = found->second;
-    work.job->forget();
-    work.progress->cancelled = true;
-    bench_.endWork(work.number);
+    if (found == works_.end()) return;
+    bench_->endWork(found->second);
+    works_.erase(found);
 }
 
-/// The job of a plane that is gone may still run: it goes later.
 void RunOutActions::forgetGone() {
-    std::erase_if(made_, [](const auto& entry) { return entry.first.expired(); });
+    const auto isGone = [](const auto& entry) { return entry.first.expired(); };
+    std::erase_if(made_, isGone);
     for (auto& entry : made_)
         std::erase_if(entry.second, [](const auto& one) { return one.expired(); });
-    std::erase_if(known_, [](const auto& entry) { return entry.first.expired(); });
-    std::erase_if(works_, [](const auto& entry) {
-        return entry.first.expired() && !entry.second.job->isRunning();
-    });
+    std::erase_if(known_, isGone);
+    for (const auto& entry : works_)
+        if (isGone(entry)) bench_->endWork(entry.second);
+    std::erase_if(works_, isGone);
 }
 
-void RunOutActions::deliver(const std::shared_ptr<Plane>& plane, const Source& original,
-                            const Result& result) {
-    if (!plane || !bench_.has(*plane) || plane->sharedOriginal() != original) return;
-    if (result.left) {
-        made_[plane].push_back(result.left);
-        bench_.showCompensated(*plane, result.left);
-    } else {
-        bench_.report(
-            QString::fromStdString(bench_.titleOf(*plane).text() + ": " + result.failure));
-    }
+void RunOutActions::takeLeft(const std::weak_ptr<Plane>& place, const Source& original,
+                             const Source& left) {
+    const auto plane = place.lock();
+    if (!plane || !bench_->has(*plane) || plane->sharedOriginal() != original) return;
+    made_[plane].push_back(left);
+    bench_->showCompensated(*plane, left);
+    refresh();
+}
+
+void RunOutActions::tellOf(const std::weak_ptr<Plane>& place, const std::string& failure) {
+    const auto plane = place.lock();
+    if (!plane || !bench_->has(*plane)) return;
+    bench_->report(QString::fromStdString(bench_->titleOf(*plane).text() + ": " + failure));
     refresh();
 }
 
@@ -191,7 +169,7 @@ void RunOutActions::takeMarked() {
 void RunOutActions::askForFile() {
     const auto plane = shared(marked_.plane());
     if (!plane) return;
-    const auto name = QString::fromStdString(bench_.titleOf(*plane).text());
+    const auto name = QString::fromStdString(bench_->titleOf(*plane).text());
     const QString beside =
         QFileInfo(QString::fromStdString(plane->original().recording.file.string())).absolutePath();
     const QString file =
@@ -200,8 +178,8 @@ void RunOutActions::askForFile() {
                                      tr("Recordings (*.csv *.txt *.tsv *.wav);;All files (*)"));
     if (file.isEmpty()) return;
     folder_ = QFileInfo(file).absolutePath();
-    if (!bench_.has(*plane))
-        return bench_.report(tr("%1 is not open any more: no run-out is taken off").arg(name));
+    if (!bench_->has(*plane))
+        return bench_->report(tr("%1 is not open any more: no run-out is taken off").arg(name));
     find(*plane, {.form = formFor(*plane), .slowRoll = file.toStdString()});
 }
 
@@ -216,14 +194,14 @@ void RunOutActions::choose(std::optional<CompensationForm> form) {
     if (plane == nullptr) return;
     cancel(*plane);
     if (form == compensationOf(*plane)) return refresh();
-    if (!form) return bench_.showOriginal(*plane);
+    if (!form) return bench_->showOriginal(*plane);
     const auto known = known_.find(shared(plane));
     if (known == known_.end()) return refresh();
     Known runOut = known->second;
     runOut.source.form = *form;
     if (showMade(*plane, runOut.source)) return;
-    start(*plane, [runOut](const Source& original, const ReadingWatch& /*watch*/) {
-        return withoutRunOut(original, runOut.source, runOut.slowRoll);
+    start(*plane, [runOut](const Source& original, const ReadingWatch& watch) {
+        return withoutRunOut(original, runOut.source, runOut.slowRoll, watch);
     });
 }
 

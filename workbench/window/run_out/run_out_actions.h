@@ -2,14 +2,13 @@
 
 #include "workbench/bench/bench.h"
 #include "workbench/bench/run_out.h"
-#include "workbench/window/docks/latest_job.h"
 #include "workbench/window/run_out/marked_plane.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QObject>
+#include <QPointer>
 
-#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -48,23 +47,6 @@ private:
     /// Makes what is left of an original, off the window's thread.
     using Maker = std::function<Source(const Source& original, const ReadingWatch& watch)>;
 
-    struct Result {
-        Source left;               ///< null where it failed
-        std::string failure = {};  ///< empty where it was cancelled
-    };
-
-    /// What the worker and the window's thread tell each other.
-    struct Progress {
-        std::atomic<double> part{0.0};
-        std::atomic<bool> cancelled{false};
-    };
-
-    struct Work {
-        std::unique_ptr<LatestJob> job = std::make_unique<LatestJob>();
-        std::shared_ptr<Progress> progress = {};  ///< of what was begun last
-        int number = 0;                           ///< of that among the bench's work
-    };
-
     /// Enough to take it off again, without the recordings that it was of.
     struct Known {
         RunOutSource source;
@@ -75,12 +57,12 @@ private:
     template <class Value>
     using OfPlane = std::map<std::weak_ptr<Plane>, Value, std::owner_less<>>;
 
-    static Result resultOf(const Source& original, const Maker& make, Progress& progress);
     std::shared_ptr<Plane> shared(const Plane* plane) const;
     CompensationForm formFor(const Plane& plane) const;
     void start(Plane& plane, Maker make);
     void find(Plane& plane, const RunOutSource& source);
-    void deliver(const std::shared_ptr<Plane>& plane, const Source& original, const Result& result);
+    void takeLeft(const std::weak_ptr<Plane>& place, const Source& original, const Source& left);
+    void tellOf(const std::weak_ptr<Plane>& place, const std::string& failure);
     bool showMade(Plane& plane, const RunOutSource& source);
     void cancel(const Plane& plane);
     void forgetGone();
@@ -88,12 +70,12 @@ private:
     void askForFile();
     void choose(std::optional<CompensationForm> form);
 
-    Bench& bench_;
+    QPointer<Bench> bench_;
     MarkedPlane marked_;
     QActionGroup forms_;
     QString folder_;        ///< of the last recording of slow roll; empty: beside the plane's
     OfPlane<Known> known_;  ///< what was taken off last
-    OfPlane<Work> works_;   ///< of each plane, the newest counts
+    OfPlane<int> works_;    ///< the number of each plane's among the bench's work
     OfPlane<std::vector<std::weak_ptr<const PlaneSource>>> made_;  ///< what undo may still hold
 };
 
