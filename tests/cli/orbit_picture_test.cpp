@@ -48,7 +48,7 @@ private:
     public:
         explicit Sheet(HostKit::MemoryHost& host) : host_(host) {}
         Meridax::Host::Ref<Meridax::Host::IHostCanvas> canvas() override { return host_.canvas(); }
-        std::string finish() override { return {}; }
+        std::string finish(const ReadingProgress&) override { return {}; }
 
     private:
         HostKit::MemoryHost& host_;

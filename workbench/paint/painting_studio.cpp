@@ -64,9 +64,9 @@ public:
         return Host::Ref<Host::IHostCanvas>::share(&*canvas_);
     }
 
-    std::string finish() override {
+    std::string finish(const ReadingProgress& progress) override {
         canvas_.reset();
-        return file_->finish().toStdString();
+        return file_->finish(progress).toStdString();
     }
 
 private:

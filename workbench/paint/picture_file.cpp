@@ -43,9 +43,9 @@ public:
 
     ~PngFile() override { endPainting(); }
 
-    QByteArray finish() override {
+    QByteArray finish(const ReadingProgress& progress) override {
         endPainting();
-        return toPngFile(image_);
+        return toPngFile(image_, progress);
     }
 
 private:
@@ -66,7 +66,7 @@ public:
 
     ~SvgFile() override { endPainting(); }
 
-    QByteArray finish() override {
+    QByteArray finish(const ReadingProgress&) override {
         endPainting();
         return file_.data();
     }
@@ -93,7 +93,7 @@ public:
 
     ~PdfFile() override { endPainting(); }
 
-    QByteArray finish() override {
+    QByteArray finish(const ReadingProgress&) override {
         endPainting();
         writer_.reset();
         QByteArray bytes = file_.data();

@@ -35,8 +35,9 @@ public:
 
     QPainter& painter() { return painter_; }
 
-    /// Ends the painting and gives the bytes of the file. Called once.
-    virtual QByteArray finish() = 0;
+    /// Ends the painting and gives the bytes of the file. Called once. Throws `ReadingCancelled`.
+    virtual QByteArray finish(const ReadingProgress& progress) = 0;
+    QByteArray finish() { return finish(ReadingProgress()); }
 
 protected:
     PictureFile() = default;

@@ -2,6 +2,7 @@
 
 #include "plugin/framework/host/drawing/host_canvas.h"
 #include "plugin/framework/host/ref.h"
+#include "workbench/recording/reading_watch.h"
 
 #include <cstdint>
 #include <memory>
@@ -61,8 +62,10 @@ public:
     virtual Meridax::Host::Ref<Meridax::Host::IHostCanvas> canvas() = 0;
 
     /// Ends the painting and gives the bytes of the file. Called once. The same painting gives the
-    /// same bytes: no file holds a date. Raises `std::runtime_error` where they cannot be made.
-    virtual std::string finish() = 0;
+    /// same bytes: no file holds a date. Raises `std::runtime_error` where they cannot be made,
+    /// and `ReadingCancelled`.
+    virtual std::string finish(const ReadingProgress& progress) = 0;
+    std::string finish() { return finish(ReadingProgress()); }
 };
 
 /// Where pictures are painted.

@@ -16,6 +16,9 @@ constexpr int BitsOfAColor = 8;
 // Of 9; the next ones take twice the time for a tenth of the bytes.
 constexpr int Compression = 3;
 
+// Rows between two looks whether it shall go on: at most some milliseconds.
+constexpr int BetweenWords = 64;
+
 /// The library reports a failure by a jump over the frames of its own functions, and asks for no
 /// object with a destructor there.
 class PngWriter {
@@ -27,13 +30,15 @@ public:
     PngWriter(const PngWriter&) = delete;
     PngWriter& operator=(const PngWriter&) = delete;
 
-    bool write(const QImage& image) {
+    bool write(const QImage& image, const ReadingProgress& progress) {
         if (info_ == nullptr) return false;
         if (setjmp(png_jmpbuf(png_)) != 0) return false;  // NOLINT(cert-err52-cpp)
         png_set_write_fn(png_, &file_, append, nullptr);
         begin(image);
-        for (int y = 0; y < image.height(); ++y)
+        for (int y = 0; y < image.height(); ++y) {
+            if (y % BetweenWords == 0) progress.reach(static_cast<double>(y) / image.height());
             png_write_row(png_, image.constScanLine(y));
+        }
         png_write_end(png_, info_);
         return true;
     }
@@ -74,9 +79,9 @@ private:
 
 }  // namespace
 
-QByteArray toPngFile(const QImage& image) {
+QByteArray toPngFile(const QImage& image, const ReadingProgress& progress) {
     PngWriter writer;
-    if (!writer.write(image)) throw PaintError("no PNG file can be made");
+    if (!writer.write(image, progress)) throw PaintError("no PNG file can be made");
     return writer.file();
 }
 

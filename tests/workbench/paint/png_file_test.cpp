@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <vector>
 
 namespace Rotavue::Workbench {
 namespace {
@@ -42,6 +43,24 @@ TEST(PngFile, KnowsItsSizeOnPaper) {
     const QImage read = readBack(toPngFile(image));
     EXPECT_EQ(read.dotsPerMeterX(), 3780);
     EXPECT_EQ(read.dotsPerMeterY(), 1000);
+}
+
+TEST(PngFile, TellsHowFarItIsAndEndsAtTheNextWordWhenItIsCancelled) {
+    QImage image(10, 300, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    std::vector<double> parts;
+    const auto makeWhile = [&](std::size_t words) {
+        parts.clear();
+        toPngFile(image, ReadingProgress([&](double part) {
+                      parts.push_back(part);
+                      return parts.size() < words;
+                  }));
+    };
+    makeWhile(100);
+    // After every 64 of 300 rows.
+    EXPECT_EQ(parts, (std::vector<double>{0, 64 / 300.0, 128 / 300.0, 192 / 300.0, 256 / 300.0}));
+    EXPECT_THROW(makeWhile(3), ReadingCancelled);
+    EXPECT_EQ(parts.size(), 3U);
 }
 
 TEST(PngFile, OfAnEvenGroundIsSmall) {
