@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QPixmap>
+#include <QProgressBar>
 #include <QSettings>
 #include <QVBoxLayout>
 
@@ -25,6 +26,10 @@ namespace {
 constexpr int PreviewSide = 460;
 constexpr int PreviewDelay = 120;  // ms, so that a spin box can be turned
 constexpr double LargestEntry = 99'999.0;
+constexpr int ProgressSteps = 1000;
+constexpr int LookInterval = 10;    // ms; what is saved is told so much later at the most
+constexpr int ProgressDelay = 500;  // ms: what is quick shows no progress
+constexpr double PartOfPainting = 0.9;
 
 QString folderOf(QSettings& place, const QString& usual) {
     const QString folder = place.value("folder", usual).toString();
@@ -61,11 +66,19 @@ ExportDialog::ExportDialog(ExportSubject subject, QWidget* parent)
     columns->addWidget(&preview);
     auto* right = new QVBoxLayout;
     columns->addLayout(right, 1);
-    right->addLayout(makeForm());
+    form_ = new QWidget;
+    form_->setLayout(makeForm());
+    form_->layout()->setContentsMargins(0, 0, 0, 0);
+    right->addWidget(form_);
     right->addStretch(1);
     message.setWordWrap(true);
     message.setTextFormat(Qt::PlainText);
     right->addWidget(&message);
+    progress_ = new QProgressBar;
+    progress_->setObjectName("exportProgress");
+    progress_->setRange(0, ProgressSteps);
+    progress_->hide();
+    right->addWidget(progress_);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     buttons->addButton(&save, QDialogButtonBox::AcceptRole);
     right->addWidget(buttons);
@@ -128,6 +141,8 @@ void ExportDialog::connectWidgets() {
     soon_.setSingleShot(true);
     soon_.setInterval(PreviewDelay);
     connect(&soon_, &QTimer::timeout, this, &ExportDialog::showPreview);
+    look_.setInterval(LookInterval);
+    connect(&look_, &QTimer::timeout, this, &ExportDialog::lookForFile);
     connect(&format, &QComboBox::currentIndexChanged, this, &ExportDialog::changeEnding);
     connect(&unit, &QComboBox::currentIndexChanged, this, &ExportDialog::changeUnit);
     for (QDoubleSpinBox* side : {&width, &height})
@@ -216,8 +231,8 @@ void ExportDialog::showPreview() try {
     if (!faultOf(settings()).isEmpty()) return;
     const double ratio = devicePixelRatioF();
     const PictureOrder order = previewOf(orderOf(settings()), ratio);
-    QImage image =
-        QImage::fromData(QByteArray::fromStdString(subject_.painter(order, settings())), "png");
+    QImage image = QImage::fromData(
+        QByteArray::fromStdString(subject_.painter(order, settings())(ReadingProgress())), "png");
     image.setDevicePixelRatio(ratio);
     preview.setPixmap(QPixmap::fromImage(image));
 } catch (const std::exception& error) {
@@ -249,22 +264,62 @@ bool ExportDialog::mayWrite() {
 }
 
 void ExportDialog::saveFile() try {
-    if (!mayWrite()) return;
-    const QString path = file.text();
-    const std::string bytes = subject_.painter(orderOf(settings()), settings());
-    if (const std::error_code fault = replaceFile(path.toStdString(), bytes)) {
-        say(tr("%1 cannot be written: %2.").arg(path, QString::fromStdString(fault.message())));
-        return;
-    }
+    if (isSaving() || !mayWrite()) return;
+    savingTo_ = file.text();
+    saving_ = std::make_unique<Saving>(
+        [paint = subject_.painter(orderOf(settings()), settings()),
+         path = std::filesystem::path(savingTo_.toStdString())](const ReadingWatch& watch) {
+            const ReadingProgress progress(watch);
+            const std::string bytes = paint(progress.between(0.0, PartOfPainting));
+            progress.reach(PartOfPainting);
+            return replaceFile(path, bytes);
+        });
+    since_.start();
+    look_.start();
+    form_->setEnabled(false);
+    save.setEnabled(false);
+    say({});
+} catch (const std::exception& error) {
+    say(QString::fromUtf8(error.what()));
+}
+
+void ExportDialog::lookForFile() {
+    if (!isSaving()) return;
+    if (saving_->isDone()) return takeSaved();
+    progress_->setValue(static_cast<int>(saving_->part() * ProgressSteps));
+    if (since_.elapsed() >= ProgressDelay) progress_->show();
+}
+
+void ExportDialog::takeSaved() try {
+    const auto saving = std::move(saving_);
+    look_.stop();
+    progress_->hide();
+    form_->setEnabled(true);
+    changed();
+    if (const std::error_code fault = saving->take())
+        return say(tr("%1 cannot be written: %2.")
+                       .arg(savingTo_, QString::fromStdString(fault.message())));
+    remember();
+    saved_ = savingTo_;
+    accept();
+} catch (const ReadingCancelled&) {
+    say(tr("Cancelled: nothing is saved."));
+} catch (const std::exception& error) {
+    say(QString::fromUtf8(error.what()));
+}
+
+void ExportDialog::remember() {
     const auto memory = subject_.memory();
     QSettings& place = *memory;
     place.beginGroup("export/" + subject_.key);
     store(settings(), place);
-    place.setValue("folder", QFileInfo(path).absolutePath());
-    saved_ = path;
-    accept();
-} catch (const std::exception& error) {
-    say(QString::fromUtf8(error.what()));
+    place.setValue("folder", QFileInfo(savingTo_).absolutePath());
+}
+
+void ExportDialog::reject() {
+    if (!isSaving()) return QDialog::reject();
+    saving_->cancel();
+    say(tr("Cancelling..."));
 }
 
 }  // namespace Rotavue::Workbench

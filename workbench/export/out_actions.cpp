@@ -1,17 +1,18 @@
 #include "workbench/export/out_actions.h"
 
 #include "host_kit/memory/memory_clipboard.h"
+#include "workbench/bench/bench_task.h"
 #include "workbench/bench/safe_name.h"
 #include "workbench/bench/source_files.h"
 #include "workbench/export/plane_picture.h"
 #include "workbench/export/plane_report.h"
 #include "workbench/files/usable.h"
-#include "workbench/paint/painting_studio.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
 #include <QKeySequence>
+#include <QPointer>
 #include <QSettings>
 
 #include <algorithm>
@@ -58,9 +59,18 @@ QString folderOf(const Plane& plane) {
     return QString::fromStdString(folder.string());
 }
 
-std::string paintPlane(Plane& plane, Bench& bench, const PictureOrder& order, bool withHeader) {
-    PaintingStudio studio;
-    return PlanePicture(plane, bench).paint(studio, order, withHeader);
+PaintFile painterOf(DrawnPicture picture) {
+    return [picture = std::make_shared<const DrawnPicture>(std::move(picture))](
+               const ReadingProgress& progress) { return paint(*picture, progress); };
+}
+
+PaintFile painterOf(DrawnReport report) {
+    return [report = std::make_shared<const DrawnReport>(std::move(report))](
+               const ReadingProgress& progress) { return paintReport(*report, progress); };
+}
+
+PaintFile drawPlane(Plane& plane, Bench& bench, const PictureOrder& order, bool withHeader) {
+    return painterOf(PlanePicture(plane, bench).drawn(order, withHeader));
 }
 
 void prepare(QAction& action, const char* name, const QString& text, const QKeySequence& keys,
@@ -150,8 +160,28 @@ void OutActions::putPicture() {
     ExportSettings settings = stored(place, {});
     settings.format = PictureFormat::Png;
     if (!faultOf(settings).isEmpty()) settings = {};
-    const std::string png = paintPlane(*plane, bench_, orderOf(settings), settings.header);
-    QGuiApplication::clipboard()->setImage(QImage::fromData(QByteArray::fromStdString(png), "png"));
+    bench_.endWork(copying_);  // the newest wish counts
+    copying_ = beginTask<QImage>(
+        bench_,
+        {.what = tr("the picture of %1").arg(QString::fromStdString(bench_.titleOf(*plane).text())),
+         .make =
+             [paint = drawPlane(*plane, bench_, orderOf(settings), settings.header)](
+                 const ReadingWatch& watch) {
+                 const std::string png = paint(ReadingProgress(watch));
+                 return QImage::fromData(QByteArray::fromStdString(png), "png");
+             },
+         .done =
+             [here = QPointer(this)](const QImage& image) {
+                 if (here) here->put(image);
+             },
+         .failed =
+             [here = QPointer(this)](const std::string& why) {
+                 if (here) here->bench_.report(QString::fromStdString(why));
+             }});
+}
+
+void OutActions::put(const QImage& picture) {
+    QGuiApplication::clipboard()->setImage(picture);
     tell_(tr("The picture is on the clipboard."));
 }
 
@@ -164,7 +194,7 @@ void OutActions::openPicture() {
           .name = fileName(bench_.titleOf(*plane).text()),
           .usual = {},
           .painter = [this, plane](const PictureOrder& order, const ExportSettings& settings) {
-              return paintPlane(*plane, bench_, order, settings.header);
+              return drawPlane(*plane, bench_, order, settings.header);
           }});
 }
 
@@ -177,7 +207,7 @@ void OutActions::openReport() {
           .usual = A4,
           .planes = true,
           .painter = [this](const PictureOrder& order, const ExportSettings& settings) {
-              return paintPlaneReport(bench_, order, settings.sameScale);
+              return painterOf(drawPlaneReport(bench_, order, settings.sameScale));
           }});
 }
 

@@ -4,6 +4,7 @@
 #include "workbench/export/export_dialog.h"
 
 #include <QAction>
+#include <QImage>
 #include <QObject>
 #include <QStringList>
 #include <QWidget>
@@ -42,6 +43,7 @@ private:
     std::shared_ptr<Plane> current() const;
     void putNumbers();
     void putPicture();
+    void put(const QImage& picture);
     void openPicture();
     void openReport();
     void open(ExportSubject subject);
@@ -56,6 +58,7 @@ private:
     OpenMemory memory_;
     QWidget& window_;
     std::function<QStringList()> kept_ = [] { return QStringList(); };
+    int copying_ = -1;  ///< the number of the copied picture among the bench's work
 };
 
 }  // namespace Rotavue::Workbench

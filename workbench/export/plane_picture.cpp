@@ -1,6 +1,7 @@
 #include "workbench/export/plane_picture.h"
 
 #include "workbench/bench/axis_limits.h"
+#include "workbench/paint/painting_studio.h"
 #include "workbench/scene/bearing_facts.h"
 #include "workbench/scene/fact_words.h"
 #include "workbench/scene/picture_facts.h"
@@ -120,12 +121,23 @@ void PlanePicture::draw(const Meridax::Host::Ref<Meridax::Host::IHostCanvas>& ca
     control_->draw(canvas, area.width, area.height, LightNumber);
 }
 
-std::string PlanePicture::paint(PictureStudio& studio, const PictureOrder& order, bool withHeader) {
+DrawnPicture PlanePicture::drawn(const PictureOrder& order, bool withHeader) {
+    PaintingStudio studio;
     fit(studio.areaOf(order, withHeader ? header() : PictureHeader{}));
-    const PictureHeader strip = withHeader ? header() : PictureHeader{};
-    const auto picture = studio.open(order, strip);
-    draw(picture->canvas(), studio.areaOf(order, strip));
-    return picture->finish();
+    DrawnPicture picture{order, withHeader ? header() : PictureHeader{}, {}};
+    const PictureArea area = studio.areaOf(order, picture.strip);
+    CanvasRecorder canvas(area.textHeight);
+    draw(Host::Ref<Host::IHostCanvas>::share(&canvas), area);
+    picture.drawing = canvas.drawing();
+    return picture;
+}
+
+std::string paint(const DrawnPicture& picture, const ReadingProgress& progress) {
+    constexpr double PartOfPainting = 0.4;
+    PaintingStudio studio;
+    const auto open = studio.open(picture.order, picture.strip);
+    picture.drawing.drawOn(*open->canvas(), progress.between(0.0, PartOfPainting));
+    return open->finish(progress.between(PartOfPainting, 1.0));
 }
 
 }  // namespace Rotavue::Workbench

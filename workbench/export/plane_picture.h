@@ -5,6 +5,8 @@
 #include "workbench/bench/bench.h"
 #include "workbench/bench/plane.h"
 #include "workbench/paint/picture_studio.h"
+#include "workbench/paint/recorded_drawing.h"
+#include "workbench/recording/reading_watch.h"
 #include "workbench/scene/graph_scale.h"
 
 #include <cstdint>
@@ -12,6 +14,17 @@
 #include <string>
 
 namespace Rotavue::Workbench {
+
+/// A picture as a control has drawn it, with nothing of the control: what is left is to paint it.
+struct DrawnPicture {
+    PictureOrder order;
+    PictureHeader strip;
+    RecordedDrawing drawing;
+};
+
+/// The bytes of its file. Any thread may ask. Raises `std::runtime_error` where there can be none,
+/// and `ReadingCancelled`.
+std::string paint(const DrawnPicture& picture, const ReadingProgress& progress = ReadingProgress());
 
 /// A plane as it goes into a picture: dark on light, with the settings and the moment of the plane
 /// on the screen, drawn by a control of its own. The one on the screen is not disturbed, and where
@@ -42,8 +55,8 @@ public:
     void draw(const Meridax::Host::Ref<Meridax::Host::IHostCanvas>& canvas,
               const PictureArea& area);
 
-    /// The bytes of a file with the plane alone, with or without the strip.
-    std::string paint(PictureStudio& studio, const PictureOrder& order, bool withHeader);
+    /// A picture of the plane alone, with or without the strip.
+    DrawnPicture drawn(const PictureOrder& order, bool withHeader);
 
 private:
     /// The plane's host in light colours and without its listener, for as long as this lives.

@@ -1,7 +1,6 @@
 #include "workbench/export/plane_report.h"
 
 #include "workbench/export/plane_picture.h"
-#include "workbench/export/report_page.h"
 #include "workbench/scene/graph_scale.h"
 #include "workbench/scene/shown_span.h"
 #include "workbench/window/docks/number_sheet.h"
@@ -11,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <utility>
 
 namespace Rotavue::Workbench {
 
@@ -147,7 +147,7 @@ ReportTable reportNumbers(const Bench& bench) {
     return tableOf(sheetOf(bench));
 }
 
-std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameScale) {
+DrawnReport drawPlaneReport(Bench& bench, const PictureOrder& order, bool sameScale) {
     Pictures pictures;
     for (const auto& plane : bench.planes())
         pictures.push_back(std::make_unique<PlanePicture>(*plane, bench));
@@ -165,7 +165,7 @@ std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameS
              [plane](auto canvas, const PictureArea& area) { plane->draw(canvas, area); }});
     }
     addNotes(bench, sheet, content);
-    return paintReport(content, order);
+    return drawReport(std::move(content), order);
 }
 
 }  // namespace Rotavue::Workbench

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/bench/bench.h"
+#include "workbench/export/report_page.h"
 #include "workbench/export/report_table.h"
 #include "workbench/paint/picture_studio.h"
 
@@ -18,9 +19,9 @@ std::vector<std::string> reportFacts(const Bench& bench);
 /// The numbers of the shown turns, two columns for each plane.
 ReportTable reportNumbers(const Bench& bench);
 
-/// A report page of these planes, all of the bench: their orbits, at one scale if that is asked
-/// for, the numbers of the shown turns, and what a reader should know. Raises `std::runtime_error`
-/// where the plug-in fails or the page has no room.
-std::string paintPlaneReport(Bench& bench, const PictureOrder& order, bool sameScale);
+/// A report page of these planes, all of the bench, ready to be painted: their orbits, at one scale
+/// if that is asked for, the numbers of the shown turns, and what a reader should know. Raises
+/// `std::runtime_error` where the plug-in fails or the page has no room.
+DrawnReport drawPlaneReport(Bench& bench, const PictureOrder& order, bool sameScale);
 
 }  // namespace Rotavue::Workbench

@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace Rotavue::Workbench {
 
@@ -55,13 +56,26 @@ public:
                     .adjusted(measures_.margin, measures_.margin, -measures_.margin,
                               -measures_.margin)) {}
 
-    std::string paint() {
-        file_->painter().fillRect(0, 0, order_.width + 1, order_.height + 1, Qt::white);
-        paintHead();
-        paintNotes();
-        paintNumbers();
-        paintOrbits();
-        return file_->finish().toStdString();
+    std::vector<DrawnOrbit> draw(const std::vector<ReportOrbit>& orbits) {
+        paintAround();
+        std::vector<DrawnOrbit> drawn;
+        for (const QRect& place : roomFor(orbits.size()))
+            drawn.push_back(drawnIn(orderOf(place), orbits[drawn.size()]));
+        return drawn;
+    }
+
+    std::string paint(const std::vector<DrawnOrbit>& orbits, const ReadingProgress& progress) {
+        constexpr double PartOfPainting = 0.4;
+        paintAround();
+        const std::vector<QRect> places = roomFor(orbits.size());
+        const auto count = static_cast<double>(orbits.size());
+        const ReadingProgress painting = progress.between(0.0, PartOfPainting);
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            const auto before = static_cast<double>(i);
+            paintOrbit(orbits[i], places[i],
+                       painting.between(before / count, (before + 1.0) / count));
+        }
+        return file_->finish(progress.between(PartOfPainting, 1.0)).toStdString();
     }
 
 private:
@@ -77,6 +91,13 @@ private:
 
     void rule(int y) {
         file_->painter().fillRect(free_.x(), y, free_.width(), 1, fromHostColor(colors_.line));
+    }
+
+    void paintAround() {
+        file_->painter().fillRect(0, 0, order_.width + 1, order_.height + 1, Qt::white);
+        paintHead();
+        paintNotes();
+        paintNumbers();
     }
 
     void paintHead() {
@@ -140,35 +161,45 @@ private:
             rule(corner.y() + y);
     }
 
-    void paintOrbits() {
-        if (content_.orbits.empty()) return;
-        const auto places =
-            orbitPlaces(free_, static_cast<int>(content_.orbits.size()), measures_.scaled(16));
+    std::vector<QRect> roomFor(std::size_t orbits) {
+        if (orbits == 0) return {};
+        auto places = orbitPlaces(free_, static_cast<int>(orbits), measures_.scaled(16));
         const QSize cell = places.front().size();
         if (std::min(cell.width(), cell.height()) < LeastOrbitSide)
             throw PaintError("the page has no room for so many orbits");
-        for (std::size_t i = 0; i < places.size(); ++i)
-            paintOrbit(content_.orbits[i], places[i]);
+        return places;
     }
 
-    void paintOrbit(const ReportOrbit& orbit, const QRect& place) {
-        const PictureOrder order{.format = order_.format,
-                                 .width = place.width(),
-                                 .height = place.height(),
-                                 .colors = colors_};
-        const PictureHeader header = orbit.header(studio_.areaOf(order, {}));
-        const PictureArea area = studio_.areaOf(order, header);
+    PictureOrder orderOf(const QRect& place) const {
+        return {.format = order_.format,
+                .width = place.width(),
+                .height = place.height(),
+                .colors = colors_};
+    }
+
+    DrawnOrbit drawnIn(const PictureOrder& order, const ReportOrbit& orbit) {
+        DrawnOrbit drawn{orbit.header(studio_.areaOf(order, {})), {}};
+        const PictureArea area = studio_.areaOf(order, drawn.header);
+        CanvasRecorder canvas(area.textHeight);
+        orbit.draw(Host::Ref<Host::IHostCanvas>::share(&canvas), area);
+        drawn.drawing = canvas.drawing();
+        return drawn;
+    }
+
+    void paintOrbit(const DrawnOrbit& orbit, const QRect& place, const ReadingProgress& progress) {
+        const PictureOrder order = orderOf(place);
+        const PictureArea area = studio_.areaOf(order, orbit.header);
         QPainter& painter = file_->painter();
         painter.save();
         painter.translate(place.topLeft());
-        HeaderStrip(header, order, area.textHeight)
+        HeaderStrip(orbit.header, order, area.textHeight)
             .drawOn(painter, colors_, textFormOf(order_.format));
         painter.translate(0, place.height() - area.height);
         {
             PainterCanvas canvas(
                 painter, QSize(area.width, area.height),
                 {.fontHeight = area.textHeight, .text = textFormOf(order_.format)});
-            orbit.draw(Host::Ref<Host::IHostCanvas>::share(&canvas), area);
+            orbit.drawing.drawOn(canvas, progress);
         }
         painter.restore();
     }
@@ -184,8 +215,19 @@ private:
 
 }  // namespace
 
-std::string paintReport(const ReportContent& content, const PictureOrder& order) {
-    return Page(content, order).paint();
+// Where the orbits go follows from what else is on the page. That is put on a page of one pixel:
+// its layout is the same, and it costs next to nothing.
+DrawnReport drawReport(ReportContent content, const PictureOrder& order) {
+    PictureOrder pixel = order;
+    pixel.format = PictureFormat::Png;
+    pixel.fileWidth = pixel.fileHeight = 1;
+    const std::vector<ReportOrbit> orbits = std::exchange(content.orbits, {});
+    std::vector<DrawnOrbit> drawn = Page(content, pixel).draw(orbits);
+    return {std::move(content), order, std::move(drawn)};
+}
+
+std::string paintReport(const DrawnReport& report, const ReadingProgress& progress) {
+    return Page(report.content, report.order).paint(report.orbits, progress);
 }
 
 }  // namespace Rotavue::Workbench

@@ -7,7 +7,12 @@
 
 #include <QFile>
 #include <QImage>
+#include <QProgressBar>
 #include <QTest>
+
+#include <memory>
+#include <stdexcept>
+#include <thread>
 
 namespace Rotavue::Workbench {
 
@@ -15,13 +20,24 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-std::string empty(const PictureOrder& order, const ExportSettings&) {
-    PaintingStudio studio;
-    return studio.open(order, {})->finish();
+PaintFile empty(const PictureOrder& order, const ExportSettings&) {
+    return [order](const ReadingProgress& progress) {
+        PaintingStudio studio;
+        return studio.open(order, {})->finish(progress);
+    };
 }
 
-std::string failing(const PictureOrder&, const ExportSettings&) {
+PaintFile failing(const PictureOrder&, const ExportSettings&) {
     throw std::runtime_error("the plug-in failed");
+}
+
+/// For the preview as `empty`, for a file without end.
+PaintFile endless(const PictureOrder& order, const ExportSettings& settings) {
+    if (order.scale < 1.0) return empty(order, settings);
+    return [](const ReadingProgress& progress) -> std::string {
+        while (true)
+            progress.reach(0.5);
+    };
 }
 
 class ExportDialogTest : public WidgetTest {
@@ -36,7 +52,19 @@ protected:
                 .memory = [this] { return memory(); }};
     }
 
-    static void press(ExportDialog& dialog) { QTest::mouseClick(&dialog.save, Qt::LeftButton); }
+    /// Presses the button, and waits for what is saved then.
+    static void press(ExportDialog& dialog) {
+        QTest::mouseClick(&dialog.save, Qt::LeftButton);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.isSaving(); }));
+    }
+
+    /// Begins to save a picture that never ends.
+    void begin(ExportDialog& dialog) {
+        dialog.file.setText(at("orbit.png"));
+        dialog.show();
+        QTest::mouseClick(&dialog.save, Qt::LeftButton);
+        ASSERT_TRUE(dialog.isSaving());
+    }
 
     void writeOld(const QString& name) const {
         QFile file(at(name));
@@ -146,13 +174,15 @@ TEST_F(ExportDialogTest, PreviewHasTheShapeOfThePicture) {
 TEST_F(ExportDialogTest, PreviewShowsAllOfThePicture) {
     // Red is what lies in the lower right ninth.
     const auto corner = [](const PictureOrder& order, const ExportSettings&) {
-        PaintingStudio studio;
-        const auto picture = studio.open(order, {});
-        picture->canvas()->GetBrush()->SetColor(0xFF0000);
-        picture->canvas()->GetPen()->SetColor(0xFF0000);
-        picture->canvas()->Rectangle(order.width * 2 / 3, order.height * 2 / 3, order.width,
-                                     order.height);
-        return picture->finish();
+        return [order](const ReadingProgress& progress) {
+            PaintingStudio studio;
+            const auto picture = studio.open(order, {});
+            picture->canvas()->GetBrush()->SetColor(0xFF0000);
+            picture->canvas()->GetPen()->SetColor(0xFF0000);
+            picture->canvas()->Rectangle(order.width * 2 / 3, order.height * 2 / 3, order.width,
+                                         order.height);
+            return picture->finish(progress);
+        };
     };
     for (const double side : {300.0, 900.0, 3000.0}) {
         ExportDialog dialog(subject(corner));
@@ -205,6 +235,82 @@ TEST_F(ExportDialogTest, EscapeSavesNothing) {
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_TRUE(names().empty());
+}
+
+TEST_F(ExportDialogTest, WhatFailsWhileItIsPaintedIsToldAndLeavesNoFile) {
+    ExportDialog dialog(subject([](const PictureOrder& order, const ExportSettings& settings) {
+        if (order.scale < 1.0) return empty(order, settings);
+        return PaintFile([](const ReadingProgress&) -> std::string {
+            throw std::runtime_error("there is not enough memory for the picture");
+        });
+    }));
+    dialog.file.setText(at("orbit.png"));
+    press(dialog);
+    EXPECT_EQ(dialog.message.text(), "there is not enough memory for the picture");
+    EXPECT_TRUE(dialog.save.isEnabled());
+    EXPECT_TRUE(names().empty());
+}
+
+TEST_F(ExportDialogTest, WhatTakesLongTellsHowFarItIsAndAsksForNothingElse) {
+    ExportDialog dialog(subject(endless));
+    begin(dialog);
+    auto* const progress = dialog.findChild<QProgressBar*>("exportProgress");
+    EXPECT_TRUE(progress->isHidden());
+    EXPECT_FALSE(dialog.save.isEnabled());
+    EXPECT_FALSE(dialog.width.isEnabled());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return progress->isVisible(); }));
+    // Half of the painting, which is nine tenths of all.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return progress->value() == 450; }));
+    dialog.reject();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.isSaving(); }));
+    EXPECT_TRUE(progress->isHidden());
+    EXPECT_TRUE(dialog.width.isEnabled());
+}
+
+TEST_F(ExportDialogTest, ACancelSavesNothingAndTheDialogStays) {
+    writeOld("orbit.png");
+    ExportDialog dialog(subject(endless));
+    dialog.file.setText(at("orbit.png"));
+    dialog.show();
+    press(dialog);
+    QTest::mouseClick(&dialog.save, Qt::LeftButton);  // Replace
+    ASSERT_TRUE(dialog.isSaving());
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isSaving(); }));
+    EXPECT_EQ(dialog.message.text(), "Cancelled: nothing is saved.");
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(dialog.save.isEnabled());
+    EXPECT_EQ(read("orbit.png"), "old");
+    EXPECT_EQ(names(), Names{"orbit.png"});
+    EXPECT_EQ(dialog.savedFile(), "");
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(ExportDialogTest, ADialogThatGoesMeanwhileLeavesNoFile) {
+    auto dialog = std::make_unique<ExportDialog>(subject(endless));
+    begin(*dialog);
+    dialog.reset();
+    waitForEndingThreads();
+    EXPECT_TRUE(names().empty());
+}
+
+TEST_F(ExportDialogTest, APictureIsDrawnOnTheWindowsThreadAndPaintedOnAnother) {
+    std::thread::id drawing;
+    std::thread::id painting;
+    ExportDialog dialog(
+        subject([&](const PictureOrder& order, const ExportSettings& settings) -> PaintFile {
+            drawing = std::this_thread::get_id();
+            return [&painting, paint = empty(order, settings)](const ReadingProgress& progress) {
+                painting = std::this_thread::get_id();
+                return paint(progress);
+            };
+        }));
+    dialog.file.setText(at("orbit.png"));
+    press(dialog);
+    EXPECT_EQ(drawing, std::this_thread::get_id());
+    EXPECT_NE(painting, drawing);
+    EXPECT_EQ(dialog.savedFile(), at("orbit.png"));
 }
 
 // However often the button is pressed, and by whatever name.

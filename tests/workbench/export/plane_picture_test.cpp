@@ -5,6 +5,8 @@
 #include "workbench/scene/scheme_colors.h"
 
 #include <algorithm>
+#include <future>
+#include <vector>
 
 namespace Rotavue::Workbench {
 
@@ -13,8 +15,7 @@ namespace {
 class PlanePictureTest : public BenchTest {
 protected:
     std::string picture(Plane& plane) {
-        PaintingStudio studio;
-        return PlanePicture(plane, bench_).paint(studio, {.format = PictureFormat::Svg}, true);
+        return paint(PlanePicture(plane, bench_).drawn({.format = PictureFormat::Svg}, true));
     }
 };
 
@@ -49,6 +50,36 @@ TEST_F(PlanePictureTest, HasNoReadoutOfThePointerOnTheScreen) {
     plane.control().enterPointer();
     plane.control().movePointer(400, 300);
     EXPECT_EQ(picture(plane), before);
+}
+
+TEST_F(PlanePictureTest, WhatIsDrawnIsPaintedOnAnyThreadWithoutThePlane) {
+    for (const auto format : {PictureFormat::Png, PictureFormat::Svg, PictureFormat::Pdf}) {
+        const DrawnPicture drawn =
+            PlanePicture(add(), bench_).drawn({.format = format, .scale = 1.5}, true);
+        const std::string here = paint(drawn);
+        bench_.showPlanes({}, 0.0);
+        EXPECT_EQ(std::async(std::launch::async, [&] { return paint(drawn); }).get(), here);
+    }
+}
+
+TEST_F(PlanePictureTest, PaintingEndsAtTheNextWordWhenItIsCancelled) {
+    const DrawnPicture drawn = PlanePicture(add(), bench_).drawn({}, true);
+    std::vector<double> parts;
+    const auto paintWhile = [&](std::size_t words) {
+        parts.clear();
+        paint(drawn, ReadingProgress([&](double part) {
+                  parts.push_back(part);
+                  return parts.size() < words;
+              }));
+    };
+    paintWhile(1000);
+    EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+    const std::size_t words = parts.size();
+    EXPECT_GE(words, 10U);  // 600 rows, 64 a word, and one or more of the orbit
+    for (std::size_t i = 1; i <= words; ++i) {
+        EXPECT_THROW(paintWhile(i), ReadingCancelled);
+        EXPECT_EQ(parts.size(), i);
+    }
 }
 
 TEST_F(PlanePictureTest, LimitIsTheScreensAndCanBeFixed) {

@@ -92,8 +92,8 @@ TEST_F(PlaneReportTest, APageOfUpToFourPlanesIsPainted) {
     ASSERT_TRUE(QDir().mkpath(ROTAVUE_SCREENSHOTS_FOLDER));
     for (int planes = 1; planes <= 4; ++planes) {
         addNamed("Bearing " + std::to_string(planes) + ", drive end");
-        const std::string bytes = paintPlaneReport(
-            bench_, {.format = PictureFormat::Png, .width = 794, .height = 1123}, true);
+        const std::string bytes = paintReport(drawPlaneReport(
+            bench_, {.format = PictureFormat::Png, .width = 794, .height = 1123}, true));
         QFile file(QStringLiteral("%1/report-%2.png").arg(ROTAVUE_SCREENSHOTS_FOLDER).arg(planes));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(QByteArray::fromStdString(bytes));

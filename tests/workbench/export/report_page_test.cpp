@@ -29,7 +29,8 @@ protected:
     }
 
     static QImage imageOf(const ReportContent& content, const PictureOrder& order = A4) {
-        return QImage::fromData(QByteArray::fromStdString(paintReport(content, order)), "png");
+        return QImage::fromData(QByteArray::fromStdString(paintReport(drawReport(content, order))),
+                                "png");
     }
 
     static int count(const QImage& image, QColor color) {
@@ -93,7 +94,7 @@ TEST_F(ReportPageTest, LongTextsStayOnThePage) {
 TEST_F(ReportPageTest, PageThatHasNoRoomForItsOrbitsIsRefused) {
     const ReportContent content{
         .title = "Kit", .facts = {}, .orbits = std::vector<ReportOrbit>(100, orbit(0))};
-    EXPECT_THROW(paintReport(content, A4), std::runtime_error);
+    EXPECT_THROW(drawReport(content, A4), std::runtime_error);
     EXPECT_TRUE(areas.empty());
 }
 
@@ -103,7 +104,7 @@ TEST_F(ReportPageTest, IsTheSameFileEveryTime) {
         PictureOrder order = A4;
         order.format = format;
         const ReportContent content{.title = "Kit", .facts = {}, .orbits = {orbit(0xFF0000)}};
-        EXPECT_EQ(paintReport(content, order), paintReport(content, order));
+        EXPECT_EQ(paintReport(drawReport(content, order)), paintReport(drawReport(content, order)));
     }
 }
 

@@ -300,6 +300,7 @@ protected:
         QTest::keyClicks(&dialog->file, report);
         QTest::mouseClick(&dialog->save, Qt::LeftButton);
         QFile file(report);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return file.exists(); }));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const QByteArray bytes = file.readAll();
         EXPECT_TRUE(bytes.startsWith("%PDF-"));

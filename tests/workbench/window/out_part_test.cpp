@@ -58,7 +58,7 @@ TEST_F(OutPartTest, KeysCopyTheNumbersOfTheOrbit) {
 TEST_F(OutPartTest, KeysCopyThePictureOfTheOrbit) {
     open();
     QTest::keyClick(&window_, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    settle();
+    ASSERT_TRUE(QTest::qWaitFor([] { return !QGuiApplication::clipboard()->image().isNull(); }));
     EXPECT_TRUE(hasColor(
         QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32), 0xFF0072B2));
 }
@@ -72,6 +72,7 @@ TEST_F(OutPartTest, PictureLeavesTheWindow) {
     dialog->height.setValue(600);
     dialog->file.setText(file);
     QTest::mouseClick(&dialog->save, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(file); }));
     EXPECT_EQ(QImage(file).size(), QSize(800, 600));
 }
 
@@ -83,6 +84,7 @@ TEST_F(OutPartTest, ReportPageLeavesTheWindow) {
     dialog->file.setText(folder_.filePath("report.pdf"));
     QTest::mouseClick(&dialog->save, Qt::LeftButton);
     QFile file(folder_.filePath("report.pdf"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return file.exists(); }));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().startsWith("%PDF-"));
 }
