@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <future>
 #include <numbers>
 #include <utility>
 
 #include "workbench/recording/column_roles.h"
 #include "workbench/recording/degrees.h"
-#include "workbench/recording/far_mean.h"
 #include "workbench/recording/gaps.h"
 #include "workbench/recording/keyphasor.h"
 #include "workbench/recording/number_field.h"
@@ -58,10 +58,15 @@ Recording RecordingBuilder::build(const ReadingProgress& progress) {
     takeRate();
     takeDisplacements();
     progress.reach(PartOfDisplacements);
+    // Of a large recording each look at all samples takes time, and these wait for nothing.
+    auto farMeans = std::async(std::launch::async | std::launch::deferred, [this] {
+        return std::pair(farMeanOf(recording_.x, options_.x), farMeanOf(recording_.y, options_.y));
+    });
     takeKeyphasor();
     takeFacts();
-    noteFarProbe("X", recording_.x, options_.x);
-    noteFarProbe("Y", recording_.y, options_.y);
+    const auto [xFar, yFar] = farMeans.get();
+    noteFarProbe("X", xFar);
+    noteFarProbe("Y", yFar);
     progress.reach(1.0);
     return std::move(recording_);
 }
@@ -287,11 +292,14 @@ void RecordingBuilder::takeFacts() {
     facts.clearanceHeight = options_.clearanceHeight.value_or(0.0);
 }
 
+std::optional<FarMean> RecordingBuilder::farMeanOf(const Samples& values,
+                                                   const ProbeOptions& probe) const {
+    if (probe.rest || recording_.coupling == Coupling::Ac) return std::nullopt;
+    return farMean(values);
+}
+
 // The volts of a gap, or a displacement that counts from far away: of the orbit a dot is left.
-void RecordingBuilder::noteFarProbe(const char* name, const Samples& values,
-                                    const ProbeOptions& probe) {
-    if (probe.rest || recording_.coupling == Coupling::Ac) return;
-    const auto far = farMean(values);
+void RecordingBuilder::noteFarProbe(const char* name, const std::optional<FarMean>& far) {
     if (!far) return;
     const std::string& unit = recording_.machine.unit;
     const bool isVolts = unit == "V" || unit == "mV";

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "workbench/recording/far_mean.h"
 #include "workbench/recording/recording.h"
 #include "workbench/recording/sample_source.h"
 
@@ -32,7 +34,8 @@ private:
 
     void takeDisplacements();
     Samples displacement(ColumnRole role, const ProbeOptions& probe);
-    void noteFarProbe(const char* name, const Samples& values, const ProbeOptions& probe);
+    std::optional<FarMean> farMeanOf(const Samples& values, const ProbeOptions& probe) const;
+    void noteFarProbe(const char* name, const std::optional<FarMean>& far);
     void noteTurnedProbe(const char* name, const ProbeOptions& probe);
     void checkPairs() const;
     void noteGaps();
