@@ -37,7 +37,17 @@ std::shared_ptr<const PlaneSource> KeptForms::formOf(const std::shared_ptr<Kept>
 void KeptForms::hold(std::shared_ptr<const PlaneSource> form) {
     std::erase(held_, form);
     held_.push_back(std::move(form));
-    if (held_.size() > MostHeld) held_.pop_front();
+    while (held_.size() > 1 && holdsTooMuch())
+        held_.pop_front();
+}
+
+bool KeptForms::holdsTooMuch() const {
+    std::size_t memory = 0;
+    for (const auto& form : held_)
+        for (const Samples* samples :
+             {&form->recording.x, &form->recording.y, &form->recording.angle})
+            memory += samples->memoryUse();
+    return held_.size() > MostHeld || memory > mostMemory_;
 }
 
 std::shared_ptr<const PlaneSource> madeAnew(const std::shared_ptr<const PlaneSource>& original,

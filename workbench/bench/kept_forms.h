@@ -11,12 +11,17 @@ namespace Rotavue::Workbench {
 
 /// Forms of recordings that steps of undo may show again: a recording itself, or what is left of it
 /// without run-out. What is left has as many samples as the recording, so the newest few are held
-/// alone; an older one is made anew of its run-out when it is asked for, which takes as long as the
-/// recording is.
+/// alone, and of long recordings the very newest; an older one is made anew of its run-out when it
+/// is asked for, which takes as long as the recording is.
 class KeptForms {
 public:
     /// Forms without run-out that are held, beside those that planes show.
     static constexpr std::size_t MostHeld = 3;
+
+    /// Bytes of samples beyond which no more than the newest of them is held.
+    static constexpr std::size_t MostMemory = 64'000'000;
+
+    explicit KeptForms(std::size_t mostMemory = MostMemory) : mostMemory_(mostMemory) {}
 
     /// Enough to have a form again.
     struct Kept {
@@ -41,7 +46,9 @@ public:
 
 private:
     void hold(std::shared_ptr<const PlaneSource> form);
+    bool holdsTooMuch() const;
 
+    std::size_t mostMemory_;
     std::deque<std::shared_ptr<const PlaneSource>> held_;  ///< the newest last
 };
 

@@ -50,6 +50,26 @@ TEST_F(KeptFormsTest, HoldsTheNewestFewAndMakesAnOlderOneAnew) {
     EXPECT_TRUE(made[3].expired()) << "its place was needed";
 }
 
+// Room for one form and a half, so for the newest alone; and for that also where there is none.
+TEST_F(KeptFormsTest, HoldsNoMoreThanTheNewestOfLongRecordings) {
+    const auto one = left(0.5);
+    const Recording& recording = one->recording;
+    const std::size_t ofOne =
+        recording.x.memoryUse() + recording.y.memoryUse() + recording.angle.memoryUse();
+    for (const std::size_t most : {ofOne + ofOne / 2, std::size_t{1}}) {
+        KeptForms forms(most);
+        auto form = left(0.5);
+        const std::weak_ptr<const PlaneSource> older = form;
+        forms.keep(form);
+        form = left(0.6);
+        const std::weak_ptr<const PlaneSource> newest = form;
+        forms.keep(form);
+        form.reset();
+        EXPECT_TRUE(older.expired());
+        EXPECT_FALSE(newest.expired());
+    }
+}
+
 using UndoMemoryTest = BenchTest;
 
 TEST_F(UndoMemoryTest, ManyTakesOfRunOutKeepFewCopiesAndAllCanBeUndone) {
