@@ -89,6 +89,18 @@ void addOrders(const Recording& recording, const ShaftTrack& track, std::span<co
         "the lags count from no mark on the shaft: compare them within this recording alone");
 }
 
+void addPosition(const MachineFacts& machine, const ProbeValues& toCentre, OrbitSummary& summary) {
+    const ProbeValues& gap = *summary.direct.gap;
+    summary.position = shaftPosition(machine, {gap.x + toCentre.x, gap.y + toCentre.y});
+    if (!summary.position) {
+        summary.notes.emplace_back(
+            "the shaft's place in its bearing needs the clearance, and probes that look along two "
+            "directions");
+    } else if (!machine.rotation) {
+        summary.notes.emplace_back("the attitude angle needs the rotation");
+    }
+}
+
 }  // namespace
 
 OrbitSummary summarize(const Recording& recording, const ShaftTrack& track,
@@ -99,11 +111,7 @@ OrbitSummary summarize(const Recording& recording, const ShaftTrack& track,
     summary.span = {std::max(0.0, span.from), std::min(recording.duration(), span.to)};
     summary.unit = recording.machine.unit;
     summary.direct = directValues(recording, summary.span);
-    if (toCentre && summary.direct.gap) {
-        const ProbeValues& gap = *summary.direct.gap;
-        summary.position =
-            shaftPosition(recording.machine, {gap.x + toCentre->x, gap.y + toCentre->y});
-    }
+    if (toCentre && summary.direct.gap) addPosition(recording.machine, *toCentre, summary);
     try {
         addSpeed(track, track.wholeTurns(summary.span, "the harmonic analysis"), summary);
         addOrders(recording, track, orders, summary);

@@ -18,8 +18,11 @@ struct Mark {
 };
 
 Mark markBefore(SampleView angle, std::size_t from) {
+    double behind = angle[from];
     for (std::size_t i = from; i > 0; --i) {
-        if (std::abs(angle[i] - angle[i - 1]) > HalfTurn) return {i - 1, true};
+        const double before = angle[i - 1];
+        if (std::abs(behind - before) > HalfTurn) return {i - 1, true};
+        behind = before;
     }
     return {};
 }

@@ -136,8 +136,19 @@ namespace {
 
 /// The settings of a plane, but for those that suit its recording: where they are others for the
 /// new one, these.
+// What a change has made of the accepted settings, where others were tried out meanwhile: those are
+// not accepted with it.
+Settings afterChange(const Settings& accepted, const Settings& before, const Settings& after) {
+    Settings settings = accepted;
+    for (const auto& [key, value] : after) {
+        const auto found = before.find(key);
+        if (found == before.end() || found->second != value) settings[key] = value;
+    }
+    return settings;
+}
+
 Settings settingsFor(const PlaneSource& source, const Plane& plane) {
-    Settings settings = plane.settings();
+    Settings settings = plane.acceptedSettings();
     const Settings before = usualSettings(plane.original());
     for (const auto& [key, value] : usualSettings(source))
         if (before.at(key) != value) settings[key] = value;
@@ -244,13 +255,15 @@ void Bench::changeSettings(Plane& plane, const QString& what, int run, const Set
 }
 
 void Bench::setSettings(Plane& plane, const Settings& settings, const QString& what, int run) {
-    changeSettings(plane, what, run, plane.settings(), settings);
+    changeSettings(plane, what, run, plane.acceptedSettings(), settings);
 }
 
 void Bench::noticeSettings(Plane& plane, const QString& what, int run) {
     const Settings before = plane.settings();
     if (!has(plane) || !plane.readBack()) return;
-    changeSettings(plane, what, run, before, plane.settings());
+    if (!plane.isTryingOut()) return changeSettings(plane, what, run, before, plane.settings());
+    const Settings accepted = plane.acceptedSettings();
+    changeSettings(plane, what, run, accepted, afterChange(accepted, before, plane.settings()));
 }
 
 double Bench::duration() const {

@@ -395,7 +395,8 @@ bool FileActions::mayLoseChanges() {
                          QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window_);
     question.setObjectName(QStringLiteral("saveQuestion"));
     const int answer = whileAsking([&question] { return question.exec(); });
-    if (answer == QMessageBox::Save) return saveOrAsk();
+    // What has come while the name was asked for is in no file yet.
+    if (answer == QMessageBox::Save) return saveOrAsk() && mayLoseChanges();
     return answer == QMessageBox::Discard;
 }
 

@@ -71,13 +71,16 @@ void RecordingLoader::load(LoadRequest request) {
     if (!timer_.isActive()) beginNext();
 }
 
+// Nobody waits for the end of what is cancelled: a disk may not answer.
 void RecordingLoader::cancel() {
     std::deque<LoadRequest> dropped = std::exchange(waiting_, {});
-    if (task_ && !task_->isCancelled()) {
-        task_->cancel();
+    const std::unique_ptr<Task> task = std::move(task_);
+    if (task) {
+        task->cancel();
         dropped.push_front(current_);
     }
     drop(std::move(dropped));
+    if (task) goOn();
 }
 
 void RecordingLoader::cancelWaitingOfView() {
@@ -107,13 +110,17 @@ void RecordingLoader::beginNext() {
 void RecordingLoader::look() {
     if (task_->isDone()) {
         finish();
-        if (!waiting_.empty()) return beginNext();
-        timer_.stop();
-        Q_EMIT idle();
+        goOn();
     } else if (clock_.elapsed() - lastTold_ >= TellInterval) {
         lastTold_ = clock_.elapsed();
         Q_EMIT progressed(current_, task_->part(), lastTold_);
     }
+}
+
+void RecordingLoader::goOn() {
+    if (!waiting_.empty()) return beginNext();
+    timer_.stop();
+    Q_EMIT idle();
 }
 
 // Whether an answer may help is found where the file is read: the disk may be slow.
@@ -126,11 +133,9 @@ RecordingLoader::Loaded RecordingLoader::tryToLoad(const LoadRequest& request,
     }
 }
 
-// The end of what was cancelled has been told. Where that was too late it is dropped all the same.
 void RecordingLoader::finish() {
     const std::unique_ptr<Task> task = std::move(task_);
     const LoadRequest request = std::move(current_);
-    if (task->isCancelled()) return;
     try {
         const Loaded result = task->take();
         if (result.source) return Q_EMIT loaded(request, result.source);

@@ -51,7 +51,7 @@ public:
     void load(LoadRequest request);
 
     /// Cancels the recording that is being loaded and all that wait behind it. Each has its signal
-    /// before this returns.
+    /// before this returns, and what is asked for next waits for none of them.
     void cancel();
 
     /// Cancels those that wait for a view, likewise.
@@ -88,6 +88,7 @@ private:
     void drop(std::deque<LoadRequest> requests);
     void beginNext();
     void look();
+    void goOn();
     void finish();
 
     std::deque<LoadRequest> waiting_;

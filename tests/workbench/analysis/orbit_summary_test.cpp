@@ -46,6 +46,21 @@ TEST(OrbitSummary, MeasuresSmaxInThePictureFromTheMeanPoint) {
     EXPECT_EQ(summaryOf(recording).direct.peakPeak.y, 8.0);
 }
 
+TEST(OrbitSummary, SaysWhatThePlaceInTheBearingLacks) {
+    using Notes = std::vector<std::string>;
+    Recording recording = generate({.orders = {{1.0, {40, 30}, {20, 120}}}});
+    const auto summaryInBearing = [&recording] {
+        return summarize(recording, ShaftTrack(recording), FirstAndSecond, {}, ProbeValues{});
+    };
+    EXPECT_EQ(summaryInBearing().notes,
+              Notes{"the shaft's place in its bearing needs the clearance, and probes that look "
+                    "along two directions"});
+    recording.machine.clearanceWidth = recording.machine.clearanceHeight = 200.0;
+    EXPECT_EQ(summaryInBearing().notes, Notes{"the attitude angle needs the rotation"});
+    recording.machine.rotation = Rotation::Clockwise;
+    EXPECT_EQ(summaryInBearing().notes, Notes{});
+}
+
 TEST(OrbitSummary, KnowsNoGapOfAnAcCoupledRecording) {
     Recording recording = generate({.orders = {{1.0, {40, 30}, {20, 120}}}});
     recording.coupling = Coupling::Ac;

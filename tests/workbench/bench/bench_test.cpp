@@ -150,6 +150,51 @@ TEST_F(BenchTest, WhatTheControlChangedByItselfBecomesACommand) {
     EXPECT_EQ(plane.span().turns, 8);
 }
 
+/// Settings with which an edit of a limit begins where the scale is automatic.
+Settings manual(const Plane& plane) {
+    Settings settings = plane.acceptedSettings();
+    settings[L"useManualMagnitudeLimits"] = L"True";
+    return settings;
+}
+
+bool isManual(const Plane& plane) {
+    const Settings settings = plane.settings();
+    const auto found = settings.find(L"useManualMagnitudeLimits");
+    return found != settings.end() && found->second == L"True";
+}
+
+TEST_F(BenchTest, WhatWasTriedOutIsNotWhatUndoBringsBack) {
+    Plane& plane = add();
+    plane.tryOut(manual(plane));
+    ASSERT_TRUE(isManual(plane));
+    Settings circle = manual(plane);
+    circle[L"graphType"] = L"1";
+    bench_.setSettings(plane, circle, "circle");
+    EXPECT_TRUE(isManual(plane));
+    bench_.undoStack().undo();
+    EXPECT_FALSE(isManual(plane));
+}
+
+TEST_F(BenchTest, AChangeInThePanelAcceptsNothingThatIsTriedOut) {
+    Plane& plane = add();
+    plane.tryOut(manual(plane));
+    Settings fewer = manual(plane);
+    fewer[L"revolutions"] = L"2";
+    plane.control().load(fewer);
+    bench_.noticeSettings(plane, "turns");
+    EXPECT_EQ(plane.span().turns, 2);
+    EXPECT_FALSE(isManual(plane));
+    bench_.undoStack().undo();
+    EXPECT_EQ(plane.span().turns, 8);
+    EXPECT_FALSE(isManual(plane));
+}
+
+TEST_F(BenchTest, ARecordingThatIsReadAnewHasTheAcceptedSettings) {
+    Plane& plane = add();
+    plane.tryOut(manual(plane));
+    EXPECT_FALSE(isManual(bench_.replacePlane(plane, preparePlane(rotor(0.5)))));
+}
+
 TEST_F(BenchTest, CompensationCanBeUndone) {
     Plane& plane = add();
     const auto left = still(plane);

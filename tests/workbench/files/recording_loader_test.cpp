@@ -80,7 +80,7 @@ TEST_F(RecordingLoaderTest, CancelsWhatIsLoadedAndWhatWaits) {
     loader_.load({large("a.csv")});
     loader_.load({small("b.csv")});
     loader_.cancel();
-    EXPECT_EQ(log_, "cancelled a.csv\ncancelled b.csv\n");
+    EXPECT_EQ(log_, "cancelled a.csv\ncancelled b.csv\nidle\n");
     loader_.cancel();
     waitUntilIdle();
     EXPECT_EQ(log_, "cancelled a.csv\ncancelled b.csv\nidle\n");
@@ -103,7 +103,7 @@ TEST_F(RecordingLoaderTest, LoadsAgainAfterACancel) {
     loader_.cancel();
     loader_.load({small("b.csv")});
     waitUntilIdle();
-    EXPECT_EQ(log_, "cancelled a.csv\nloaded b.csv\nidle\n");
+    EXPECT_EQ(log_, "cancelled a.csv\nidle\nloaded b.csv\nidle\n");
 }
 
 TEST_F(RecordingLoaderTest, LeavesTheEventsOfTheWindowTheirTurn) {

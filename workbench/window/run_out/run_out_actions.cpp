@@ -117,6 +117,8 @@ bool RunOutActions::showMade(Plane& plane, const RunOutSource& source) {
         if (!left || left->runOut->source != source) continue;
         if (left->runOut->original != plane.sharedOriginal()) continue;
         cancel(plane);
+        // It may be about to go, by a step of undo that waits.
+        bench_->steps().cancel();
         if (plane.sharedShown() != left) bench_->showCompensated(plane, left);
         return true;
     }
@@ -193,6 +195,7 @@ void RunOutActions::choose(std::optional<CompensationForm> form) {
     Plane* const plane = marked_.plane();
     if (plane == nullptr) return;
     cancel(*plane);
+    bench_->steps().cancel();
     if (form == compensationOf(*plane)) return refresh();
     if (!form) return bench_->showOriginal(*plane);
     const auto known = known_.find(shared(plane));
