@@ -3,9 +3,9 @@
 #include "workbench/recording/recording_error.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 
 namespace {
 
@@ -13,7 +13,7 @@ using namespace Rotavue;
 /// The threads that read the parts take longer to begin and to end than to read so few rows.
 constexpr std::size_t MostParts = 6;
 
-using Columns = std::vector<std::vector<double>>;
+using Columns = std::vector<Workbench::Samples>;
 
 /// What a reading gives: columns, or the text of what is wrong.
 struct Reading {
@@ -21,9 +21,10 @@ struct Reading {
     std::string fault;
 };
 
-bool isSame(const std::vector<double>& one, const std::vector<double>& other) {
-    if (one.size() != other.size()) return false;
-    return one.empty() || std::memcmp(one.data(), other.data(), one.size() * sizeof(double)) == 0;
+/// To the bit, gaps as well.
+bool isSame(const Workbench::Samples& one, const Workbench::Samples& other) {
+    const auto bits = [](double value) { return std::bit_cast<std::uint64_t>(value); };
+    return std::ranges::equal(one, other, {}, bits, bits);
 }
 
 /// All columns, the first as a time and the others as vibration.
